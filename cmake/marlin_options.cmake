@@ -1,0 +1,28 @@
+# SPDX-License-Identifier: MIT
+# What every target of the project is compiled with.
+
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+find_program(MARLIN_CCACHE ccache)
+if(MARLIN_CCACHE AND PROJECT_IS_TOP_LEVEL AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${MARLIN_CCACHE})
+endif()
+
+# Headers are included as <marlin/folder/file.h>, in the tree as after installation.
+file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/include)
+file(CREATE_LINK ${PROJECT_SOURCE_DIR}/src ${PROJECT_BINARY_DIR}/include/marlin SYMBOLIC)
+
+function(marlin_target_options target)
+  target_compile_features(${target} PUBLIC cxx_std_20)
+  set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
+  target_compile_options(${target} PRIVATE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2 -Wnull-dereference
+    -Wundef -Wunused)
+  if(MARLIN_SANITIZE)
+    target_compile_options(${target} PRIVATE
+      -fsanitize=${MARLIN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(${target} PRIVATE -fsanitize=${MARLIN_SANITIZE})
+  endif()
+endfunction()

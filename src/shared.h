@@ -17,6 +17,9 @@
 #include <marlin/platform/text/ascii.h>
 #include <marlin/platform/text/c_string.h>
 #include <marlin/platform/text/string_table.h>
+#include <marlin/resources/messages.h>
+#include <marlin/settings/crc_file.h>
+#include <marlin/settings/file_checksum.h>
 #include <marlin/settings/hashed_string.h>
 #include <marlin/settings/ini_file.h>
 #include <marlin/settings/section.h>

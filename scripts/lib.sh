@@ -16,7 +16,7 @@ fail() {
 }
 
 # quietly LOG COMMAND...: the command's output goes to build/logs/LOG.log; when it fails, the
-# errors in it (or its end) are shown and the command's status is returned.
+# errors in it (or else its end) are shown and the command's status is returned.
 quietly() {
     local log=$logs/$1.log status=0
     shift
@@ -24,11 +24,11 @@ quietly() {
     "$@" >"$log" 2>&1 || status=$?
     if [ "$status" -ne 0 ]; then
         {
-            say "failed ($status): $*"
-            grep -E -A 4 '(error|Error|ERROR|FAILED|warning):? ' "$log" | head -n 40 || true
-            say "... the end of $log:"
-            tail -n 25 "$log"
-        } >&2
+            say "failed with status $status: $*"
+            grep -E -A 3 '(error|Error|warning):? |undefined reference|^E: ' "$log" | head -n 40 ||
+                tail -n 25 "$log"
+            say "all of it: $log"
+        } | cut -c 1-400 >&2
     fi
     return "$status"
 }

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <deque>
-#include <string>
-#include <string_view>
-
 #include <marlin/platform/export.h>
 #include <marlin/settings/hashed_string.h>
 #include <marlin/settings/section_key.h>
+
+#include <deque>
+#include <string>
+#include <string_view>
 
 /// A named, ordered group of keys: the unit in which records write and read themselves. Several
 /// keys may bear one name, look-ups find the first; keys without a name are comment lines.
@@ -25,6 +25,7 @@ public:
 
     Section(const char* name) : m_Name(name) {}
     Section(const std::string& name) : m_Name(name) {}
+    explicit Section(std::string_view name) : m_Name(name) {}
 
     [[nodiscard]] const HashedString& GetName() const noexcept { return m_Name; }
     void SetName(const HashedString& name) { m_Name = name; }
@@ -34,6 +35,8 @@ public:
     void SetComments(const char* comments);
     [[nodiscard]] bool IsValid() const noexcept { return !m_Name.empty(); }
     [[nodiscard]] int NumKeys() const noexcept { return static_cast<int>(m_Keys.size()); }
+    /// The keys in their order, to walk over.
+    [[nodiscard]] const std::deque<SectionKey>& Keys() const noexcept { return m_Keys; }
     /// Removes all keys; name and comments stay.
     void Clear() noexcept { m_Keys.clear(); }
 
@@ -44,6 +47,8 @@ public:
     /// Appends at the end, whether or not a key of that name is there; true.
     bool AddKey(const SectionKey& key);
     bool AddKey(SectionKey&& key);
+    /// The same from the parts of a line of a settings file.
+    bool AddKey(std::string_view name, std::string_view value, std::string_view comments);
     bool AddKey(const char* name);
     bool AddKey(const std::string& name);
     Section& operator+=(const SectionKey& key);
@@ -85,9 +90,8 @@ public:
     bool operator>(const Section& other) const noexcept { return m_Name > other.m_Name; }
 
 private:
-    friend class IniFile;
-
-    [[nodiscard]] const SectionKey* FindKey(std::string_view name, unsigned int hash) const noexcept;
+    [[nodiscard]] const SectionKey* FindKey(std::string_view name,
+                                            unsigned int hash) const noexcept;
     [[nodiscard]] const SectionKey* FindKey(std::string_view name) const noexcept;
     SectionKey& KeyOrNew(std::string_view name);
     bool RemoveKeyNamed(std::string_view name, unsigned int hash);

@@ -39,7 +39,7 @@ bool LineReader::NextAfterRefill(std::string_view& line) {
 
 // Moves what is left to the front of the buffer and reads more behind it.
 bool LineReader::Refill() {
-    constexpr std::size_t firstCapacity = 256 * 1024;
+    constexpr std::size_t firstCapacity = 32 * 1024;
     if (!m_File.IsOpen()) {
         return false;
     }

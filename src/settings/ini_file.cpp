@@ -3,6 +3,7 @@
 #include <marlin/base/file_replacement.h>
 #include <marlin/resources/messages.h>
 #include <marlin/settings/detail/name_index.h>
+#include <marlin/settings/detail/name_pool.h>
 #include <marlin/settings/detail/section_text.h>
 #include <marlin/settings/ini_file.h>
 
@@ -30,7 +31,7 @@ public:
             return false;
         }
         m_Index.Add(hash, m_Sections.size());
-        m_Current = &m_Sections.emplace_back(name);
+        m_Current = &m_Sections.emplace_back(HashedString(name));
         if (!comments.empty()) {
             m_Current->SetComments(std::string(comments));
         }
@@ -38,7 +39,7 @@ public:
     }
 
     void AddKey(std::string_view name, std::string_view value, std::string_view comments) {
-        m_Current->AddKey(name, value, comments);
+        m_Current->AddKey(m_Names.Of(name), value, comments);
     }
 
     void DropSection() { m_Sections.pop_back(); }
@@ -47,6 +48,7 @@ private:
     std::deque<Section>& m_Sections;
     Section* m_Current = nullptr;
     MARLINSUITE::NameIndex m_Index;
+    MARLINSUITE::NamePool m_Names;
 };
 
 }  // namespace
@@ -180,7 +182,7 @@ Section& IniFile::SectionOrNew(std::string_view name) {
     if (const Section* const found = FindSection(name)) {
         return const_cast<Section&>(*found);  // of this file, which is not const here
     }
-    return m_Sections.emplace_back(name);
+    return m_Sections.emplace_back(HashedString(name));
 }
 
 Section& IniFile::operator[](const std::string& name) {

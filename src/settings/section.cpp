@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/crc_checksum.h>
+#include <marlin/settings/detail/name_hash.h>
 #include <marlin/settings/section.h>
 
 #include <algorithm>
@@ -12,7 +13,7 @@
 
 void Section::SetComments(const char* comments) {
     if (comments) {
-        m_Comments = comments;
+        m_Comments.Set(comments);
     }
 }
 
@@ -26,7 +27,7 @@ const SectionKey* Section::FindKey(std::string_view name, unsigned int hash) con
 }
 
 const SectionKey* Section::FindKey(std::string_view name) const noexcept {
-    return FindKey(name, HashedString::ComputeHashValue(name));
+    return FindKey(name, MARLINSUITE::HashOfName(name));
 }
 
 bool Section::HasKey(const SectionKey& key) const noexcept {
@@ -51,7 +52,7 @@ bool Section::AddKey(SectionKey&& key) {
     return true;
 }
 
-bool Section::AddKey(std::string_view name, std::string_view value, std::string_view comments) {
+bool Section::AddKey(const HashedString& name, std::string_view value, std::string_view comments) {
     m_Keys.emplace_back(name, value, comments);
     return true;
 }
@@ -85,7 +86,7 @@ SectionKey& Section::KeyOrNew(std::string_view name) {
     if (const SectionKey* const key = FindKey(name)) {
         return const_cast<SectionKey&>(*key);  // of this section, which is not const here
     }
-    return m_Keys.emplace_back(name, std::string_view(), std::string_view());
+    return m_Keys.emplace_back(HashedString(name), std::string_view(), std::string_view());
 }
 
 SectionKey& Section::operator[](const std::string& name) {

@@ -3,6 +3,7 @@
 
 #include <marlin/platform/export.h>
 #include <marlin/settings/hashed_string.h>
+#include <marlin/settings/rare_text.h>
 #include <marlin/settings/section_key.h>
 
 #include <deque>
@@ -25,12 +26,12 @@ public:
 
     Section(const char* name) : m_Name(name) {}
     Section(const std::string& name) : m_Name(name) {}
-    explicit Section(std::string_view name) : m_Name(name) {}
+    explicit Section(const HashedString& name) : m_Name(name) {}
 
     [[nodiscard]] const HashedString& GetName() const noexcept { return m_Name; }
     void SetName(const HashedString& name) { m_Name = name; }
-    [[nodiscard]] const std::string& GetComments() const noexcept { return m_Comments; }
-    void SetComments(const std::string& comments) { m_Comments = comments; }
+    [[nodiscard]] const std::string& GetComments() const noexcept { return m_Comments.Get(); }
+    void SetComments(const std::string& comments) { m_Comments.Set(comments); }
     /// A null pointer is ignored.
     void SetComments(const char* comments);
     [[nodiscard]] bool IsValid() const noexcept { return !m_Name.empty(); }
@@ -48,7 +49,7 @@ public:
     bool AddKey(const SectionKey& key);
     bool AddKey(SectionKey&& key);
     /// The same from the parts of a line of a settings file.
-    bool AddKey(std::string_view name, std::string_view value, std::string_view comments);
+    bool AddKey(const HashedString& name, std::string_view value, std::string_view comments);
     bool AddKey(const char* name);
     bool AddKey(const std::string& name);
     Section& operator+=(const SectionKey& key);
@@ -97,6 +98,6 @@ private:
     bool RemoveKeyNamed(std::string_view name, unsigned int hash);
 
     HashedString m_Name;
-    std::string m_Comments;
+    RareText m_Comments;
     std::deque<SectionKey> m_Keys;
 };

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/temporary_folder.h"
 #include <marlin/base/color_table.h>
 
 #include <limits>
@@ -7,7 +8,6 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <support/temporary_folder.h>
 
 namespace {
 
@@ -84,8 +84,8 @@ TEST(ColorTable, AFileIsWrittenByteForByteAndReadsBackExactly) {
     FileObject file;
     file.SetEntry("ColorTable", "Entry(2)", "9,9,9,9", FileObject::APPEND);
     ASSERT_TRUE(table.FileSave(file));
-    ASSERT_TRUE(file.FileSave(folder.Name("t.col").c_str(), 0x1011));
-    const std::string text = folder.Read("t.col");
+    ASSERT_TRUE(file.FileSave(folder.File("t.col").c_str(), 0x1011));
+    const std::string text = TemporaryFolder::Read(folder.File("t.col"));
     EXPECT_EQ(text,
               "[ColorTable]\r\nBelow    = 4278190080\r\nEntry(0) = -7000,0,240,255\r\n"
               "Entry(1) = 0.1,3,2,1\r\n\r\n");

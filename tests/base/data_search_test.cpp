@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "support/temporary_folder.h"
 #include <marlin/base/data_search.h>
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
-#include <support/temporary_folder.h>
 
 namespace {
 
@@ -14,9 +14,9 @@ protected:
     DataSearchTest() {
         ::unsetenv("MARLIN_DATA_DIR");
         ::unsetenv("XDG_DATA_HOME");
-        ::setenv("HOME", m_Folder.Name("home").c_str(), 1);
+        ::setenv("HOME", m_Folder.File("home").c_str(), 1);
         ::setenv("XDG_DATA_DIRS",
-                 ("relative:" + m_Folder.Name("one") + "::" + m_Folder.Name("two")).c_str(), 1);
+                 ("relative:" + m_Folder.File("one") + "::" + m_Folder.File("two")).c_str(), 1);
     }
 
     static std::string FilePath() {
@@ -35,16 +35,16 @@ protected:
 };
 
 TEST_F(DataSearchTest, WithoutAnyFolderTheFirstCandidateIsGiven) {
-    EXPECT_EQ(FilePath(), m_Folder.Name("home/.local/share/marlin/contours"));
-    EXPECT_EQ(FullPath("Keywords"), m_Folder.Name("home/.local/share/marlin/keywords/Keywords"));
-    ::setenv("XDG_DATA_HOME", m_Folder.Name("data").c_str(), 1);
-    EXPECT_EQ(FilePath(), m_Folder.Name("data/marlin/contours"));
-    ::setenv("MARLIN_DATA_DIR", m_Folder.Name("own").c_str(), 1);
-    EXPECT_EQ(FilePath(), m_Folder.Name("own/contours"));
+    EXPECT_EQ(FilePath(), m_Folder.File("home/.local/share/marlin/contours"));
+    EXPECT_EQ(FullPath("Keywords"), m_Folder.File("home/.local/share/marlin/keywords/Keywords"));
+    ::setenv("XDG_DATA_HOME", m_Folder.File("data").c_str(), 1);
+    EXPECT_EQ(FilePath(), m_Folder.File("data/marlin/contours"));
+    ::setenv("MARLIN_DATA_DIR", m_Folder.File("own").c_str(), 1);
+    EXPECT_EQ(FilePath(), m_Folder.File("own/contours"));
 }
 
 TEST_F(DataSearchTest, TheFirstThatExistsIsTakenAtEachLookUp) {
-    ::setenv("MARLIN_DATA_DIR", m_Folder.Name("own").c_str(), 1);
+    ::setenv("MARLIN_DATA_DIR", m_Folder.File("own").c_str(), 1);
     for (const char* place : {"two/marlin", "one/marlin", "home/.local/share/marlin", "own"}) {
         const std::string path = m_Folder.Write(std::string(place) + "/keywords/Keywords", "");
         EXPECT_EQ(FullPath("Keywords"), path);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "support/temporary_folder.h"
 #include <marlin/base/file_object.h>
 
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <support/temporary_folder.h>
 
 namespace {
 
@@ -45,11 +45,11 @@ TEST(FileObject, ASavedFileReadsBackAsItWas) {
     file.SetEntry("General", "LongerName", "22", FileObject::APPEND);
     file.SetEntry("General", "A", "1", FileObject::APPEND);
     file.SetEntry("Other", "A", "", FileObject::APPEND);
-    ASSERT_TRUE(file.FileSave(folder.Name("b.ini").c_str(), 0x1011));
-    EXPECT_EQ(folder.Read("b.ini"),
+    ASSERT_TRUE(file.FileSave(folder.File("b.ini").c_str(), 0x1011));
+    EXPECT_EQ(TemporaryFolder::Read(folder.File("b.ini")),
               "[General]\r\nLongerName = 22\r\nA          = 1\r\n\r\n[Other]\r\nA = \r\n\r\n");
     FileObject again;
-    ASSERT_TRUE(again.FileOpen(folder.Name("b.ini").c_str(), 0x20));
+    ASSERT_TRUE(again.FileOpen(folder.File("b.ini").c_str(), 0x20));
     EXPECT_EQ(WalkOver(again), WalkOver(file));
 }
 
@@ -88,8 +88,8 @@ TEST(FileObject, LookUpsFollowARemovedSection) {
 TEST(FileObject, AFileThatDoesNotReadEmptiesTheObjectAndSaysWhy) {
     const TemporaryFolder folder;
     const std::pair<std::string, std::string> table[] = {
-        {folder.Name("missing"), "Error opening \"" + folder.Name("missing") + "\" for reading!"},
-        {folder.Name(""), "Error opening \"" + folder.Name("") + "\" for reading!"},
+        {folder.File("missing"), "Error opening \"" + folder.File("missing") + "\" for reading!"},
+        {folder.File(""), "Error opening \"" + folder.File("") + "\" for reading!"},
         {folder.Write("bad", "[A]\nk=1\n[]\n"), "Invalid section definition on line 3"},
         {folder.Write("twice", "[A]\n[a]\n"), "Error! Duplicate sectiona found!"}};
     for (const auto& [path, message] : table) {
@@ -103,8 +103,8 @@ TEST(FileObject, AFileThatDoesNotReadEmptiesTheObjectAndSaysWhy) {
 
 TEST(FileObject, ASaveThatFailsSaysSo) {
     const TemporaryFolder folder;
-    EXPECT_FALSE(FileObject().FileSave(folder.Name("no/folder").c_str(), 0x1011));
-    EXPECT_NE(ErrorString::LastError().Text().find(folder.Name("no/folder")), std::string::npos);
+    EXPECT_FALSE(FileObject().FileSave(folder.File("no/folder").c_str(), 0x1011));
+    EXPECT_NE(ErrorString::LastError().Text().find(folder.File("no/folder")), std::string::npos);
 }
 
 }  // namespace

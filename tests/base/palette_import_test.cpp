@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/temporary_folder.h"
 #include <marlin/base/palette_import.h>
 
 #include <string>
@@ -6,7 +7,6 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <support/temporary_folder.h>
 
 namespace {
 
@@ -200,9 +200,9 @@ TEST(PaletteImport, OverlongLinesFilesAndItemsFailShortly) {
 TEST(PaletteImport, AFileThatCannotBeReadIsNamedWithTheReason) {
     const TemporaryFolder folder;
     ColorTable table;
-    EXPECT_EQ(ImportPalette(folder.Name("no.cpt"), table).Text(),
-              folder.Name("no.cpt") + ": No such file or directory");
-    EXPECT_EQ(ImportPalette(folder.Name(""), table).Text(), folder.Name("") + ": Is a directory");
+    EXPECT_EQ(ImportPalette(folder.File("no.cpt"), table).Text(),
+              folder.File("no.cpt") + ": No such file or directory");
+    EXPECT_EQ(ImportPalette(folder.File(""), table).Text(), folder.File("") + ": Is a directory");
 }
 
 TEST(PaletteImport, TheExamplePaletteRunsFromTheDeepToTheShore) {

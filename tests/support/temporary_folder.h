@@ -1,43 +1,47 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <atomic>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <string_view>
 
-#include <stdlib.h>
+#include <unistd.h>
 
-/// A folder of its own for one test, removed with all it holds.
+/// A folder of one test case, removed with it.
 class TemporaryFolder {
 public:
     TemporaryFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "marlin-XXXXXX").string();
-        m_Path = ::mkdtemp(pattern.data());
+        static std::atomic<int> counter = 0;
+        m_Path = std::filesystem::temp_directory_path() /
+                 ("marlin-test-" + std::to_string(::getpid()) + "-" + std::to_string(counter++));
+        std::filesystem::create_directories(m_Path);
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder() {
-        std::error_code error;
-        std::filesystem::remove_all(m_Path, error);
+        std::error_code ignored;  // what cannot be removed is left to the system
+        std::filesystem::remove_all(m_Path, ignored);
     }
 
-    [[nodiscard]] const std::filesystem::path& Path() const noexcept { return m_Path; }
-
-    /// The full path of a name in the folder.
-    [[nodiscard]] std::string Name(const std::string& name) const { return m_Path / name; }
+    [[nodiscard]] std::string File(const std::string& name) const { return m_Path / name; }
 
     /// Writes a file, and the folders that it needs; its full path.
     std::string Write(const std::string& name, std::string_view bytes) const {
         std::filesystem::create_directories((m_Path / name).parent_path());
-        std::ofstream(m_Path / name, std::ios::binary) << bytes;
-        return Name(name);
+        std::ofstream(File(name), std::ios::binary) << bytes;
+        return File(name);
     }
 
-    [[nodiscard]] std::string Read(const std::string& name) const {
-        std::ifstream file(m_Path / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+    [[nodiscard]] static std::string Read(const std::string& path) {
+        std::ifstream in(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+
+    [[nodiscard]] int NumFiles() const {
+        return static_cast<int>(std::distance(std::filesystem::directory_iterator(m_Path), {}));
     }
 
 private:

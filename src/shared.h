@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Every public class of the library, the Qt part excepted.
+
+#include <marlin/base/color_table.h>
+#include <marlin/base/crc32.h>
+#include <marlin/base/crc_checksum.h>
+#include <marlin/base/error_string.h>
+#include <marlin/base/file_name.h>
+#include <marlin/base/file_object.h>
+#include <marlin/base/file_replacement.h>
+#include <marlin/base/math.h>
+#include <marlin/base/number_text.h>
+#include <marlin/base/text_functions.h>
+#include <marlin/platform/export.h>
+#include <marlin/platform/text/ascii.h>
+#include <marlin/platform/text/c_string.h>
+#include <marlin/platform/text/string_table.h>
+#include <marlin/resources/messages.h>
+#include <marlin/settings/crc_file.h>
+#include <marlin/settings/file_checksum.h>
+#include <marlin/settings/hashed_string.h>
+#include <marlin/settings/ini_file.h>
+#include <marlin/settings/section.h>
+#include <marlin/settings/section_key.h>

@@ -29,7 +29,9 @@ public:
 
     [[nodiscard]] std::string File(const std::string& name) const { return m_Path / name; }
 
+    /// Writes a file, and the folders that it needs; its full path.
     std::string Write(const std::string& name, std::string_view bytes) const {
+        std::filesystem::create_directories((m_Path / name).parent_path());
         std::ofstream(File(name), std::ios::binary) << bytes;
         return File(name);
     }

@@ -2,7 +2,9 @@
 #include <marlin/base/color_table.h>
 #include <marlin/contours/contour_definition_list.h>
 
+#include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <limits>
 #include <vector>
 
@@ -72,6 +74,36 @@ TEST(ContourDefinitionList, SortsManyLevelsInAnyOrderOfAdding) {
     for (int i = 0; i < 1009; ++i) {
         EXPECT_EQ(list.Find(i), i);
     }
+}
+
+// Against a plain vector, through every mixture of places.
+TEST(ContourDefinitionList, StaysInOrderThroughAddingAndRemoving) {
+    ContourDefinitionList list;
+    Levels sorted;
+    unsigned int random = 1;
+    for (int i = 0; i < 3000; ++i) {
+        random = random * 1664525U + 1013904223U;
+        const double level = random >> 20U;
+        const auto place = std::lower_bound(sorted.begin(), sorted.end(), level);
+        const bool isThere = place != sorted.end() && *place == level;
+        const int index = isThere ? -1 : static_cast<int>(place - sorted.begin());
+        EXPECT_EQ(list.Add(At(level)), index);
+        if (!isThere) {
+            sorted.insert(place, level);
+        }
+        if (i % 3 == 0 || (i > 1500 && i < 2500)) {
+            const auto removed = static_cast<std::ptrdiff_t>((random >> 8U) % sorted.size());
+            EXPECT_TRUE(list.Remove(static_cast<int>(removed)));
+            sorted.erase(sorted.begin() + removed);
+        }
+    }
+    EXPECT_EQ(LevelsOf(list), sorted);
+    while (list.NumContours() > 0) {
+        EXPECT_TRUE(list.Remove(0));
+    }
+    EXPECT_EQ(list.Add(At(3.0)), 0);
+    EXPECT_EQ(list.Add(At(1.0)), 0);
+    EXPECT_EQ(LevelsOf(list), (Levels{1.0, 3.0}));
 }
 
 TEST(ContourDefinitionList, FindsLevelsExactly) {

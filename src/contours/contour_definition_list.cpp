@@ -23,15 +23,13 @@ double FirstLevel(double lowest, double interval) {
     return first < lowest ? first + interval : first;
 }
 
-// -1 for too many levels and for an interval that does not move one of them.
+// -1 for too many levels, among them the endless ones of an interval that does not move a level.
 int CountLevels(double first, double highest, double interval) {
     int count = 0;
-    for (double level = first; level <= highest;) {
-        const double next = level + interval;
-        if (!(next > level) || ++count > ContourDefinitionList::MaxGeneratedLevels) {
+    for (double level = first; level <= highest; level += interval) {
+        if (++count > ContourDefinitionList::MaxGeneratedLevels) {
             return -1;
         }
-        level = next;
     }
     return count;
 }

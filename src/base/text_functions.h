@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-#include <string_view>
-
 #include <marlin/platform/export.h>
 #include <marlin/platform/text/c_string.h>
+
+#include <string>
+#include <string_view>
 
 // Texts are bytes; case is that of the ASCII letters, whatever the locale.
 
 /// Equality ignoring case.
 [[nodiscard]] MARLIN_API bool icompare(std::string_view a, std::string_view b) noexcept;
 
-/// A strict order of texts, ignoring case where that tells them apart and by bytes where only
-/// case differs: of two different texts exactly one is smaller.
+/// A strict order of texts ignoring case: of two texts that `icompare` tells apart exactly one
+/// is smaller.
 [[nodiscard]] MARLIN_API bool Smaller(std::string_view a, std::string_view b) noexcept;
 [[nodiscard]] MARLIN_API bool Greater(std::string_view a, std::string_view b) noexcept;
 
@@ -32,3 +32,6 @@ MARLIN_API CString& operator<<(CString& text, bool value);
 MARLIN_API CString& operator<<(CString& text, int value);
 MARLIN_API CString& operator<<(CString& text, unsigned long value);
 MARLIN_API CString& operator<<(CString& text, float value);
+/// Appends the text itself; a null pointer appends nothing.
+MARLIN_API CString& operator<<(CString& text, const char* value);
+MARLIN_API CString& operator<<(CString& text, const CString& value);

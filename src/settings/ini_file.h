@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <deque>
-#include <string>
-#include <string_view>
-
 #include <marlin/base/error_string.h>
 #include <marlin/base/file_name.h>
 #include <marlin/base/file_object.h>
 #include <marlin/platform/export.h>
 #include <marlin/settings/section.h>
+
+#include <deque>
+#include <string>
+#include <string_view>
+
+namespace MARLINSUITE {
+class LineReader;
+}
 
 /// A settings file in memory: an ordered list of sections, read from and written to a text
 /// file. Names of sections are compared ignoring case; `AddSection` and reading keep them
@@ -46,6 +50,8 @@ public:
     /// Stores every named key into the file object, replacing values of the same key; true.
     bool Save(FileObject& file) const;
 
+    /// The sections in their order, to walk over.
+    [[nodiscard]] const std::deque<Section>& Sections() const noexcept { return m_Sections; }
     void Clear() noexcept { m_Sections.clear(); }
     [[nodiscard]] bool Empty() const noexcept { return m_Sections.empty(); }
     [[nodiscard]] int NumSections() const noexcept { return static_cast<int>(m_Sections.size()); }
@@ -59,8 +65,8 @@ public:
     bool AddSection(const Section& section);
 
     /// The section of that name; when there is none, an empty one is appended.
-    [[nodiscard]] Section& operator[](const std::string& name);
-    [[nodiscard]] Section& operator[](const char* name);
+    Section& operator[](const std::string& name);
+    Section& operator[](const char* name);
     /// The section of that name, or `m_ErrorSection`.
     [[nodiscard]] const Section& operator[](const std::string& name) const noexcept;
     [[nodiscard]] const Section& operator[](const char* name) const noexcept;
@@ -78,7 +84,9 @@ public:
     bool RenameSection(const char* from, const char* to);
 
 private:
-    [[nodiscard]] const Section* FindSection(std::string_view name, unsigned int hash) const noexcept;
+    ErrorString Read(MARLINSUITE::LineReader& lines, const std::string& path);
+    [[nodiscard]] const Section* FindSection(std::string_view name,
+                                             unsigned int hash) const noexcept;
     [[nodiscard]] const Section* FindSection(std::string_view name) const noexcept;
     Section& SectionOrNew(std::string_view name);
     bool RemoveSectionNamed(std::string_view name, unsigned int hash);

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/platform/export.h>
+#include <marlin/settings/hashed_string.h>
+#include <marlin/settings/rare_text.h>
+#include <marlin/settings/section_key.h>
+
 #include <deque>
 #include <string>
 #include <string_view>
-
-#include <marlin/platform/export.h>
-#include <marlin/settings/hashed_string.h>
-#include <marlin/settings/section_key.h>
 
 /// A named, ordered group of keys: the unit in which records write and read themselves. Several
 /// keys may bear one name, look-ups find the first; keys without a name are comment lines.
@@ -25,15 +26,18 @@ public:
 
     Section(const char* name) : m_Name(name) {}
     Section(const std::string& name) : m_Name(name) {}
+    explicit Section(const HashedString& name) : m_Name(name) {}
 
     [[nodiscard]] const HashedString& GetName() const noexcept { return m_Name; }
     void SetName(const HashedString& name) { m_Name = name; }
-    [[nodiscard]] const std::string& GetComments() const noexcept { return m_Comments; }
-    void SetComments(const std::string& comments) { m_Comments = comments; }
+    [[nodiscard]] const std::string& GetComments() const noexcept { return m_Comments.Get(); }
+    void SetComments(const std::string& comments) { m_Comments.Set(comments); }
     /// A null pointer is ignored.
     void SetComments(const char* comments);
     [[nodiscard]] bool IsValid() const noexcept { return !m_Name.empty(); }
     [[nodiscard]] int NumKeys() const noexcept { return static_cast<int>(m_Keys.size()); }
+    /// The keys in their order, to walk over.
+    [[nodiscard]] const std::deque<SectionKey>& Keys() const noexcept { return m_Keys; }
     /// Removes all keys; name and comments stay.
     void Clear() noexcept { m_Keys.clear(); }
 
@@ -44,6 +48,8 @@ public:
     /// Appends at the end, whether or not a key of that name is there; true.
     bool AddKey(const SectionKey& key);
     bool AddKey(SectionKey&& key);
+    /// The same from the parts of a line of a settings file.
+    bool AddKey(const HashedString& name, std::string_view value, std::string_view comments);
     bool AddKey(const char* name);
     bool AddKey(const std::string& name);
     Section& operator+=(const SectionKey& key);
@@ -51,8 +57,8 @@ public:
     Section& operator+=(const std::string& name);
 
     /// The first key of that name; when there is none, an empty one is appended.
-    [[nodiscard]] SectionKey& operator[](const std::string& name);
-    [[nodiscard]] SectionKey& operator[](const char* name);
+    SectionKey& operator[](const std::string& name);
+    SectionKey& operator[](const char* name);
     /// The first key of that name, or `m_ErrorKey`.
     [[nodiscard]] const SectionKey& operator[](const std::string& name) const noexcept;
     [[nodiscard]] const SectionKey& operator[](const char* name) const noexcept;
@@ -85,14 +91,13 @@ public:
     bool operator>(const Section& other) const noexcept { return m_Name > other.m_Name; }
 
 private:
-    friend class IniFile;
-
-    [[nodiscard]] const SectionKey* FindKey(std::string_view name, unsigned int hash) const noexcept;
+    [[nodiscard]] const SectionKey* FindKey(std::string_view name,
+                                            unsigned int hash) const noexcept;
     [[nodiscard]] const SectionKey* FindKey(std::string_view name) const noexcept;
     SectionKey& KeyOrNew(std::string_view name);
     bool RemoveKeyNamed(std::string_view name, unsigned int hash);
 
     HashedString m_Name;
-    std::string m_Comments;
+    RareText m_Comments;
     std::deque<SectionKey> m_Keys;
 };

@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <concepts>
-#include <string>
-#include <string_view>
-
 #include <marlin/base/number_text.h>
 #include <marlin/platform/export.h>
 #include <marlin/platform/text/c_string.h>
 #include <marlin/settings/hashed_string.h>
+#include <marlin/settings/rare_text.h>
+
+#include <concepts>
+#include <string>
+#include <string_view>
 
 /// The types whose values a settings key holds as text.
 template <class T>
-concept SettingsNumber = std::same_as<T, int> || std::same_as<T, bool> ||
-                         std::same_as<T, unsigned int> || std::same_as<T, unsigned long> ||
-                         std::same_as<T, float> || std::same_as<T, double>;
+concept SettingsNumber =
+    std::same_as<T, int> || std::same_as<T, bool> || std::same_as<T, unsigned int> ||
+    std::same_as<T, unsigned long> || std::same_as<T, float> || std::same_as<T, double>;
 template <class T>
 concept SettingsValue = SettingsNumber<T> || std::same_as<T, std::string>;
 
@@ -39,16 +40,16 @@ public:
     SectionKey(const std::string& name, const char* value, const char* comments = "")
         : m_Name(name), m_Value(value), m_Comments(comments) {}
     /// The parts as they stand in a settings file.
-    SectionKey(std::string_view name, std::string_view value, std::string_view comments)
+    SectionKey(const HashedString& name, std::string_view value, std::string_view comments)
         : m_Name(name), m_Value(value), m_Comments(comments) {}
 
     [[nodiscard]] const HashedString& GetName() const noexcept { return m_Name; }
     [[nodiscard]] const std::string& GetValue() const noexcept { return m_Value; }
-    [[nodiscard]] const std::string& GetComments() const noexcept { return m_Comments; }
+    [[nodiscard]] const std::string& GetComments() const noexcept { return m_Comments.Get(); }
     [[nodiscard]] bool IsValid() const noexcept { return !m_Name.empty(); }
 
-    void SetComments(const std::string& comments) { m_Comments = comments; }
-    void SetComments(const char* comments) { m_Comments = comments; }
+    void SetComments(const std::string& comments) { m_Comments.Set(comments); }
+    void SetComments(const char* comments) { m_Comments.Set(comments); }
 
     SectionKey& operator<<(const char* value) {
         m_Value = value;
@@ -95,5 +96,5 @@ public:
 private:
     HashedString m_Name;
     std::string m_Value;
-    std::string m_Comments;
+    RareText m_Comments;
 };

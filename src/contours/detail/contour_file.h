@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/contours/contour_definition_list.h>
+
+#include <span>
+#include <string>
+#include <vector>
+
+/// Contour definition files: settings files with a section for each definition. Reading and
+/// writing take time in proportion to the definitions, in whatever order a file holds them.
+namespace MARLINSUITE {
+
+/// Appends the definitions of a file. False, and nothing appended, when it cannot be read or
+/// holds no section.
+[[nodiscard]] bool ReadContourFile(const std::string& path,
+                                   std::vector<ContourDefinitionList::ContourDefInfo>& definitions);
+
+[[nodiscard]] std::string ContourFileText(
+    std::span<const ContourDefinitionList::ContourDefInfo> definitions);
+
+}  // namespace MARLINSUITE

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// Adds a section to a settings file, saves it under the path given, opens it again and prints it.
+#include <marlin/shared.h>
+
+#include <cstdio>
+
+int main(int argc, char* argv[]) {
+    if (argc != 2) {
+        return 2;
+    }
+    Section section("Survey");
+    section += SectionKey("Vessel", "Marlin", " who sailed");
+    section += SectionKey("Lines", 12);
+    section.AddChecksum();
+    IniFile file;
+    file.AddSection(section);
+    if (const ErrorString error = file.Save(argv[1]); !error.Empty()) {
+        std::puts(error.Text().c_str());
+        return 1;
+    }
+
+    IniFile opened;
+    if (const ErrorString error = opened.Open(argv[1]); !error.Empty()) {
+        std::puts(error.Text().c_str());
+        return 1;
+    }
+    const IniFile& stored = opened;
+    const Section& survey = stored["SURVEY"];
+    int lines = 0;
+    survey["lines"] >> lines;
+    std::printf("%s sailed %d lines, %s\n", survey["Vessel"].GetValue().c_str(), lines,
+                survey.IsModified() ? "modified" : "unmodified");
+    return 0;
+}

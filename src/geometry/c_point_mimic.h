@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <marlin/geometry/point2d.h>
+#include <marlin/geometry/point_2d.h>
 #include <marlin/platform/drawing/point.h>
 #include <marlin/platform/export.h>
 

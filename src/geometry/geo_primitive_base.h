@@ -2,8 +2,8 @@
 #pragma once
 
 #include <marlin/geometry/classification.h>
-#include <marlin/geometry/extents3d.h>
-#include <marlin/geometry/point2d.h>
+#include <marlin/geometry/extents_3d.h>
+#include <marlin/geometry/point_2d.h>
 #include <marlin/geometry/transformation.h>
 #include <marlin/platform/export.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/math.h>
 #include <marlin/geometry/rectangle.h>
-#include <marlin/geometry/transformation2d.h>
+#include <marlin/geometry/transformation_2d.h>
 
 #include <algorithm>
 #include <cassert>

@@ -3,7 +3,7 @@
 
 #include <marlin/geometry/angle.h>
 #include <marlin/geometry/geo_primitive.h>
-#include <marlin/geometry/point2d.h>
+#include <marlin/geometry/point_2d.h>
 #include <marlin/platform/export.h>
 
 namespace GTL {

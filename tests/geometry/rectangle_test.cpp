@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/geometry/rectangle.h>
-#include <marlin/geometry/transformation2d.h>
+#include <marlin/geometry/transformation_2d.h>
 
 #include <array>
 #include <cmath>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/geometry/vector3d.h>
+#include <marlin/geometry/vector_3d.h>
 
 namespace GTL {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/geometry/vector2d.h>
+#include <marlin/geometry/vector_2d.h>
 
 namespace GTL {
 

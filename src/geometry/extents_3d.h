@@ -3,8 +3,8 @@
 
 #include <marlin/geometry/classification.h>
 #include <marlin/geometry/coordinate.h>
-#include <marlin/geometry/extents2d.h>
-#include <marlin/geometry/point3d.h>
+#include <marlin/geometry/extents_2d.h>
+#include <marlin/geometry/point_3d.h>
 #include <marlin/geometry/transformation.h>
 #include <marlin/platform/export.h>
 

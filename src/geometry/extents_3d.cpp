@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/geometry/extents3d.h>
+#include <marlin/geometry/extents_3d.h>
 
 namespace GTL {
 

@@ -3,7 +3,7 @@
 
 #include <marlin/geometry/classification.h>
 #include <marlin/geometry/coordinate.h>
-#include <marlin/geometry/point2d.h>
+#include <marlin/geometry/point_2d.h>
 #include <marlin/geometry/transformation.h>
 #include <marlin/platform/export.h>
 

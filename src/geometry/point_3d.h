@@ -2,9 +2,9 @@
 #pragma once
 
 #include <marlin/geometry/coordinate.h>
-#include <marlin/geometry/point2d.h>
+#include <marlin/geometry/point_2d.h>
 #include <marlin/geometry/transformation.h>
-#include <marlin/geometry/vector3d.h>
+#include <marlin/geometry/vector_3d.h>
 #include <marlin/platform/export.h>
 
 #include <cmath>

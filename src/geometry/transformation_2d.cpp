@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/geometry/transformation2d.h>
+#include <marlin/geometry/transformation_2d.h>
 
 #include <cstddef>
 

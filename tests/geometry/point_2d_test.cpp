@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/geometry/point2d.h>
+#include <marlin/geometry/point_2d.h>
 
 #include <limits>
 #include <vector>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/geometry/extents2d.h>
-#include <marlin/geometry/transformation2d.h>
+#include <marlin/geometry/extents_2d.h>
+#include <marlin/geometry/transformation_2d.h>
 
 #include <limits>
 #include <vector>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/geometry/point3d.h>
+#include <marlin/geometry/point_3d.h>
 
 #include <limits>
 #include <utility>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <marlin/geometry/angle.h>
-#include <marlin/geometry/point2d.h>
+#include <marlin/geometry/point_2d.h>
 #include <marlin/geometry/transformation.h>
 #include <marlin/platform/export.h>
 

@@ -4,7 +4,7 @@
 #include <marlin/base/math.h>
 #include <marlin/geometry/coordinate.h>
 #include <marlin/geometry/transformation.h>
-#include <marlin/geometry/vector2d.h>
+#include <marlin/geometry/vector_2d.h>
 #include <marlin/platform/export.h>
 
 #include <cmath>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/geometry/extents2d.h>
+#include <marlin/geometry/extents_2d.h>
 
 namespace GTL {
 

@@ -16,6 +16,7 @@
 #include <marlin/platform/export.h>
 #include <marlin/platform/text/ascii.h>
 #include <marlin/platform/text/c_string.h>
+#include <marlin/platform/text/code_page.h>
 #include <marlin/platform/text/string_table.h>
 #include <marlin/resources/messages.h>
 #include <marlin/settings/crc_file.h>

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -28,14 +29,17 @@ public:
 
     [[nodiscard]] std::string File(const std::string& name) const { return m_Path / name; }
 
+    /// Writes a file, and the folders that it needs; its full path.
     std::string Write(const std::string& name, std::string_view bytes) const {
+        std::filesystem::create_directories((m_Path / name).parent_path());
         std::ofstream(File(name), std::ios::binary) << bytes;
         return File(name);
     }
 
     [[nodiscard]] static std::string Read(const std::string& path) {
-        std::ifstream in(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
+        std::ostringstream bytes;
+        bytes << std::ifstream(path, std::ios::binary).rdbuf();
+        return bytes.str();
     }
 
     [[nodiscard]] int NumFiles() const {

@@ -16,7 +16,7 @@ namespace HOST {
 namespace {
 
 constexpr std::size_t trailerSize = 4;
-constexpr std::size_t largestFile = 0x7FFFFFFFU;  // positions in checksummed files are 32-bit
+constexpr std::size_t largestFile = 0x7FF00000U;  // positions in checksummed files are 32-bit
 
 std::array<char, trailerSize> TrailerOf(std::string_view payload) {
     const unsigned int crc = ~CRC32::Update(CRC32::Start, payload.data(), payload.size());

@@ -2,6 +2,7 @@
 #include "color_source.h"
 #include "color_text.h"
 #include "commands.h"
+#include "contour_file.h"
 #include "json.h"
 #include "table.h"
 #include <marlin/base/file_object.h>
@@ -11,12 +12,6 @@
 namespace HOST {
 
 namespace {
-
-std::string NumberText(double value) {
-    std::string text;
-    MARLINSUITE::AppendShortest(text, value);
-    return text;
-}
 
 void AppendColor(JsonWriter& json, const RGBColor& color) {
     json.Name("color").Text(ColorText(color));
@@ -29,7 +24,7 @@ void AppendTable(const ColorTable& colors, Output& output) {
     table << "below" << below << DXFColor(below).Index();
     for (int i = 0; i < colors.NumEntries(); ++i) {
         const RGBColor color(colors.EntryColor(i));
-        table << NumberText(colors.EntryValue(i)) << color << DXFColor(color).Index();
+        table << LevelText(StoredLevel(colors.EntryValue(i))) << color << DXFColor(color).Index();
     }
     table.AppendTo(output);
 }

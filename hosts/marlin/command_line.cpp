@@ -45,9 +45,15 @@ private:
     void AddJson(CLI::App* command) {
         command->add_flag("--json", m_Output.Json, "Print JSON for a program to read");
     }
-    // A text as it was typed: "[a,b]" is no list.
-    static void AddTexts(CLI::App* command, const char* name, std::vector<std::string>& texts,
-                         const char* description, bool isRequired);
+    static CLI::Option* AddText(CLI::App* command, const char* name, std::string& text,
+                                const char* description, const char* type = "") {
+        return command->add_option(name, text, description)->type_name(type);
+    }
+    // One or more words.
+    static CLI::Option* AddTexts(CLI::App* command, const char* name,
+                                 std::vector<std::string>& texts, const char* description) {
+        return command->add_option(name, texts, description)->type_name("");
+    }
     [[nodiscard]] const CLI::App* Innermost() const;
 
     Output& m_Output;
@@ -82,39 +88,27 @@ CLI::App* CommandLine::AddCommand(CLI::App* family, const char* name, const char
     return command;
 }
 
-void CommandLine::AddTexts(CLI::App* command, const char* name, std::vector<std::string>& texts,
-                           const char* description, bool isRequired) {
-    const auto take = [&texts](const CLI::results_t& words) {
-        texts = words;
-        return true;
-    };
-    command->add_option(name, take, description)
-        ->required(isRequired)
-        ->expected(isRequired ? 1 : 0, CLI::detail::expected_max_vector_size)
-        ->allow_extra_args(false);
-}
-
 void CommandLine::AddContours() {
     CLI::App* const family = AddFamily("contours", "Contour definition files (.cdf)");
     CLI::App* command = AddCommand(family, "list", "Show the levels of a file",
                                    [this] { return ListContours(m_Arguments.File, m_Output); });
-    command->add_option("FILE", m_Arguments.File, "Contour definition file")->required();
+    AddText(command, "FILE", m_Arguments.File, "Contour definition file")->required();
     AddJson(command);
 
     GenerateArguments& generate = m_Arguments.Generate;
     command = AddCommand(family, "generate", "Make a file from a range or from a color table",
                          [this] { return GenerateContours(m_Arguments.Generate, m_Output); });
-    CLI::Option_group* const source = command->add_option_group("Levels");
-    source->add_option("--range", generate.Range, "Lowest and highest level, and the interval")
-        ->type_name("LOW HIGH INTERVAL")
-        ->expected(3);
+    CLI::Option* const range =
+        command->add_option("--range", generate.Range, "Lowest and highest level, and the interval")
+            ->type_name("LOW HIGH INTERVAL")
+            ->expected(3);
     CLI::Option* const table =
-        source->add_option("--table", generate.Table, "Color table (.col) or palette (.cpt)");
-    source->require_option(1);
+        AddText(command, "--table", generate.Table, "Color table (.col) or palette (.cpt)", "FILE");
+    range->excludes(table);
     command->add_flag("--invert", generate.Invert, "Invert the table's colors")->needs(table);
     command->add_flag("--snap-dxf", generate.SnapDxf, "Use the nearest colors of the DXF palette")
         ->needs(table);
-    command->add_option("-o,--output", generate.OutFile, "The file to write")->required();
+    AddText(command, "-o,--output", generate.OutFile, "The file to write", "FILE")->required();
 
     ContourArguments& contour = m_Arguments.Contour;
     AddContourEdit(AddCommand(family, "set", "Change the lines of levels",
@@ -123,19 +117,19 @@ void CommandLine::AddContours() {
                               [this] { return HOST::AddContours(m_Arguments.Contour, m_Output); }));
     command = AddCommand(family, "remove", "Remove levels",
                          [this] { return RemoveContours(m_Arguments.Contour, m_Output); });
-    command->add_option("FILE", contour.File, "Contour definition file")->required();
-    AddTexts(command, "LEVEL", contour.Levels, "Levels, to six decimals", true);
+    AddText(command, "FILE", contour.File, "Contour definition file")->required();
+    AddTexts(command, "LEVEL", contour.Levels, "Levels, to six decimals")->required();
 }
 
 void CommandLine::AddContourEdit(CLI::App* command) {
     ContourArguments& contour = m_Arguments.Contour;
-    command->add_option("FILE", contour.File, "Contour definition file")->required();
-    AddTexts(command, "LEVEL", contour.Levels, "Levels, to six decimals", true);
-    command->add_option("--color", contour.Color,
-                        "#rrggbb, r,g,b, r/g/b, dxf:N or the name of a basic color");
-    command->add_option("--line-type", contour.LineType, "continuous, dashed or dotted");
-    command->add_option("--width", contour.Width, "Line width");
-    command->add_option("--label", contour.Label, "on or off");
+    AddText(command, "FILE", contour.File, "Contour definition file")->required();
+    AddTexts(command, "LEVEL", contour.Levels, "Levels, to six decimals")->required();
+    AddText(command, "--color", contour.Color,
+            "#rrggbb, r,g,b, r/g/b, dxf:N or the name of a basic color", "COLOR");
+    AddText(command, "--line-type", contour.LineType, "continuous, dashed or dotted", "TYPE");
+    AddText(command, "--width", contour.Width, "Line width", "NUMBER");
+    AddText(command, "--label", contour.Label, "on or off", "SWITCH");
 }
 
 void CommandLine::AddColors() {
@@ -143,18 +137,19 @@ void CommandLine::AddColors() {
     CLI::App* command = AddCommand(family, "convert", "Write a palette as a color table", [this] {
         return ConvertColors(m_Arguments.File, m_Arguments.OtherFile, m_Output);
     });
-    command->add_option("IN", m_Arguments.File, "Palette or color table")->required();
-    command->add_option("OUT", m_Arguments.OtherFile, "Color table to write")->required();
+    AddText(command, "IN", m_Arguments.File, "Palette or color table")->required();
+    AddText(command, "OUT", m_Arguments.OtherFile, "Color table to write")->required();
 
     command = AddCommand(family, "show", "Show a color table or a palette",
                          [this] { return ShowColors(m_Arguments.File, m_Output); });
-    command->add_option("FILE", m_Arguments.File, "Color table or palette")->required();
+    AddText(command, "FILE", m_Arguments.File, "Color table or palette")->required();
     AddJson(command);
 
     command = AddCommand(family, "dxf", "Find the palette index of colors",
                          [this] { return FindDxfColors(m_Arguments.Names, m_Output); });
     AddTexts(command, "COLOR", m_Arguments.Names,
-             "#rrggbb, r,g,b, r/g/b, dxf:N or the name of a basic color", true);
+             "#rrggbb, r,g,b, r/g/b, dxf:N or the name of a basic color")
+        ->required();
     AddJson(command);
 }
 
@@ -163,14 +158,14 @@ void CommandLine::AddSettings() {
     CLI::App* command =
         AddCommand(family, "check", "Look for faults, and whether sealed sections changed",
                    [this] { return CheckSettings(m_Arguments.Files, m_Output); });
-    AddTexts(command, "FILE", m_Arguments.Files, "Settings files", true);
+    AddTexts(command, "FILE", m_Arguments.Files, "Settings files")->required();
     AddJson(command);
 
     command = AddCommand(family, "seal", "Store checksums, for check to compare", [this] {
         return SealSettings(m_Arguments.File, m_Arguments.Names, m_Output);
     });
-    command->add_option("FILE", m_Arguments.File, "Settings file")->required();
-    AddTexts(command, "SECTION", m_Arguments.Names, "Sections; without any, all", false);
+    AddText(command, "FILE", m_Arguments.File, "Settings file")->required();
+    AddTexts(command, "SECTION", m_Arguments.Names, "Sections; without any, all");
 
     SettingArguments& setting = m_Arguments.Setting;
     for (const bool isSet : {false, true}) {
@@ -179,19 +174,19 @@ void CommandLine::AddSettings() {
                                  return isSet ? SetSetting(m_Arguments.Setting, m_Output)
                                               : GetSetting(m_Arguments.Setting, m_Output);
                              });
-        command->add_option("FILE", setting.File, "Settings file")->required();
-        command->add_option("SECTION", setting.Section)->required();
-        command->add_option("KEY", setting.Key)->required();
+        AddText(command, "FILE", setting.File, "Settings file")->required();
+        AddText(command, "SECTION", setting.Section, "Its name, in any case")->required();
+        AddText(command, "KEY", setting.Key, "Its name, in any case")->required();
         if (isSet) {
-            command->add_option("VALUE", setting.Value, "Behind \"--\" if it begins with \"-\"")
+            AddText(command, "VALUE", setting.Value, "Behind \"--\" if it begins with \"-\"")
                 ->required();
         }
     }
     command = AddCommand(family, "diff", "Compare two files key by key", [this] {
         return CompareSettings(m_Arguments.File, m_Arguments.OtherFile, m_Output);
     });
-    command->add_option("A", m_Arguments.File, "Settings file")->required();
-    command->add_option("B", m_Arguments.OtherFile, "Settings file")->required();
+    AddText(command, "A", m_Arguments.File, "Settings file")->required();
+    AddText(command, "B", m_Arguments.OtherFile, "Settings file")->required();
     AddJson(command);
 }
 
@@ -199,13 +194,13 @@ void CommandLine::AddFiles() {
     CLI::App* const family = AddFamily("file", "Checksummed files");
     CLI::App* command = AddCommand(family, "check", "Compare a file with its trailer",
                                    [this] { return CheckFile(m_Arguments.File, m_Output); });
-    command->add_option("FILE", m_Arguments.File, "Checksummed file")->required();
+    AddText(command, "FILE", m_Arguments.File, "Checksummed file")->required();
     AddJson(command);
 
     command = AddCommand(family, "seal", "Append a checksum trailer", [this] {
         return SealFile(m_Arguments.File, m_Arguments.IsForced, m_Output);
     });
-    command->add_option("FILE", m_Arguments.File, "Any file")->required();
+    AddText(command, "FILE", m_Arguments.File, "Any file")->required();
     command->add_flag("--force", m_Arguments.IsForced, "Though it is sealed already");
 }
 
@@ -222,7 +217,7 @@ int CommandLine::Run(const std::vector<std::string>& words) {
         m_App.parse(
             std::vector<std::string>(words.rbegin(), words.rend()));  // it takes them from the end
     } catch (const CLI::CallForHelp&) {
-        m_Output.Text = Innermost()->help();
+        m_Output.Text = m_App.help();  // of the innermost command
         return DONE;
     } catch (const CLI::CallForVersion& version) {
         m_Output.Text = std::string(version.what()) + "\n";

@@ -159,10 +159,7 @@ int AddContours(const ContourArguments& arguments, Output& output) {
         edit.Options.ApplyTo(contour);
         edit.File.Add(contour);
     }
-    if (edit.File.IsNew()) {
-        output.Text += "new file " + Printable(AsUtf8(arguments.File)) + "\n";
-    }
-    return edit.Save("added", output);
+    return edit.Save(edit.File.IsNew() ? "added to a new file" : "added", output);
 }
 
 int RemoveContours(const ContourArguments& arguments, Output& output) {

@@ -36,8 +36,6 @@ void AppendJson(const std::string& path, const ContourDefinitionList& contours, 
     json.Name("contours").BeginArray();
     for (int i = 0; i < contours.NumContours(); ++i) {
         const Contour& contour = contours[i];
-        std::string width;
-        MARLINSUITE::AppendShortest(width, contour.LineWidth);
         json.BeginObject().Name("level").Number(contour.Level);
         json.Name("color").Text(ColorText(RGBColor(contour.Color)));
         json.Name("dxf").Number(DXFColor(contour.Color).Index());
@@ -122,6 +120,9 @@ int ListContours(const std::string& path, Output& output) {
 }
 
 int GenerateContours(const GenerateArguments& arguments, Output& output) {
+    if (arguments.Range.empty() && arguments.Table.empty()) {
+        return Unusable("--range or --table is required");
+    }
     ContourDefinitionList generated;
     const ErrorString error = arguments.Table.empty()
                                   ? GenerateFromRange(arguments.Range, generated)

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <system_error>
 
@@ -22,17 +23,21 @@ ErrorString SystemFailure(const std::string& path, int error) {
     return ErrorString(path + ": " + std::generic_category().message(error));
 }
 
-std::string SizeText(std::size_t bytes) {
+ErrorString TooLarge(const std::string& path, std::size_t limit) {
     constexpr std::size_t mebibyte = 1024 * 1024;
-    std::string text;
-    MARLINSUITE::AppendNumber(text, static_cast<unsigned long>(bytes / mebibyte));
-    return text + " MiB";
+    std::string text = path + ": larger than ";
+    MARLINSUITE::AppendNumber(text, static_cast<unsigned long>(limit / mebibyte));
+    return ErrorString(text + " MiB");
 }
 
 }  // namespace
 
 ErrorString ReadInput(const std::string& path, std::size_t limit, std::string& bytes) {
     constexpr std::size_t firstStep = 64 * 1024;
+    std::error_code unknown;  // a device, which ends at the limit
+    if (const auto size = std::filesystem::file_size(path, unknown); !unknown && size > limit) {
+        return TooLarge(path, limit);
+    }
     const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rb"));
     if (!file) {
         return SystemFailure(path, errno);
@@ -48,7 +53,7 @@ ErrorString ReadInput(const std::string& path, std::size_t limit, std::string& b
             return SystemFailure(path, errno);
         }
         if (read.size() > limit) {
-            return ErrorString(path + ": larger than " + SizeText(limit));
+            return TooLarge(path, limit);
         }
     }
     bytes = std::move(read);

@@ -86,7 +86,8 @@ JsonWriter& JsonWriter::Number(int value) {
     return *this;
 }
 
-JsonWriter& JsonWriter::Number(double value) {
+template <class T>
+JsonWriter& JsonWriter::AppendDecimal(T value) {
     BeginValue();
     if (std::isfinite(value)) {
         MARLINSUITE::AppendShortest(m_Text, value);
@@ -94,6 +95,14 @@ JsonWriter& JsonWriter::Number(double value) {
         m_Text += "null";
     }
     return *this;
+}
+
+JsonWriter& JsonWriter::Number(double value) {
+    return AppendDecimal(value);
+}
+
+JsonWriter& JsonWriter::Number(float value) {
+    return AppendDecimal(value);
 }
 
 JsonWriter& JsonWriter::Bool(bool value) {

@@ -24,11 +24,14 @@ public:
     JsonWriter& Number(int value);
     /// A number that is not finite is written as null.
     JsonWriter& Number(double value);
+    JsonWriter& Number(float value);
     JsonWriter& Bool(bool value);
 
 private:
     JsonWriter& Begin(char bracket);
     JsonWriter& End(char bracket);
+    template <class T>
+    JsonWriter& AppendDecimal(T value);
     void BeginValue();
     void AppendQuoted(std::string_view utf8);
     void NewLine();

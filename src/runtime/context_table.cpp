@@ -21,6 +21,15 @@ constexpr std::array<unsigned int, 256> Summands = [] {
     return summands;
 }();
 
+// The same letters in another order have one bucket, and names with numbers are often that.
+unsigned int TagOf(const std::string& name) noexcept {
+    unsigned int tag = 0;
+    for (const char character : name) {
+        tag = tag * 31 + static_cast<unsigned char>(character);
+    }
+    return tag;
+}
+
 // Reducing the sum once gives the same remainder as reducing it at each character. The sum of a
 // million characters still fits.
 constexpr unsigned int BucketOf(std::string_view name) noexcept {
@@ -36,28 +45,29 @@ static_assert(BucketOf("AB") == 1099 && BucketOf("Ab") == 1099, "the case is fol
 
 }  // namespace
 
-ContextTable::Link& ContextTable::LinkOf(const std::string& name) noexcept {
+ContextTable::Link& ContextTable::LinkOf(const std::string& name, unsigned int tag) noexcept {
     Link* link = &m_Buckets[BucketOf(name)];
-    while (*link && (*link)->Name() != name) {
+    while (*link && !(*link)->Is(name, tag)) {
         link = &(*link)->Next;
     }
     return *link;
 }
 
 Context* ContextTable::Find(const std::string& name) noexcept {
-    return LinkOf(name).get();
+    return LinkOf(name, TagOf(name)).get();
 }
 
 Context& ContextTable::FindOrAdd(const std::string& name) {
-    Link& link = LinkOf(name);
+    const unsigned int tag = TagOf(name);
+    Link& link = LinkOf(name, tag);
     if (!link) {
-        link = std::make_unique<Context>(name);
+        link = std::make_unique<Context>(name, tag);
     }
     return *link;
 }
 
 std::unique_ptr<Context> ContextTable::Take(const std::string& name) noexcept {
-    return TakeFrom(LinkOf(name));
+    return TakeFrom(LinkOf(name, TagOf(name)));
 }
 
 }  // namespace UTL

@@ -3,6 +3,8 @@
 #include <marlin/runtime/observer.h>
 #include <marlin/runtime/subscriber.h>
 
+#include <utility>
+
 namespace UTL {
 
 Observer::Observer() : m_Subscriptions(std::make_unique<Subscriptions>()) {}
@@ -47,33 +49,34 @@ void Observer::UnSubscribe(Subscriber* subscriber) {
     }
 }
 
-Context& Observer::MakeCurrent(const std::string& context) {
-    // Most notifications follow one of the same context.
-    if (!m_Current || m_CurrentContext != context) {
-        Context& found = m_Subscriptions->FindOrAdd(context);
-        m_Current = nullptr;
-        m_CurrentContext = context;
-        m_Current = &found;
-    }
-    return *m_Current;
+void Observer::MakeCurrent(const std::string& context) {
+    Context& found = m_Subscriptions->FindOrAdd(context);
+    m_Current = nullptr;
+    m_CurrentContext = context;
+    m_Current = &found;
 }
 
 void Observer::Notify(const std::string& context, int message) {
-    m_Subscriptions->Notify(MakeCurrent(context), message);
+    // Most notifications follow one of the same context.
+    if (!IsCurrent(context)) {
+        MakeCurrent(context);
+    }
+    m_Subscriptions->Notify(*m_Current, message);
 }
 
 void Observer::RenameSubscribers(const std::string& oldContext, const std::string& newContext) {
     // The arguments may be the stored names themselves.
-    const std::string oldName = oldContext;
-    const std::string newName = newContext;
-    m_PreviousContext = oldName;
-    if (oldName == newName) {
-        MakeCurrent(newName);
-        return;
+    std::string oldName = oldContext;
+    const bool renamed = oldName != newContext;
+    if (renamed) {
+        m_Current = nullptr;
+        m_Subscriptions->Move(oldName, newContext);
     }
-    m_Subscriptions->Move(oldName, newName);
-    m_Current = nullptr;
-    m_Subscriptions->Notify(MakeCurrent(newName), ContextRenamed);
+    MakeCurrent(newContext);
+    m_PreviousContext = std::move(oldName);
+    if (renamed) {
+        m_Subscriptions->Notify(*m_Current, ContextRenamed);
+    }
 }
 
 void Observer::Clear() {

@@ -62,7 +62,10 @@ public:
 private:
     Observer();
 
-    Context& MakeCurrent(const std::string& context);
+    [[nodiscard]] bool IsCurrent(const std::string& context) const noexcept {
+        return m_Current && m_CurrentContext == context;
+    }
+    void MakeCurrent(const std::string& context);
 
     std::unique_ptr<Subscriptions> m_Subscriptions;
     Context* m_Current = nullptr;  // that of the current name, or null when it is not known

@@ -13,7 +13,7 @@ class MARLIN_API Subscriber {
 public:
     Subscriber();
     Subscriber(const Subscriber& other);
-    Subscriber& operator=(const Subscriber&) noexcept { return *this; }
+    Subscriber& operator=(const Subscriber& other) noexcept = default;
     virtual ~Subscriber();
 
     /// Called once for each notification of a context that the subscriber belongs to. It may

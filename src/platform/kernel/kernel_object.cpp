@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/kernel/detail/kernel_object.h>
 
+#include <bit>
 #include <cstdint>
 #include <unordered_map>
 
@@ -50,7 +51,7 @@ HANDLE OpenHandle(std::shared_ptr<KernelObject> object) {
     const std::lock_guard lock(objects.Lock);
     const std::uintptr_t value = ++objects.LastHandle;
     objects.Handles.emplace(value, std::move(object));
-    return reinterpret_cast<HANDLE>(value);
+    return std::bit_cast<HANDLE>(value);
 }
 
 std::shared_ptr<KernelObject> ObjectOf(HANDLE handle) {

@@ -2,6 +2,7 @@
 #include <marlin/platform/windowing/c_wnd.h>
 #include <marlin/platform/windowing/detail/message_targets.h>
 
+#include <bit>
 #include <cstdint>
 
 namespace {
@@ -22,7 +23,7 @@ bool CWnd::Create() {
     if (m_Window.load()) {
         return false;
     }
-    const auto window = reinterpret_cast<HWND>(++lastHandle);
+    const auto window = std::bit_cast<HWND>(++lastHandle);
     PLATFORM::AddMessageTarget(window, this);
     m_Window.store(window);
     return true;
@@ -40,11 +41,11 @@ bool CWnd::EndWindow() {
     return window != nullptr;
 }
 
-bool CWnd::PostMessage(unsigned int message, WPARAM wParam, LPARAM lParam) {
+bool CWnd::PostMessage(unsigned int message, WPARAM wParam, LPARAM lParam) const {
     return PostMessageA(GetSafeHwnd(), message, wParam, lParam) != 0;
 }
 
-LRESULT CWnd::SendMessage(unsigned int message, WPARAM wParam, LPARAM lParam) {
+LRESULT CWnd::SendMessage(unsigned int message, WPARAM wParam, LPARAM lParam) const {
     return SendMessageA(GetSafeHwnd(), message, wParam, lParam);
 }
 

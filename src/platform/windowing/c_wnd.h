@@ -31,8 +31,8 @@ public:
     virtual bool DestroyWindow();
 
     /// As `PostMessageA` and `SendMessageA` to this window.
-    bool PostMessage(unsigned int message, WPARAM wParam = 0, LPARAM lParam = 0);
-    LRESULT SendMessage(unsigned int message, WPARAM wParam = 0, LPARAM lParam = 0);
+    bool PostMessage(unsigned int message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    LRESULT SendMessage(unsigned int message, WPARAM wParam = 0, LPARAM lParam = 0) const;
 
     /// Handles a message; the window may destroy itself meanwhile. The base version does nothing
     /// and gives 0.

@@ -31,9 +31,13 @@ public:
         Context& m_Context;
     };
 
-    explicit Context(const std::string& name) : m_Name(name) {}
+    /// The tag is a hash of the name, which tells most other names apart without a look at them.
+    Context(const std::string& name, unsigned int tag) : m_Name(name), m_Tag(tag) {}
 
     [[nodiscard]] const std::string& Name() const noexcept { return m_Name; }
+    [[nodiscard]] bool Is(const std::string& name, unsigned int tag) const noexcept {
+        return m_Tag == tag && m_Name == name;
+    }
     [[nodiscard]] bool IsWalked() const noexcept { return m_Walks > 0; }
 
     /// The subscribers from the oldest to the newest, with null for gaps.
@@ -75,6 +79,7 @@ private:
 
     std::string m_Name;
     std::vector<Subscriber*> m_OldestFirst;
+    unsigned int m_Tag;
     unsigned int m_Walks = 0;
     bool m_HasGaps = false;
 };

@@ -52,7 +52,7 @@ private:
     using Link = std::unique_ptr<Context>;
 
     /// The link that holds the context of that name, or the empty one at its chain's end.
-    [[nodiscard]] Link& LinkOf(const std::string& name) noexcept;
+    [[nodiscard]] Link& LinkOf(const std::string& name, unsigned int tag) noexcept;
     static Link TakeFrom(Link& link) noexcept {
         Link taken = std::move(link);
         if (taken) {

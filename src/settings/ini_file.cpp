@@ -12,7 +12,7 @@
 #include <system_error>
 
 // Made before the objects of hosts, destroyed after them; its name needs nothing made before.
-[[gnu::init_priority(101)]] const Section IniFile::m_ErrorSection("");
+[[gnu::init_priority(102)]] const Section IniFile::m_ErrorSection("");
 
 namespace {
 

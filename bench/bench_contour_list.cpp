@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // 20,000 contours are added to an empty list, which is freed again.
-#include <bench/inputs.h>
-#include <bench/jobs.h>
 #include <marlin/contours/contour_definition_list.h>
 
 #include <algorithm>
 
+#include <bench/inputs.h>
+#include <bench/jobs.h>
 #include <boost/container/flat_map.hpp>
 
 namespace {

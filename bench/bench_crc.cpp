@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // CRC-32 of 64 MiB in memory, and of a file of that size with its trailer.
-#include <bench/inputs.h>
-#include <bench/jobs.h>
 #include <marlin/base/crc32.h>
 #include <marlin/settings/crc_file.h>
 
 #include <cstring>
 #include <memory>
 
+#include <bench/inputs.h>
+#include <bench/jobs.h>
 #include <fcntl.h>
 #include <libdeflate.h>
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Ten thousand color words become indices of the DXF palette.
-#include <bench/inputs.h>
-#include <bench/jobs.h>
 #include <marlin/color/dxf_color.h>
 
+#include <QColor>
 #include <array>
 #include <limits>
 
-#include <QColor>
+#include <bench/inputs.h>
+#include <bench/jobs.h>
 
 namespace {
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 // What reading and saving cost for files of 10,000, 100,000 and 1,000,000 sections.
-#include <bench/inputs.h>
-#include <bench/jobs.h>
 #include <marlin/contours/contour_definition_list.h>
 #include <marlin/settings/ini_file.h>
 
 #include <memory>
+
+#include <bench/inputs.h>
+#include <bench/jobs.h>
 
 namespace {
 
@@ -55,28 +56,27 @@ std::unique_ptr<RamFile> ContourFile(int count) {
 
 void EnterSettings(int sections) {
     const std::string size = std::to_string(sections);
-    BENCH::Contest("growth_settings_read_" + size + "/marlin",
-                   [sections] { return SettingsFile(sections); }, ReadSettings);
-    BENCH::Contest("growth_settings_save_" + size + "/marlin",
-                   [sections] { return Settings(sections); },
-                   [](const auto& saved) {
-                       Require(saved->Source.Save(saved->File.Path()).Empty(), "IniFile::Save");
-                   });
+    BENCH::Contest(
+        "growth_settings_read_" + size + "/marlin", [sections] { return SettingsFile(sections); },
+        ReadSettings);
+    BENCH::Contest(
+        "growth_settings_save_" + size + "/marlin", [sections] { return Settings(sections); },
+        [](const auto& saved) {
+            Require(saved->Source.Save(saved->File.Path()).Empty(), "IniFile::Save");
+        });
 }
 
 void EnterContours(int sections) {
     const std::string size = std::to_string(sections);
-    BENCH::Contest("growth_contours_load_" + size + "/marlin",
-                   [sections] { return ContourFile(sections); },
-                   [](const auto& file) { LoadContours(*file); });
-    BENCH::Contest("growth_contours_save_" + size + "/marlin",
-                   [sections] {
-                       return std::make_unique<Saved<ContourDefinitionList>>(Contours(sections));
-                   },
-                   [](const auto& saved) {
-                       Require(saved->Source.Save(saved->File.Path().c_str()),
-                               "ContourDefinitionList::Save");
-                   });
+    BENCH::Contest(
+        "growth_contours_load_" + size + "/marlin", [sections] { return ContourFile(sections); },
+        [](const auto& file) { LoadContours(*file); });
+    BENCH::Contest(
+        "growth_contours_save_" + size + "/marlin",
+        [sections] { return std::make_unique<Saved<ContourDefinitionList>>(Contours(sections)); },
+        [](const auto& saved) {
+            Require(saved->Source.Save(saved->File.Path().c_str()), "ContourDefinitionList::Save");
+        });
 }
 
 }  // namespace

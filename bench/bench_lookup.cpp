@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Each of the 25 keys of a section is found once by its name, as a record does that reads itself.
-#include <bench/inputs.h>
-#include <bench/jobs.h>
 #include <marlin/settings/section.h>
 
+#include <bench/inputs.h>
+#include <bench/jobs.h>
 #include <boost/property_tree/ptree.hpp>
 
 namespace {
@@ -35,9 +35,8 @@ int main(int argc, char** argv) {
         "lookup_25/marlin",
         [] {
             return Prepared(Section("Display"),
-                            [](Section& section, const std::string& name, const std::string& value) {
-                                section[name] << value;
-                            });
+                            [](Section& section, const std::string& name,
+                               const std::string& value) { section[name] << value; });
         },
         [](const Input<Section>& input) {
             for (const std::string& name : input.Names) {

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 // A thousand decimal numbers become text and back.
-#include <bench/inputs.h>
-#include <bench/jobs.h>
 #include <marlin/base/number_text.h>
 
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+
+#include <bench/inputs.h>
+#include <bench/jobs.h>
 
 namespace {
 
@@ -68,12 +69,13 @@ int main(int argc, char** argv) {
             benchmark::DoNotOptimize(text.data());
         }
     });
-    BENCH::Contest("double_to_six_decimals/snprintf", Values, [](const std::vector<double>& values) {
-        std::array<char, 64> text;
-        for (const double value : values) {
-            std::snprintf(text.data(), text.size(), "%.6f", value);
-            benchmark::DoNotOptimize(text.data());
-        }
-    });
+    BENCH::Contest("double_to_six_decimals/snprintf", Values,
+                   [](const std::vector<double>& values) {
+                       std::array<char, 64> text;
+                       for (const double value : values) {
+                           std::snprintf(text.data(), text.size(), "%.6f", value);
+                           benchmark::DoNotOptimize(text.data());
+                       }
+                   });
     return BENCH::Run(argc, argv);
 }

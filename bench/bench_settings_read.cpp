@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // A settings file becomes sections and keys in memory, and they are freed again.
-#include <bench/inputs.h>
-#include <bench/jobs.h>
 #include <marlin/settings/ini_file.h>
 
 #include <map>
 #include <memory>
 
+#include <bench/inputs.h>
+#include <bench/jobs.h>
 #include <glib.h>
 #include <ini.h>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Sections and keys in memory become a settings file, in the place of the one before.
-#include <bench/inputs.h>
-#include <bench/jobs.h>
 #include <marlin/settings/ini_file.h>
 
 #include <memory>
 
+#include <bench/inputs.h>
+#include <bench/jobs.h>
 #include <boost/property_tree/ini_parser.hpp>
 
 namespace {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 // What a host pays in memory for reading a settings file: the growth of its peak, beside the
 // size of the file and what the keys hold.
-#include <bench/inputs.h>
 #include <marlin/settings/ini_file.h>
+
+#include <bench/inputs.h>
 
 namespace {
 
@@ -43,12 +44,13 @@ int Report(const char* path) {
     std::ifstream file(path, std::ios::binary | std::ios::ate);
     const auto size = static_cast<double>(file.tellg());
     const double most = 3.0 * size + static_cast<double>(texts);
-    std::printf("file %.1f MiB, names and values %.1f MiB, key objects %.1f MiB, peak grew by %.1f "
-                "MiB; 3 files and the names and values: %.1f MiB: %s\n",
-                size / mebibyte, static_cast<double>(texts) / mebibyte,
-                static_cast<double>(keys * sizeof(SectionKey)) / mebibyte,
-                static_cast<double>(growth) / mebibyte, most / mebibyte,
-                static_cast<double>(growth) <= most ? "ok" : "over");
+    std::printf(
+        "file %.1f MiB, names and values %.1f MiB, key objects %.1f MiB, peak grew by %.1f "
+        "MiB; 3 files and the names and values: %.1f MiB: %s\n",
+        size / mebibyte, static_cast<double>(texts) / mebibyte,
+        static_cast<double>(keys * sizeof(SectionKey)) / mebibyte,
+        static_cast<double>(growth) / mebibyte, most / mebibyte,
+        static_cast<double>(growth) <= most ? "ok" : "over");
     return static_cast<double>(growth) <= most ? 0 : 1;
 }
 

@@ -178,7 +178,7 @@ void CommandLine::AddSettings() {
         AddText(command, "SECTION", setting.Section, "Its name, in any case")->required();
         AddText(command, "KEY", setting.Key, "Its name, in any case")->required();
         if (isSet) {
-            AddText(command, "VALUE", setting.Value, "Behind \"--\" if it begins with \"-\"")
+            AddText(command, "VALUE", setting.Value, R"(Behind "--" if it begins with "-")")
                 ->required();
         }
     }
@@ -225,7 +225,7 @@ int CommandLine::Run(const std::vector<std::string>& words) {
     } catch (const CLI::ParseError& error) {
         std::string command;
         for (const CLI::App* app = Innermost(); app; app = app->get_parent()) {
-            command = app->get_name() + (command.empty() ? "" : " ") + command;
+            command.insert(0, app->get_name() + (command.empty() ? "" : " "));
         }
         Report(std::string(error.what()));
         Report("\"" + command + " --help\" tells more");

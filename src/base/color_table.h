@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <vector>
-
 #include <marlin/base/file_object.h>
 #include <marlin/platform/export.h>
+
+#include <vector>
 
 /// A table of (value, color word) entries in ascending order of value, with a color for the
 /// values below the first entry. Made empty, with black below. A color word has red in bits 0
@@ -26,7 +26,7 @@ public:
     [[nodiscard]] unsigned long BelowColor() const noexcept { return m_BelowColor; }
 
     /// Inserts an entry behind those of smaller or equal value. False, and the table unchanged,
-    /// for a value that is not a number.
+    /// for a value that is not finite.
     bool AddEntry(double value, unsigned long color);
     void SetBelowColor(unsigned long color) noexcept { m_BelowColor = color; }
     void Clear() noexcept;
@@ -35,9 +35,11 @@ public:
     /// then "Entry(0)", "Entry(1)", ... = value,red,green,blue. Reading stops at the first
     /// missing number and sorts by value, equal values in their order; a missing "Below" takes
     /// the first entry's color. False, and the table empty, without the section or with an
-    /// entry that does not convert.
+    /// entry or "Below" that does not convert.
     bool FileOpen(const FileObject& file);
-    /// Replaces that section; true.
+    /// Replaces that section, so that reading it gives the same values, colors (without their
+    /// top bytes) and color below. False, and the file object unchanged, for a value that is
+    /// not finite.
     bool FileSave(FileObject& file) const;
 
 protected:

@@ -13,9 +13,9 @@ public:
     [[nodiscard]] const char* c_str() const noexcept { return m_Path.GetString(); }
 
     /// Replaces what follows the last dot of the name, or adds a dot and the extension to a
-    /// name without one; a dot that begins the name is part of it. A leading dot of
-    /// `extension` is optional, an empty one removes extension and dot. A path that is empty
-    /// or ends in "/" stays.
+    /// name without one; dots that begin the name are part of it. A leading dot of
+    /// `extension` is optional, an empty one removes extension and dot. A path without a name
+    /// (empty, or ending in "/", "." or "..") stays.
     void SetExtension(const CString& extension);
 
 private:

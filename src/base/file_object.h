@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/base/error_string.h>
+#include <marlin/platform/export.h>
+#include <marlin/platform/text/c_string.h>
+
 #include <cstddef>
 #include <deque>
 #include <string>
 #include <string_view>
 #include <unordered_map>
-
-#include <marlin/base/error_string.h>
-#include <marlin/platform/export.h>
-#include <marlin/platform/text/c_string.h>
 
 /// Where a walk over a `FileObject` stands: a section, and an entry of the section being
 /// walked. One cursor serves both walks at once.
@@ -35,16 +35,18 @@ public:
     /// What `SetEntry` does with an entry whose key the section holds already.
     enum MODE : int {
         APPEND = 0,   ///< Stores it behind the one that is there; look-ups find the first.
-        REPLACE = 1,  ///< Gives the first such entry the new value.
+        REPLACE = 1,  ///< Gives the first such entry the new value; so does any other number.
     };
 
     /// Stores one entry, in a new section at the end when there is none of that name. False,
-    /// and nothing stored, for an empty section name.
+    /// and nothing stored, for an empty section name or key.
     virtual bool SetEntry(const CString& section, const CString& key, const CString& value,
                           int mode);
 
     /// Replaces the contents by those of a settings file. False when the file cannot be read or
     /// is no settings file; the object is then empty and `ErrorString::LastError()` says why.
+    /// Entries stay in the order of the file, several of one key included; lines without a key
+    /// and comments are dropped, sections without entries are kept.
     /// `flags` are the open flags of the platform's file class; the file is always read whole
     /// and shared with others, so they change nothing.
     bool FileOpen(const CString& path, unsigned int flags);
@@ -52,10 +54,10 @@ public:
     /// written, with the cause in `ErrorString::LastError()`; the old file is then unchanged.
     bool FileSave(const CString& path, unsigned int flags) const;
 
-    /// The walk over the sections; each call that returns true yields a name.
+    /// The walk over the sections in their order; each call that returns true yields a name.
     bool GetFirstSectionEntry(FobjSection& cursor, CString& section) const;
     bool GetNextSectionEntry(FobjSection& cursor, CString& section) const;
-    /// The walk over the entries of one section.
+    /// The walk over the entries of one section; a missing section yields none.
     bool GetFirstMapEntry(FobjSection& cursor, const CString& section, CString& key,
                           CString& value) const;
     bool GetNextMapEntry(FobjSection& cursor, CString& key, CString& value) const;
@@ -68,6 +70,7 @@ public:
     void Clear();
 
 private:
+    class FileSink;
     struct Entry {
         std::string Key;
         std::string Value;
@@ -79,6 +82,9 @@ private:
     };
 
     [[nodiscard]] const NamedSection* FindSection(std::string_view name) const;
+    NamedSection& SectionOrNew(std::string_view name);
+    static void Store(NamedSection& section, std::string_view key, std::string_view value,
+                      bool replace);
 
     std::deque<NamedSection> m_Sections;
     std::unordered_map<std::string, std::size_t> m_SectionOfName;  // by lower-case name

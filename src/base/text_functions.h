@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-#include <string_view>
-
 #include <marlin/platform/export.h>
 #include <marlin/platform/text/c_string.h>
+
+#include <string>
+#include <string_view>
 
 // Texts are bytes; case is that of the ASCII letters, whatever the locale.
 
@@ -32,3 +32,6 @@ MARLIN_API CString& operator<<(CString& text, bool value);
 MARLIN_API CString& operator<<(CString& text, int value);
 MARLIN_API CString& operator<<(CString& text, unsigned long value);
 MARLIN_API CString& operator<<(CString& text, float value);
+/// Appends the text itself; a null pointer appends nothing.
+MARLIN_API CString& operator<<(CString& text, const char* value);
+MARLIN_API CString& operator<<(CString& text, const CString& value);

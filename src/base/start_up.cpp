@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/base/start_up.h>
+#include <marlin/base/version_gate.h>
+#include <marlin/platform/text/string_table.h>
+
+namespace MARLINSUITE {
+
+namespace {
+
+static_assert(LibraryVersion == MARLIN_VERSION_WORD, "the version that is built");
+
+constinit AFX_EXTENSION_MODULE extension;
+constinit StartUpSteps steps;
+
+// Stands for the load and the unload of the library.
+struct Loading {
+    Loading() noexcept { StartUp(); }
+    Loading(const Loading&) = delete;
+    Loading& operator=(const Loading&) = delete;
+    ~Loading() { ShutDown(); }
+};
+
+[[gnu::init_priority(101)]] const Loading loading;
+
+}  // namespace
+
+StartUpSteps StartUp(unsigned int version) noexcept {
+    ShutDown();
+    steps.VersionAccepted = CheckDllVersion(version, "start_up.cpp", __DATE__ " " __TIME__);
+    const HINSTANCE self = PLATFORM::ThisModule();
+    steps.ModuleRegistered = steps.VersionAccepted && AfxInitExtensionModule(extension, self) != 0;
+    steps.ResourcesLoaded = steps.ModuleRegistered && LoadDLLResourceDLL(self, extension.hModule);
+    return steps;
+}
+
+bool IsLoaded() noexcept {
+    return steps.Done();
+}
+
+void ShutDown() noexcept {
+    AfxTermExtensionModule(extension);
+    steps = {};
+}
+
+bool LoadDLLResourceDLL(HINSTANCE library, HINSTANCE registered) noexcept {
+    if (!library || !registered) {
+        return false;
+    }
+    PLATFORM::StringTable::Set(PLATFORM::DefaultStringTable);
+    return true;
+}
+
+}  // namespace MARLINSUITE

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/color/dxf_color.h>
+#include <marlin/color/hsv_color.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constinit const DXFColor constantInitialised = DXFColor::_WHITE;
+
+// The rule by which an index is chosen, step by step.
+int NearestGray(int gray) {
+    constexpr int grays[] = {0x54, 0x76, 0x98, 0xBA, 0xDC, 0xFF};
+    int best = 0;
+    for (int i = 1; i < 6; ++i) {
+        if (std::abs(grays[i] - gray) < std::abs(grays[best] - gray)) {
+            best = i;
+        }
+    }
+    return best == 5 ? 7 : 250 + best;
+}
+
+int ShadeOffset(float value, float saturation) {
+    const int step = value > 0.8F ? 0 : value > 0.6F ? 2 : value > 0.4F ? 4 : value > 0.2F ? 6 : 8;
+    return step + (saturation < 0.5F ? 1 : 0);
+}
+
+int IndexByRule(int red, int green, int blue) {
+    if (red == green && green == blue) {
+        return red == 0 ? 0 : NearestGray(red);
+    }
+    const float r = static_cast<float>(red) / 255.0F;
+    const float g = static_cast<float>(green) / 255.0F;
+    const float b = static_cast<float>(blue) / 255.0F;
+    const float largest = std::max({r, g, b});
+    const float delta = largest - std::min({r, g, b});
+    const float rc = (largest - r) / delta;
+    const float gc = (largest - g) / delta;
+    const float bc = (largest - b) / delta;
+    const float h = largest == r ? bc - gc : largest == g ? 2.0F + rc - bc : 4.0F + gc - rc;
+    const float hue = h * 60.0F < 0.0F ? h * 60.0F + 360.0F : h * 60.0F;
+    const int nearest = static_cast<int>(hue / 360.0F * 240.0F + 5.0F) / 10 % 24;
+    return (nearest + 1) * 10 + ShadeOffset(largest, delta / largest);
+}
+
+TEST(DXFColor, ChoosesByTheRuleForEveryColor) {
+    int wrong = 0;
+    for (unsigned long word = 0; word < 0x1000000UL; ++word) {
+        const RGBColor color(word);
+        const int expected = IndexByRule(color.Red(), color.Green(), color.Blue());
+        wrong += DXFColor(word).Index() == expected ? 0 : 1;
+    }
+    EXPECT_EQ(wrong, 0);
+}
+
+TEST(DXFColor, ChoosesTheIndexThatTheRuleGivesByHand) {
+    const struct {
+        RGBColor color;
+        int index;
+    } cases[] = {
+        {{0, 0, 0}, 0},         {{255, 255, 255}, 7},  {{250, 250, 250}, 7},
+        {{100, 100, 100}, 250}, {{1, 1, 1}, 250},      {{128, 128, 128}, 251},
+        {{101, 101, 101}, 250},  // midway between 84 and 118: the first one
+        {{255, 0, 4}, 10},      {{255, 128, 128}, 11}, {{255, 127, 127}, 10},
+        {{127, 0, 0}, 14},      {{40, 0, 0}, 18},      {{204, 0, 0}, 12},
+        {{205, 0, 0}, 10},      {{255, 0, 0}, 10},     {{0, 0, 255}, 170},
+        {{255, 255, 0}, 50},    {{255, 0, 255}, 210},  {{0, 255, 0}, 90},
+        {{0, 255, 255}, 130},   {{255, 0, 64}, 240},  // 344.9 degrees
+        {{255, 31, 0}, 10},     {{255, 32, 0}, 20},   // 7.29 and 7.53 degrees
+    };
+    for (const auto& [color, index] : cases) {
+        EXPECT_EQ(DXFColor(color).Index(), index)
+            << color.Red() << ' ' << color.Green() << ' ' << color.Blue();
+    }
+}
+
+TEST(DXFColor, IgnoresTheTopByteOfAColorWord) {
+    EXPECT_EQ(DXFColor(0xFF0000FFUL).Index(), 10);
+    EXPECT_EQ(DXFColor(0xFF000000UL).Index(), 0);
+}
+
+TEST(DXFColor, IsBlackForAnIndexOutsideThePalette) {
+    for (const int index : {-1, 256, 300, -2147483647 - 1, 2147483647}) {
+        EXPECT_EQ(DXFColor(index).Index(), 0) << index;
+    }
+    EXPECT_EQ(DXFColor(255).Index(), 255);
+}
+
+TEST(DXFColor, ComparesIndicesNotColors) {
+    const DXFColor black(0);
+    const DXFColor alsoBlack(7);
+    EXPECT_EQ(static_cast<unsigned long>(alsoBlack), static_cast<unsigned long>(black));
+    EXPECT_FALSE(alsoBlack == black);
+    EXPECT_TRUE(constantInitialised == alsoBlack);
+}
+
+TEST(DXFColor, NamesTheBasicColorsOfThePalette) {
+    const struct {
+        DXFColor color;
+        unsigned long word;
+    } cases[] = {
+        {DXFColor::_BLACK, 0x000000},   {DXFColor::_RED, 0x0000FF},   {DXFColor::_YELLOW, 0x00FFFF},
+        {DXFColor::_GREEN, 0x00FF00},   {DXFColor::_CYAN, 0xFFFF00},  {DXFColor::_BLUE, 0xFF0000},
+        {DXFColor::_MAGENTA, 0xFF00FF}, {DXFColor::_WHITE, 0x000000}, {DXFColor(8), 0x808080},
+        {DXFColor(9), 0xC0C0C0},        {DXFColor(250), 0x545454},    {DXFColor(255), 0xFFFFFF},
+    };
+    for (const auto& [color, word] : cases) {
+        EXPECT_EQ(static_cast<unsigned long>(color), word) << color.Index();
+    }
+}
+
+TEST(DXFColor, HasAPaletteOfHueGroupsFromBrightToDark) {
+    constexpr int brightness[] = {0xFF, 0xA5, 0x7F, 0x4C, 0x26};
+    constexpr int halfSaturated[] = {0x7F, 0x52, 0x3F, 0x26, 0x13};
+    for (int index = 10; index <= 249; ++index) {
+        const RGBColor color = DXFColor(index);
+        const int step = index % 10 / 2;
+        const bool half = index % 2 == 1;
+        EXPECT_EQ(std::max({color.Red(), color.Green(), color.Blue()}), brightness[step]) << index;
+        EXPECT_EQ(std::min({color.Red(), color.Green(), color.Blue()}),
+                  half ? halfSaturated[step] : 0)
+            << index;
+        const float away = HSVColor(color).Hue() - static_cast<float>((index / 10 - 1) * 15);
+        EXPECT_LT(std::fabs(std::remainder(away, 360.0F)), 12.5F) << index;
+    }
+}
+
+}  // namespace

@@ -13,10 +13,8 @@ int main() {
     coast.SetColor(0x804000);  // red in the low byte: 0, 64, 128 is a deep blue
     coast.SetStyle(LineInfo::DASHED_LINE);
 
-    Section section("Coastline");
-    coast.Write(section);
     IniFile file;
-    file.AddSection(section);
+    coast.Write(file["Coastline"]);
     if (const ErrorString error = file.Save("chart.ini"); !error.Empty()) {
         std::puts(error.Text().c_str());
         return 1;

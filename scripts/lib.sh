@@ -15,20 +15,26 @@ fail() {
     exit 1
 }
 
+# The errors that a build's log names, without the commands that led to them.
+errors_in() {
+    grep -vE ' -Wall |^ccache ' "$1" |
+        grep -E -A 3 '(error|Error|warning):? |undefined reference|^E: ' | sed 40q || true
+}
+
 # quietly LOG COMMAND...: the command's output goes to build/logs/LOG.log; when it fails, the
-# errors in it (or its end) are shown and the command's status is returned.
+# errors in it (or else its end) are shown and the command's status is returned.
 quietly() {
-    local log=$logs/$1.log status=0
+    local log=$logs/$1.log status=0 errors
     shift
     mkdir -p "$logs"
     "$@" >"$log" 2>&1 || status=$?
     if [ "$status" -ne 0 ]; then
+        errors=$(errors_in "$log")
         {
-            say "failed ($status): $*"
-            grep -E -A 4 '(error|Error|ERROR|FAILED|warning):? ' "$log" | head -n 40 || true
-            say "... the end of $log:"
-            tail -n 25 "$log"
-        } >&2
+            say "failed with status $status: $*"
+            say "${errors:-$(tail -n 25 "$log")}"
+            say "all of it: $log"
+        } | cut -c 1-400 >&2
     fi
     return "$status"
 }

@@ -13,7 +13,7 @@ here=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")" && pwd)
 # The scope of a demangled name: "GTL::Extents2D", "MARLINSUITE", or the name itself where it is
 # global, with "()" after a function.
 scopes() {
-    nm -D --defined-only -C "$1" | sed -nE 's/^[0-9a-f]* [TDBRu] //p' |
+    nm -D --defined-only -C "$1" | sed -nE 's/^[0-9a-f]* [TDBR] //p' |
         sed -E 's/^(vtable|typeinfo|typeinfo name|VTT|guard variable|(non-)?virtual thunk) (for|to) (.*)$/\4::/
             s/\[abi:[a-z0-9]+\]//g
             s/\boperator[^A-Za-z0-9_].*$/operator()/

@@ -31,11 +31,11 @@ Trailer TrailerOf(unsigned int value) {
 }
 
 // The four bytes at the end of a file, of which `length` bytes stand before them.
-bool ReadTrailer(std::FILE* file, unsigned int& value, unsigned int& length) {
-    if (std::fseek(file, -static_cast<long>(trailerSize), SEEK_END) != 0) {
+bool ReadTrailer(std::FILE* file, unsigned int& value, std::uint64_t& length) {
+    if (::fseeko(file, -static_cast<off_t>(trailerSize), SEEK_END) != 0) {
         return false;
     }
-    length = static_cast<unsigned int>(std::ftell(file));
+    length = static_cast<std::uint64_t>(::ftello(file));
     Trailer bytes{};
     if (std::fread(bytes.data(), 1, trailerSize, file) != trailerSize) {
         return false;
@@ -148,13 +148,13 @@ bool CRCFile::Flush() {
 unsigned int CRCFile::GetCRC(const std::string& path) {
     const std::unique_ptr<std::FILE, Stream::Closer> file(std::fopen(path.c_str(), "rb"));
     unsigned int value = 0;
-    unsigned int length = 0;
+    std::uint64_t length = 0;
     return file && ReadTrailer(file.get(), value, length) ? value : 0;
 }
 
 // A file that ends early leaves the register without its final inversion, which matches no
 // stored checksum but by chance.
-unsigned int CRCFile::ComputeCRC(unsigned int length) {
+unsigned int CRCFile::ComputeCRC(std::uint64_t length) {
     constexpr std::size_t blockSize = 256 * 1024;
     Rewind();
     if (length == 0) {
@@ -163,28 +163,31 @@ unsigned int CRCFile::ComputeCRC(unsigned int length) {
     const auto block = std::make_unique_for_overwrite<unsigned char[]>(blockSize);
     unsigned int state = CRC32::Start;
     while (length > 0) {
-        const std::size_t wanted = std::min<std::size_t>(length, blockSize);
+        const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(length, blockSize));
         const std::size_t got = std::fread(block.get(), 1, wanted, File());
         state = CRC32::Update(state, block.get(), got);
         if (got < wanted) {
             return state;
         }
-        length -= static_cast<unsigned int>(got);
+        length -= got;
     }
     return ~state;
 }
 
 bool CRCFile::CheckCRC() {
     unsigned int stored = 0;
-    unsigned int length = 0;
+    std::uint64_t length = 0;
     return ReadTrailer(File(), stored, length) && stored == ComputeCRC(length);
 }
 
+// A stream that cannot be read back (its mode lacked the "+") gets a trailer that matches
+// nothing, and the failure is reported.
 bool CRCFile::AddChecksum() {
     if (std::fseek(File(), 0, SEEK_END) != 0) {
         return false;
     }
-    const Trailer bytes = TrailerOf(ComputeCRC(Tell()));
+    const Trailer bytes = TrailerOf(ComputeCRC(static_cast<std::uint64_t>(::ftello(File()))));
+    const bool readable = std::ferror(File()) == 0;
     return std::fseek(File(), 0, SEEK_END) == 0 &&
-           std::fwrite(bytes.data(), 1, trailerSize, File()) == trailerSize;
+           std::fwrite(bytes.data(), 1, trailerSize, File()) == trailerSize && readable;
 }

@@ -4,6 +4,7 @@
 #include <marlin/base/error_string.h>
 #include <marlin/platform/export.h>
 
+#include <cstdint>
 #include <cstdio>
 #include <memory>
 #include <string>
@@ -47,7 +48,7 @@ public:
 private:
     struct Stream;
 
-    [[nodiscard]] unsigned int ComputeCRC(unsigned int length);
+    [[nodiscard]] unsigned int ComputeCRC(std::uint64_t length);
     [[nodiscard]] bool CheckCRC();
     [[nodiscard]] bool AddChecksum();
     [[nodiscard]] std::FILE* File() const noexcept;

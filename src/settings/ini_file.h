@@ -65,8 +65,8 @@ public:
     bool AddSection(const Section& section);
 
     /// The section of that name; when there is none, an empty one is appended.
-    [[nodiscard]] Section& operator[](const std::string& name);
-    [[nodiscard]] Section& operator[](const char* name);
+    Section& operator[](const std::string& name);
+    Section& operator[](const char* name);
     /// The section of that name, or `m_ErrorSection`.
     [[nodiscard]] const Section& operator[](const std::string& name) const noexcept;
     [[nodiscard]] const Section& operator[](const char* name) const noexcept;

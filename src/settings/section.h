@@ -57,8 +57,8 @@ public:
     Section& operator+=(const std::string& name);
 
     /// The first key of that name; when there is none, an empty one is appended.
-    [[nodiscard]] SectionKey& operator[](const std::string& name);
-    [[nodiscard]] SectionKey& operator[](const char* name);
+    SectionKey& operator[](const std::string& name);
+    SectionKey& operator[](const char* name);
     /// The first key of that name, or `m_ErrorKey`.
     [[nodiscard]] const SectionKey& operator[](const std::string& name) const noexcept;
     [[nodiscard]] const SectionKey& operator[](const char* name) const noexcept;

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "support/temporary_folder.h"
+#include <marlin/base/data_search.h>
+
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+namespace {
+
+// The environment of the look-ups: a home without $XDG_DATA_HOME, and two shared folders among
+// what is to be ignored.
+class DataSearchTest : public testing::Test {
+protected:
+    DataSearchTest() {
+        ::unsetenv("MARLIN_DATA_DIR");
+        ::unsetenv("XDG_DATA_HOME");
+        ::setenv("HOME", m_Folder.File("home").c_str(), 1);
+        ::setenv("XDG_DATA_DIRS",
+                 ("relative:" + m_Folder.File("one") + "::" + m_Folder.File("two")).c_str(), 1);
+    }
+
+    static std::string FilePath() {
+        CString folder("kept");
+        EXPECT_TRUE(DataSearch::GetDataSearch().GetFilePath(4, folder));
+        return std::string(folder);
+    }
+
+    static std::string FullPath(const char* name) {
+        CString path(name);
+        EXPECT_TRUE(DataSearch::GetDataSearch().GetFullPath(23, path));
+        return std::string(path);
+    }
+
+    const TemporaryFolder m_Folder;
+};
+
+TEST_F(DataSearchTest, WithoutAnyFolderTheFirstCandidateIsGiven) {
+    EXPECT_EQ(FilePath(), m_Folder.File("home/.local/share/marlin/contours"));
+    EXPECT_EQ(FullPath("Keywords"), m_Folder.File("home/.local/share/marlin/keywords/Keywords"));
+    ::setenv("XDG_DATA_HOME", m_Folder.File("data").c_str(), 1);
+    EXPECT_EQ(FilePath(), m_Folder.File("data/marlin/contours"));
+    ::setenv("MARLIN_DATA_DIR", m_Folder.File("own").c_str(), 1);
+    EXPECT_EQ(FilePath(), m_Folder.File("own/contours"));
+}
+
+TEST_F(DataSearchTest, TheFirstThatExistsIsTakenAtEachLookUp) {
+    ::setenv("MARLIN_DATA_DIR", m_Folder.File("own").c_str(), 1);
+    for (const char* place : {"two/marlin", "one/marlin", "home/.local/share/marlin", "own"}) {
+        const std::string path = m_Folder.Write(std::string(place) + "/keywords/Keywords", "");
+        EXPECT_EQ(FullPath("Keywords"), path);
+    }
+}
+
+TEST_F(DataSearchTest, AFolderWithoutTheFileIsPassedOver) {
+    m_Folder.Write("one/marlin/keywords/Other", "");
+    const std::string path = m_Folder.Write("two/marlin/keywords/Keywords", "");
+    EXPECT_EQ(FullPath("Keywords"), path);
+    EXPECT_EQ(FullPath(path.c_str()), path);
+}
+
+TEST_F(DataSearchTest, ARelativeDataFolderGivesAFullPath) {
+    ::setenv("MARLIN_DATA_DIR", "own", 1);
+    EXPECT_EQ(FilePath(), (std::filesystem::current_path() / "own/contours").string());
+}
+
+TEST_F(DataSearchTest, UnknownKindsAndEmptyNamesGiveNoPath) {
+    const DataSearch& search = DataSearch::GetDataSearch();
+    for (const unsigned int kind : {0U, 5U, 22U, 24U}) {
+        CString text("kept");
+        EXPECT_FALSE(search.GetFilePath(kind, text));
+        EXPECT_FALSE(search.GetFullPath(kind, text));
+        EXPECT_STREQ(text, "kept");
+    }
+    CString empty;
+    EXPECT_FALSE(search.GetFullPath(23, empty));
+    EXPECT_TRUE(empty.IsEmpty());
+}
+
+}  // namespace

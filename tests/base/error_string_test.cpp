@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/base/error_string.h>
+
+#include <string>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(ErrorString, IsASuccessWhileItsMessageIsEmpty) {
+    EXPECT_TRUE(ErrorString().Empty());
+    EXPECT_TRUE(ErrorString(true).Empty());
+    EXPECT_TRUE(ErrorString("").Empty());
+    EXPECT_TRUE(ErrorString(static_cast<const char*>(nullptr)).Empty());
+    EXPECT_EQ(ErrorString(false).Text(), "Operation failed.");
+    ErrorString error;
+    error << "a" << std::string("b") << CString("c");
+    EXPECT_EQ(error.Text(), "abc");
+}
+
+TEST(ErrorString, RemembersTheLastFailureOfEachThread) {
+    static_cast<void>(ErrorString("first"));
+    ErrorString second("second");
+    second << " more";
+    static_cast<void>(ErrorString(true));
+    EXPECT_EQ(ErrorString::LastError().Text(), "second more");
+    std::string ofOther = "unset";
+    std::thread([&] {
+        ofOther = ErrorString::LastError().Text();
+        static_cast<void>(ErrorString("other"));
+    }).join();
+    EXPECT_EQ(ofOther, "");
+    EXPECT_EQ(ErrorString::LastError().Text(), "second more");
+    second.SetCause("disk");
+    EXPECT_EQ(ErrorString::LastError().Cause(), "disk");
+}
+
+}  // namespace

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "support/temporary_folder.h"
+#include <marlin/base/file_object.h>
+
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Walk = std::vector<std::string>;
+
+// Every section and entry in the order of the walk.
+Walk WalkOver(const FileObject& file) {
+    Walk walk;
+    FobjSection cursor;
+    CString section;
+    CString key;
+    CString value;
+    for (bool more = file.GetFirstSectionEntry(cursor, section); more;
+         more = file.GetNextSectionEntry(cursor, section)) {
+        walk.push_back('[' + std::string(section) + ']');
+        for (bool entry = file.GetFirstMapEntry(cursor, section, key, value); entry;
+             entry = file.GetNextMapEntry(cursor, key, value)) {
+            walk.push_back(std::string(key) + '=' + value.GetString());
+        }
+    }
+    return walk;
+}
+
+TEST(FileObject, ASettingsFileIsWalkedInItsOrder) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("a.ini",
+                                          "before = 1\r\n[B];note\r\nk = 1 ; c\r\nl=\r\nK = 2\n"
+                                          "; comment\n= unnamed\n[Empty]\n[A]\nz = x = y\xE4");
+    FileObject file;
+    ASSERT_TRUE(file.FileOpen(path.c_str(), 0x20));
+    EXPECT_EQ(WalkOver(file), (Walk{"[B]", "k=1", "l=", "K=2", "[Empty]", "[A]", "z=x = y\xE4"}));
+}
+
+TEST(FileObject, ASavedFileReadsBackAsItWas) {
+    const TemporaryFolder folder;
+    FileObject file;
+    file.SetEntry("General", "LongerName", "22", FileObject::APPEND);
+    file.SetEntry("General", "A", "1", FileObject::APPEND);
+    file.SetEntry("Other", "A", "", FileObject::APPEND);
+    ASSERT_TRUE(file.FileSave(folder.File("b.ini").c_str(), 0x1011));
+    EXPECT_EQ(TemporaryFolder::Read(folder.File("b.ini")),
+              "[General]\r\nLongerName = 22\r\nA          = 1\r\n\r\n[Other]\r\nA = \r\n\r\n");
+    FileObject again;
+    ASSERT_TRUE(again.FileOpen(folder.File("b.ini").c_str(), 0x20));
+    EXPECT_EQ(WalkOver(again), WalkOver(file));
+}
+
+TEST(FileObject, AnEntryIsAppendedOrTakesTheFirstOnesPlace) {
+    FileObject file;
+    EXPECT_TRUE(file.SetEntry("S", "Key", "1", FileObject::REPLACE));
+    EXPECT_TRUE(file.SetEntry("s", "KEY", "2", FileObject::APPEND));
+    EXPECT_TRUE(file.SetEntry("S", "key", "3", FileObject::REPLACE));
+    EXPECT_EQ(WalkOver(file), (Walk{"[S]", "Key=3", "KEY=2"}));
+    CString value;
+    EXPECT_TRUE(file.GetEntry("s", "kEY", value));
+    EXPECT_STREQ(value, "3");
+    EXPECT_FALSE(file.SetEntry("", "Key", "4", FileObject::APPEND));
+    EXPECT_FALSE(file.SetEntry("T", "", "4", FileObject::APPEND));
+    EXPECT_FALSE(file.HasSection("T"));
+}
+
+TEST(FileObject, LookUpsFollowARemovedSection) {
+    FileObject file;
+    for (const char* name : {"A", "B", "C"}) {
+        file.SetEntry(name, "Name", name, FileObject::APPEND);
+    }
+    EXPECT_TRUE(file.RemoveSection("b"));
+    EXPECT_FALSE(file.RemoveSection("B"));
+    CString value("kept");
+    EXPECT_FALSE(file.GetEntry("B", "Name", value));
+    EXPECT_STREQ(value, "kept");
+    EXPECT_TRUE(file.GetEntry("C", "Name", value));
+    EXPECT_STREQ(value, "C");
+    FobjSection cursor;
+    CString key;
+    EXPECT_FALSE(file.GetFirstMapEntry(cursor, "B", key, value));
+    EXPECT_FALSE(file.GetNextMapEntry(cursor, key, value));
+}
+
+TEST(FileObject, AFileThatDoesNotReadEmptiesTheObjectAndSaysWhy) {
+    const TemporaryFolder folder;
+    const std::pair<std::string, std::string> table[] = {
+        {folder.File("missing"), "Error opening \"" + folder.File("missing") + "\" for reading!"},
+        {folder.File(""), "Error opening \"" + folder.File("") + "\" for reading!"},
+        {folder.Write("bad", "[A]\nk=1\n[]\n"), "Invalid section definition on line 3"},
+        {folder.Write("twice", "[A]\n[a]\n"), "Error! Duplicate sectiona found!"}};
+    for (const auto& [path, message] : table) {
+        FileObject file;
+        file.SetEntry("S", "Key", "1", FileObject::APPEND);
+        EXPECT_FALSE(file.FileOpen(path.c_str(), 0x20));
+        EXPECT_EQ(ErrorString::LastError().Text(), message);
+        EXPECT_EQ(WalkOver(file), Walk{});
+    }
+}
+
+TEST(FileObject, ASaveThatFailsSaysSo) {
+    const TemporaryFolder folder;
+    EXPECT_FALSE(FileObject().FileSave(folder.File("no/folder").c_str(), 0x1011));
+    EXPECT_NE(ErrorString::LastError().Text().find(folder.File("no/folder")), std::string::npos);
+}
+
+}  // namespace

@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: MIT
+#include "support/temporary_folder.h"
+#include <marlin/settings/ini_file.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// The keys as "name|value|comment", sections as "[name|comment]".
+std::vector<std::string> Dump(const IniFile& file) {
+    std::vector<std::string> lines;
+    for (const Section& section : file.Sections()) {
+        lines.push_back("[" + *section.GetName() + "|" + section.GetComments() + "]");
+        for (const SectionKey& key : section.Keys()) {
+            lines.push_back(*key.GetName() + "|" + key.GetValue() + "|" + key.GetComments());
+        }
+    }
+    return lines;
+}
+
+using Lines = std::vector<std::string>;
+
+TEST(IniFile, ReadsLinesAsTheFormatSays) {
+    struct Case {
+        const char* Text;
+        Lines Expected;
+    };
+    const std::vector<Case> cases = {
+        {"", {}},
+        {"\n\nkey = 1\n; comment\n[open\n", {}},
+        {"[ Name ]\n", {"[ Name |]"}},
+        {"  [Name] tail\r\n", {"[Name|]"}},
+        {"[Name] ;comment\n", {"[Name|comment]"}},
+        {"[A]]\n", {"[A|]"}},
+        {"[S]\n[Name\n", {"[S|]", "[Name||"}},
+        {"[S]\nkey=\n", {"[S|]", "key||"}},
+        {"[S]\n=value\n", {"[S|]", "|value|"}},
+        {"[S]\nkey", {"[S|]", "key||"}},
+        {"[S]\n a = b = c \n", {"[S|]", "a|b = c|"}},
+        {"[S]\na = b ; c ; d\r\n", {"[S|]", "a|b| c ; d"}},
+        {"[S]\na = b;\n", {"[S|]", "a|b|"}},
+        {"[S]\n; note\n;\n", {"[S|]", "|| note", "||"}},
+        {"[S]\na\t=\t1\t\r\n\r\n  \nb=2", {"[S|]", "a|1|", "b|2|"}},
+        {"[S]\na=1\na=2\n", {"[S|]", "a|1|", "a|2|"}},
+        {"[S]\n\xE4=\xF6\xFF\n", {"[S|]", "\xE4|\xF6\xFF|"}},
+    };
+    for (const Case& c : cases) {
+        IniFile file;
+        EXPECT_TRUE(file.OpenText(c.Text).Empty()) << c.Text;
+        EXPECT_EQ(Dump(file), c.Expected) << c.Text;
+    }
+}
+
+TEST(IniFile, BadHeadersEndTheReadingAndKeepTheSectionsBefore) {
+    struct Case {
+        const char* Text;
+        const char* Message;
+        Lines Kept;
+    };
+    const std::vector<Case> cases = {
+        {"[]\n", "Invalid section definition on line 1", {}},
+        {"\n\n[A]\na=1\n[B]\n[] x\n[C]\n",
+         "Invalid section definition on line 6",
+         {"[A|]", "a|1|"}},
+        {"[A]\na=1\n[B]\n[a]\nb=1\n", "Error! Duplicate sectiona found!", {"[A|]", "a|1|", "[B|]"}},
+    };
+    for (const Case& c : cases) {
+        IniFile file;
+        EXPECT_EQ(file.OpenText(c.Text).Text(), c.Message);
+        EXPECT_EQ(Dump(file), c.Kept);
+    }
+}
+
+TEST(IniFile, WritesTheDocumentedExampleByteForByteAndReadsItBack) {
+    const TemporaryFolder folder;
+    IniFile file;
+    Section& section = file["General"];
+    section += SectionKey("Alpha", 1);
+    section += SectionKey("LongerName", 22, " note");
+    section += SectionKey("", "", "a comment line");
+    section += SectionKey("Color", 255);
+    const std::string expected =
+        "[General]\r\n"
+        "Alpha      = 1\r\n"
+        "LongerName = 22  ; note\r\n"
+        ";a comment line\r\n"
+        "Color      = 255\r\n"
+        "\r\n";
+    EXPECT_EQ(file.Text(), expected);
+    ASSERT_TRUE(file.Save(folder.File("a.ini")).Empty());
+    EXPECT_EQ(TemporaryFolder::Read(folder.File("a.ini")), expected);
+    const IniFile read(folder.File("a.ini"));
+    EXPECT_EQ(Dump(read), Dump(file));
+    EXPECT_EQ(folder.NumFiles(), 1);
+}
+
+TEST(IniFile, KeepsCommentsOfSectionsAndSealsAcrossASaveAndOpen) {
+    IniFile file;
+    Section& section = file["S"];
+    section.SetComments("about it");
+    section["A"] << -0.5;
+    section.AddChecksum();
+    IniFile read;
+    ASSERT_TRUE(read.OpenText(file.Text()).Empty());
+    EXPECT_EQ(read[0].GetComments(), "about it");
+    EXPECT_FALSE(read[0].IsModified());
+}
+
+TEST(IniFile, UnnamedKeysKeepTheirCommentAlone) {
+    IniFile file;
+    file["S"] += SectionKey("", "lost", " kept");
+    file["S"] += SectionKey("", "lost");
+    EXPECT_EQ(file.Text(), "[S]\r\n; kept\r\n\r\n\r\n");
+}
+
+TEST(IniFile, ReadsLinesLongerThanAnyBuffer) {
+    const TemporaryFolder folder;
+    const std::string longValue(300'000, 'x');
+    const std::string path =
+        folder.Write("a.ini", "[S]\nfirst=" + longValue + "\nsecond=2\n[T]\nlast=" + longValue);
+    const IniFile file(path);
+    EXPECT_EQ(file[0][0].GetValue(), longValue);
+    EXPECT_EQ(file[0][1].GetValue(), "2");
+    EXPECT_EQ(file[1][0].GetValue(), longValue);
+}
+
+TEST(IniFile, SaysWhyAFileCannotBeRead) {
+    const TemporaryFolder folder;
+    IniFile file;
+    file["Old"];
+    EXPECT_EQ(file.Open(std::string()).Text(), ErrorString(false).Text());
+    EXPECT_TRUE(file.Empty());
+    const std::string missing = folder.File("none.ini");
+    const ErrorString error = file.Open(missing);
+    EXPECT_EQ(error.Text(), "Error opening \"" + missing + "\" for reading!");
+    EXPECT_EQ(error.Cause(), missing + ": No such file or directory");
+    EXPECT_EQ(file.Open(folder.File("")).Cause(), folder.File("") + ": Is a directory");
+    EXPECT_EQ(IniFile(folder.Write("dup.ini", "[A]\n[a]\n")).NumSections(), 1);
+}
+
+TEST(IniFile, SavingNothingFailsAndLeavesTheOldFile) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("a.ini", "old");
+    EXPECT_FALSE(IniFile().Save(path).Empty());
+    EXPECT_EQ(TemporaryFolder::Read(path), "old");
+    IniFile file;
+    file["S"];
+    const ErrorString error = file.Save(folder.File("none/a.ini"));
+    EXPECT_EQ(error.Text(), ErrorString(false).Text());
+    EXPECT_EQ(error.Cause(), folder.File("none/a.ini") + ": No such file or directory");
+}
+
+TEST(IniFile, AddSectionReplacesInPlace) {
+    IniFile file;
+    file["A"]["old"] << 1;
+    file["B"];
+    Section replacement("a");
+    replacement["new"] << 2;
+    EXPECT_TRUE(file.AddSection(replacement));
+    EXPECT_EQ(Dump(file), (Lines{"[a|]", "new|2|", "[B|]"}));
+    EXPECT_FALSE(file.AddSection(Section("")));
+    EXPECT_TRUE(file.AddSection(Section("C")));
+    EXPECT_EQ(file.NumSections(), 3);
+}
+
+TEST(IniFile, FindsRenamesAndRemovesByNameIgnoringCase) {
+    IniFile file;
+    file["A"];
+    file["B"];
+    EXPECT_TRUE(file.HasSection("a"));
+    EXPECT_TRUE(file.HasSection(Section("b")));
+    EXPECT_FALSE(file.RenameSection("A", "a"));
+    EXPECT_FALSE(file.RenameSection("A", "b"));
+    EXPECT_FALSE(file.RenameSection("none", "C"));
+    EXPECT_TRUE(file.RenameSection("a", "C"));
+    EXPECT_EQ(*file[0].GetName(), "C");
+    const IniFile& constant = file;
+    EXPECT_EQ(&constant["A"], &IniFile::m_ErrorSection);
+    EXPECT_FALSE(constant["A"].IsValid());
+    EXPECT_TRUE(file.RemoveSection("c"));
+    EXPECT_FALSE(file.RemoveSection(std::string("c")));
+    EXPECT_TRUE(file.RemoveSection(Section("B")));
+    EXPECT_TRUE(file.Empty());
+}
+
+TEST(IniFile, GoesThroughAFileObjectWithoutItsUnnamedKeys) {
+    IniFile file;
+    file["A"] += SectionKey("k", 1, " comment");
+    file["A"] += SectionKey("", "", "a line");
+    file["B"]["k"] << "x";
+    FileObject object;
+    EXPECT_TRUE(file.Save(object));
+    IniFile read;
+    read["Old"];
+    EXPECT_TRUE(read.Open(object));
+    EXPECT_EQ(Dump(read), (Lines{"[A|]", "k|1|", "[B|]", "k|x|"}));
+}
+
+}  // namespace

@@ -1,21 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Any bytes are read as a settings file without harm, and what was read is written in a form
 // that reads back to the same sections, keys and texts.
+#include "require.h"
 #include <marlin/settings/ini_file.h>
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 namespace {
-
-void Require(bool condition) {
-    if (!condition) {
-        std::abort();
-    }
-}
 
 void RequireValidSections(const IniFile& file) {
     for (int i = 0; i < file.NumSections(); ++i) {

@@ -43,8 +43,7 @@ bool icompare(std::string_view a, std::string_view b) noexcept {
 }
 
 bool Smaller(std::string_view a, std::string_view b) noexcept {
-    const int order = PLATFORM::CompareIgnoringCase(a, b);
-    return order != 0 ? order < 0 : a < b;
+    return PLATFORM::CompareIgnoringCase(a, b) < 0;
 }
 
 bool Greater(std::string_view a, std::string_view b) noexcept {

@@ -4,13 +4,18 @@
 #include <marlin/contours/contour_definition_list.h>
 #include <marlin/contours/detail/contour_file.h>
 
+#include <algorithm>
 #include <cassert>
 #include <cmath>
+#include <span>
 
 [[gnu::init_priority(101)]] const std::string ContourDefinitionList::LINESTYLES[3] = {
     "CONTINUOUS", "DASHED", "DOTTED"};
 
 namespace {
+
+// In front of the definitions, in definitions.
+constexpr std::size_t leastRoom = 16;
 
 // The smallest multiple of the interval that is not below the lowest level.
 double FirstLevel(double lowest, double interval) {
@@ -18,16 +23,15 @@ double FirstLevel(double lowest, double interval) {
     return first < lowest ? first + interval : first;
 }
 
-bool CanGenerate(double first, double highest, double interval) {
+// -1 for too many levels, among them the endless ones of an interval that does not move a level.
+int CountLevels(double first, double highest, double interval) {
     int count = 0;
-    for (double level = first; level <= highest;) {
-        const double next = level + interval;
-        if (!(next > level) || ++count > ContourDefinitionList::MaxGeneratedLevels) {
-            return false;
+    for (double level = first; level <= highest; level += interval) {
+        if (++count > ContourDefinitionList::MaxGeneratedLevels) {
+            return -1;
         }
-        level = next;
     }
-    return true;
+    return count;
 }
 
 }  // namespace
@@ -35,16 +39,16 @@ bool CanGenerate(double first, double highest, double interval) {
 const ContourDefinitionList::ContourDefInfo& ContourDefinitionList::operator[](
     int index) const noexcept {
     assert(HoldsIndex(index));
-    return m_Definitions[static_cast<std::size_t>(index)];
+    return m_Storage[PositionOf(index)];
 }
 
 // Written out, since a list in another order than by level may be searched too.
 std::size_t ContourDefinitionList::LowerBound(double level) const noexcept {
-    std::size_t first = 0;
-    std::size_t count = m_Definitions.size();
+    std::size_t first = m_First;
+    std::size_t count = m_Storage.size() - m_First;
     while (count > 0) {
         const std::size_t half = count / 2;
-        if (m_Definitions[first + half].Level < level) {
+        if (m_Storage[first + half].Level < level) {
             first += half + 1;
             count -= half + 1;
         } else {
@@ -56,38 +60,74 @@ std::size_t ContourDefinitionList::LowerBound(double level) const noexcept {
 
 int ContourDefinitionList::Find(double level) const noexcept {
     const std::size_t position = LowerBound(level);
-    if (position == m_Definitions.size()) {
+    if (position == m_Storage.size()) {
         return -1;
     }
-    if (m_Definitions[position].Level == level) {
-        return static_cast<int>(position);
+    if (m_Storage[position].Level == level) {
+        return IndexOf(position);
     }
-    return position > 0 && m_Definitions[position - 1].Level == level
-               ? static_cast<int>(position) - 1
-               : -1;
+    const bool isBefore = position > m_First && m_Storage[position - 1].Level == level;
+    return isBefore ? IndexOf(position) - 1 : -1;
+}
+
+void ContourDefinitionList::Clear() noexcept {
+    m_Storage.clear();
+    m_First = 0;
+}
+
+// As much as there are definitions, so that the cost of many insertions stays in proportion.
+void ContourDefinitionList::MakeRoomInFront() {
+    const std::size_t room = std::max(m_Storage.size(), leastRoom);
+    m_Storage.insert(m_Storage.begin(), room, ContourDefInfo());
+    m_First = room;
+}
+
+// A list that is taken from in front and added to behind must not creep through memory.
+void ContourDefinitionList::DropSurplusRoom() {
+    if (m_First > 2 * (m_Storage.size() - m_First) + leastRoom) {
+        m_Storage.erase(m_Storage.begin(),
+                        m_Storage.begin() + static_cast<std::ptrdiff_t>(m_First));
+        m_First = 0;
+    }
+}
+
+std::size_t ContourDefinitionList::Insert(std::size_t position, const ContourDefInfo& def) {
+    const ContourDefInfo inserted = def;  // it may stand in this list
+    if (position - m_First > m_Storage.size() - position) {
+        m_Storage.insert(m_Storage.begin() + static_cast<std::ptrdiff_t>(position), inserted);
+        return position;
+    }
+    if (m_First == 0) {
+        MakeRoomInFront();
+        position += m_First;
+    }
+    const auto begin = m_Storage.begin() + static_cast<std::ptrdiff_t>(m_First);
+    const auto end = m_Storage.begin() + static_cast<std::ptrdiff_t>(position);
+    *std::move(begin, end, begin - 1) = inserted;
+    --m_First;
+    return position - 1;
 }
 
 int ContourDefinitionList::Add(const ContourDefInfo& def) {
     if (std::isnan(def.Level)) {
         return -1;
     }
-    if (m_Definitions.empty() || m_Definitions.back().Level < def.Level) {
-        m_Definitions.push_back(def);
+    if (NumContours() == 0 || m_Storage.back().Level < def.Level) {
+        m_Storage.push_back(def);
         return NumContours() - 1;
     }
     const std::size_t position = LowerBound(def.Level);
-    if (position < m_Definitions.size() && m_Definitions[position].Level == def.Level) {
+    if (position < m_Storage.size() && m_Storage[position].Level == def.Level) {
         return -1;
     }
-    m_Definitions.insert(m_Definitions.begin() + static_cast<std::ptrdiff_t>(position), def);
-    return static_cast<int>(position);
+    return IndexOf(Insert(position, def));
 }
 
 int ContourDefinitionList::Set(int index, const ContourDefInfo& def) {
     if (!HoldsIndex(index) || std::isnan(def.Level)) {
         return -1;
     }
-    ContourDefInfo& old = m_Definitions[static_cast<std::size_t>(index)];
+    ContourDefInfo& old = m_Storage[PositionOf(index)];
     if (old.Level == def.Level) {
         old = def;
         return index;
@@ -101,50 +141,60 @@ bool ContourDefinitionList::Remove(int index) {
     if (!HoldsIndex(index)) {
         return false;
     }
-    m_Definitions.erase(m_Definitions.begin() + index);
+    const auto begin = m_Storage.begin() + static_cast<std::ptrdiff_t>(m_First);
+    if (index < NumContours() / 2) {
+        std::move_backward(begin, begin + index, begin + index + 1);
+        ++m_First;
+        DropSurplusRoom();
+    } else {
+        m_Storage.erase(begin + index);
+    }
     return true;
 }
 
 bool ContourDefinitionList::Generate(double lowest, double highest, double interval) {
-    m_Definitions.clear();
+    Clear();
     if (!(lowest < highest) || !(interval > 0.0) || !std::isfinite(lowest) ||
         !std::isfinite(highest)) {
         return false;
     }
     const double first = FirstLevel(lowest, interval);
-    if (!CanGenerate(first, highest, interval)) {
+    const int count = CountLevels(first, highest, interval);
+    if (count < 0) {
         return false;
     }
+    m_Storage.reserve(static_cast<std::size_t>(count));
     ContourDefInfo definition;
     for (double level = first; level <= highest; level += interval) {
         definition.Level = level;
-        m_Definitions.push_back(definition);
+        m_Storage.push_back(definition);
     }
     return true;
 }
 
 bool ContourDefinitionList::Generate(const ColorTable& table, bool invert) {
-    m_Definitions.clear();
+    Clear();
     ContourDefInfo definition;
     for (int i = 0; i < table.NumEntries(); ++i) {
         const auto color = static_cast<unsigned int>(table.EntryColor(i));
         definition.Level = table.EntryValue(i);
         definition.Color = invert ? 255U - color : color;
-        m_Definitions.push_back(definition);
+        m_Storage.push_back(definition);
     }
-    return !m_Definitions.empty();
+    return NumContours() != 0;
 }
 
 bool ContourDefinitionList::Load(const char* path) {
-    if (!path || !*path || !MARLINSUITE::ReadContourFile(path, m_Definitions)) {
+    if (!path || !*path || !MARLINSUITE::ReadContourFile(path, m_Storage)) {
         return false;
     }
-    return !m_Definitions.empty();
+    return NumContours() != 0;
 }
 
 bool ContourDefinitionList::Save(const char* path) const {
-    if (!path || !*path || m_Definitions.empty()) {
+    if (!path || !*path || NumContours() == 0) {
         return false;
     }
-    return MARLINSUITE::ReplaceFile(path, MARLINSUITE::ContourFileText(m_Definitions)).Empty();
+    const std::string text = MARLINSUITE::ContourFileText(std::span(m_Storage).subspan(m_First));
+    return MARLINSUITE::ReplaceFile(path, text).Empty();
 }

@@ -4,8 +4,8 @@
 #include <marlin/platform/export.h>
 
 #include <cstddef>
-#include <deque>
 #include <string>
+#include <vector>
 
 class ColorTable;
 
@@ -30,7 +30,7 @@ public:
     static constexpr int MaxGeneratedLevels = 10'000'000;
 
     [[nodiscard]] int NumContours() const noexcept {
-        return static_cast<int>(m_Definitions.size());
+        return static_cast<int>(m_Storage.size() - m_First);
     }
     /// The index must lie in 0 to `NumContours()` - 1.
     [[nodiscard]] const ContourDefInfo& operator[](int index) const noexcept;
@@ -70,10 +70,23 @@ public:
     bool Save(const char* path) const;
 
 private:
-    [[nodiscard]] std::size_t LowerBound(double level) const noexcept;
     [[nodiscard]] bool HoldsIndex(int index) const noexcept {
         return index >= 0 && index < NumContours();
     }
+    [[nodiscard]] std::size_t PositionOf(int index) const noexcept {
+        return m_First + static_cast<std::size_t>(index);
+    }
+    [[nodiscard]] int IndexOf(std::size_t position) const noexcept {
+        return static_cast<int>(position - m_First);
+    }
+    [[nodiscard]] std::size_t LowerBound(double level) const noexcept;
+    void Clear() noexcept;
+    void MakeRoomInFront();
+    void DropSurplusRoom();
+    std::size_t Insert(std::size_t position, const ContourDefInfo& def);
 
-    std::deque<ContourDefInfo> m_Definitions;
+    // One block with room at both ends, so that an insertion moves the shorter side alone, and
+    // in one piece. The definitions begin at m_First.
+    std::vector<ContourDefInfo> m_Storage;
+    std::size_t m_First = 0;
 };

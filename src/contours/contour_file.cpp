@@ -62,7 +62,7 @@ private:
 
 }  // namespace
 
-bool ReadContourFile(const std::string& path, ContourDefinitions& definitions) {
+bool ReadContourFile(const std::string& path, std::vector<ContourDefInfo>& definitions) {
     LineReader lines;
     if (lines.Open(path) != 0) {
         return false;
@@ -82,7 +82,7 @@ bool ReadContourFile(const std::string& path, ContourDefinitions& definitions) {
     return true;
 }
 
-std::string ContourFileText(const ContourDefinitions& definitions) {
+std::string ContourFileText(std::span<const ContourDefInfo> definitions) {
     constexpr std::size_t usualSectionSize = 160;
     std::string text;
     text.reserve(definitions.size() * usualSectionSize);

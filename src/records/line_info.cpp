@@ -18,7 +18,7 @@ const std::string& LineInfo::StyleStr() const noexcept {
     const auto style = static_cast<std::size_t>(m_Style);
     const bool known = style < std::size(STYLEDESCRIPTIONS);
     assert(known);
-    return STYLEDESCRIPTIONS[known ? style : std::size_t{SOLID_LINE}];
+    return STYLEDESCRIPTIONS[known ? style : 0];
 }
 
 void LineInfo::SetWidth(float width) noexcept {

@@ -37,14 +37,16 @@ TEST(TextFunctions, TheLeadingNumberOfATextIsTaken) {
     }
 }
 
-TEST(TextFunctions, TheOrderIsStrictAndTellsEveryTwoTextsApart) {
-    const std::vector<std::string> ascending = {"", "A", "a", "ab", "B", "b", "b ", "\xC4", "\xE4"};
+TEST(TextFunctions, TheOrderIsStrictAndTellsApartWhatDiffersInMoreThanCase) {
+    const std::vector<std::string> ascending = {"", "A", "ab", "B", "b ", "\xC4", "\xE4"};
     for (std::size_t i = 0; i < ascending.size(); ++i) {
         for (std::size_t k = 0; k < ascending.size(); ++k) {
             EXPECT_EQ(Smaller(ascending[i], ascending[k]), i < k) << i << ' ' << k;
             EXPECT_EQ(Greater(ascending[i], ascending[k]), i > k) << i << ' ' << k;
         }
     }
+    EXPECT_FALSE(Smaller("aB", "Ab"));
+    EXPECT_FALSE(Greater("aB", "Ab"));
 }
 
 TEST(TextFunctions, EqualityIgnoresTheCaseOfAsciiLettersOnly) {

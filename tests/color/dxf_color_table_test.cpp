@@ -2,11 +2,10 @@
 #include <marlin/color/dxf_color_table.h>
 
 #include <cmath>
-#include <filesystem>
 #include <limits>
-#include <string>
 
 #include <gtest/gtest.h>
+#include <support/temporary_file.h>
 
 namespace {
 
@@ -25,18 +24,6 @@ DXFColorTable RedToBlue() {
     table.SetBelowColor(green);
     return table;
 }
-
-class TemporaryFile {
-public:
-    explicit TemporaryFile(const std::string& name) : m_Path(testing::TempDir() + name) {}
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    ~TemporaryFile() { std::filesystem::remove(m_Path); }
-    [[nodiscard]] const char* Path() const { return m_Path.c_str(); }
-
-private:
-    std::string m_Path;
-};
 
 TEST(DXFColorTable, KeepsTheFirstOfNeighborsOfOneColor) {
     DXFColorTable table = RedToBlue();
@@ -135,7 +122,7 @@ TEST(DXFColorTable, ComparesEntriesAlone) {
 }
 
 TEST(DXFColorTable, GoesThroughAFile) {
-    const TemporaryFile file("dxf_color_table_test.col");
+    const TemporaryFile file;
     const DXFColorTable saved = RedToBlue();
     ASSERT_TRUE(saved.FileSave(file.Path()));
     DXFColorTable loaded;

@@ -124,7 +124,7 @@ TEST(DXFColor, HasAPaletteOfHueGroupsFromBrightToDark) {
                   half ? halfSaturated[step] : 0)
             << index;
         const float away = HSVColor(color).Hue() - static_cast<float>((index / 10 - 1) * 15);
-        EXPECT_LT(std::fabs(std::remainder(away, 360.0F)), 12.5F) << index;
+        EXPECT_LT(std::fabs(std::remainder(away, 360.0F)), 16.0F) << index;
     }
 }
 

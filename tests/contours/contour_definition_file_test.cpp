@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/base/number_text.h>
+#include <marlin/contours/contour_definition_list.h>
+#include <marlin/settings/ini_file.h>
+
+#include <string>
+
+#include <gtest/gtest.h>
+#include <support/temporary_file.h>
+
+namespace {
+
+using Definition = ContourDefinitionList::ContourDefInfo;
+
+Definition Defined(double level, unsigned long color, int type, float width, bool annotate) {
+    Definition definition;
+    definition.Level = level;
+    definition.Color = color;
+    definition.LineType = type;
+    definition.LineWidth = width;
+    definition.Annotate = annotate;
+    return definition;
+}
+
+// "level/color/type/width/annotate " for each definition.
+std::string TextOf(const ContourDefinitionList& list) {
+    std::string text;
+    for (int i = 0; i < list.NumContours(); ++i) {
+        MARLINSUITE::AppendShortest(text, list[i].Level);
+        MARLINSUITE::AppendNumber(text += '/', list[i].Color);
+        MARLINSUITE::AppendNumber(text += '/', list[i].LineType);
+        MARLINSUITE::AppendShortest(text += '/', list[i].LineWidth);
+        text += list[i].Annotate ? "/1 " : "/0 ";
+    }
+    return text;
+}
+
+ContourDefinitionList FiveAndTen() {
+    ContourDefinitionList list;
+    list.Add(Defined(10.0, 0x0201FF, 1, 0.25F, true));
+    list.Add(Defined(5.0, 0xFF0000, 0, 1.0F, false));
+    return list;
+}
+
+TEST(ContourDefinitionFile, HasASectionForEachDefinition) {
+    const TemporaryFile file;
+    ASSERT_TRUE(FiveAndTen().Save(file.Path()));
+    EXPECT_EQ(file.Bytes(),
+              "[Contour(0)]\r\n"
+              "Level     = 5.000000\r\n"
+              "Color     = 170\r\n"
+              "TrueColor = 16711680\r\n"
+              "LineType  = CONTINUOUS\r\n"
+              "LineWidth = 1.000000\r\n"
+              "Annotate  = 0\r\n"
+              "\r\n"
+              "[Contour(1)]\r\n"
+              "Level     = 10.000000\r\n"
+              "Color     = 10\r\n"
+              "TrueColor = 131583\r\n"
+              "LineType  = DASHED\r\n"
+              "LineWidth = 0.250000\r\n"
+              "Annotate  = 1\r\n"
+              "\r\n");
+}
+
+TEST(ContourDefinitionFile, IsWrittenAsASettingsFileIs) {
+    const TemporaryFile file;
+    ASSERT_TRUE(FiveAndTen().Save(file.Path()));
+    const std::string bytes = file.Bytes();
+    IniFile settings(file.Path());
+    EXPECT_EQ(settings.NumSections(), 2);
+    ASSERT_TRUE(settings.Save(std::string(file.Path())).Empty());
+    EXPECT_EQ(file.Bytes(), bytes);
+}
+
+TEST(ContourDefinitionFile, LoadsBehindWhatTheListHolds) {
+    const TemporaryFile file;
+    const ContourDefinitionList saved = FiveAndTen();
+    ASSERT_TRUE(saved.Save(file.Path()));
+    ContourDefinitionList loaded;
+    EXPECT_TRUE(loaded.Load(file.Path()));
+    EXPECT_EQ(TextOf(loaded), TextOf(saved));
+    ContourDefinitionList more;
+    more.Add(Defined(99.0, 1, 2, 3.0F, true));
+    EXPECT_TRUE(more.Load(file.Path()));
+    EXPECT_EQ(TextOf(more), "99/1/2/3/1 " + TextOf(saved));
+}
+
+TEST(ContourDefinitionFile, IsReadInEveryFormThatSettingsFilesMayHave) {
+    const struct {
+        const char* bytes;
+        const char* definitions;
+    } cases[] = {
+        {"[Contour(0)]\nLevel=5\nLineType=Dashed\nLineWidth=2\nAnnotate=1\nTrueColor=7",
+         "5/7/1/2/1 "},
+        {"[CONTOUR(0)] ; first\r\n level = 5 m ; metres\r\nlinetype=dotted", "5/0/2/0/0 "},
+        {"[Contour(0)]\nLineType=WAVY\nLevel=-1e2", "-100/0/0/0/0 "},
+        {"[Contour(0)]\nColor=5", "0/16711680/0/0/0 "},
+        {"[Contour(0)]\nColor=5\nTrueColor=red", "0/16711680/0/0/0 "},
+        {"[Contour(0)]\nColor=300", "0/0/0/0/0 "},
+        {"[Contour(0)]\nColor=-1", "0/0/0/0/0 "},
+        {"[Contour(0)]\nTrueColor=4294967295", "0/4294967295/0/0/0 "},
+        // The first of several keys of one name counts, readable or not.
+        {"[Contour(0)]\nLevel=5\nLevel=6", "5/0/0/0/0 "},
+        {"[Contour(0)]\nLevel=deep\nLevel=6", "0/0/0/0/0 "},
+        // What a section lacks is that of the one before, line type and true color apart.
+        {"[Contour(0)]\nLevel=5\nColor=1\nTrueColor=9\nLineType=DOTTED\nLineWidth=2\nAnnotate=1\n"
+         "[Contour(1)]",
+         "5/9/2/2/1 5/255/0/2/1 "},
+        {"[Contour(0)]\nAnnotate=1\n[Contour(1)]\nAnnotate=yes\n[Contour(2)]\nAnnotate=0",
+         "0/0/0/0/1 0/0/0/0/1 0/0/0/0/0 "},
+        // In the order of the numbers, up to the first that is missing.
+        {"[Contour(2)]\nLevel=3\n[Contour(0)]\nLevel=1\n[Contour(1)]\nLevel=2\nAnnotate=1",
+         "1/0/0/0/0 2/0/0/0/1 3/0/0/0/1 "},
+        {"[Other]\nLevel=9\n[Contour(0)]\nLevel=1\n[Contour(2)]\nLevel=3", "1/0/0/0/0 "},
+        {"[Contour(0)]\nLevel=7\n[Contour(1)]\nLevel=7\n[Contour(2)]\nLevel=1",
+         "7/0/0/0/0 7/0/0/0/0 1/0/0/0/0 "},
+        // A fault ends the reading; what stands before it counts.
+        {"[Contour(0)]\nLevel=1\n[Contour(1)]\nLevel=2\n[contour(0)]\n[Contour(2)]",
+         "1/0/0/0/0 2/0/0/0/0 "},
+        {"[Contour(1)]\nLevel=1\n[Contour(0)]\nLevel=2\n[Contour(1)]\n", "2/0/0/0/0 1/0/0/0/0 "},
+        {"[Contour(0)]\nLevel=1\n[Contour(1)]\nLevel=2\n[]\n", "1/0/0/0/0 "},
+        {"[Contour(1)]\nLevel=1\n[Contour(0)]\nLevel=2\n[a]\n[]\n", "2/0/0/0/0 1/0/0/0/0 "},
+        {"[Contour(0)]\nLevel=1\n[Contour(2)]\nLevel=2\n[]\n", "1/0/0/0/0 "},
+        {"[Contour(0)]\n[a]\n[A]\n[Contour(1)]\n", "0/0/0/0/0 "},
+    };
+    for (const auto& [bytes, definitions] : cases) {
+        const TemporaryFile file{std::string(bytes)};
+        ContourDefinitionList list;
+        EXPECT_TRUE(list.Load(file.Path())) << bytes;
+        EXPECT_EQ(TextOf(list), definitions) << bytes;
+    }
+}
+
+TEST(ContourDefinitionFile, LeavesTheListWhenThereIsNothingToRead) {
+    for (const char* bytes :
+         {"", "Level=5\n", "[Contour(0)\nLevel=5\n", "[]\n[Contour(0)]\n", "[Contour(0)]\n[]\n"}) {
+        const TemporaryFile file{std::string(bytes)};
+        ContourDefinitionList list = FiveAndTen();
+        EXPECT_FALSE(list.Load(file.Path())) << bytes;
+        EXPECT_EQ(TextOf(list), TextOf(FiveAndTen())) << bytes;
+    }
+    ContourDefinitionList list = FiveAndTen();
+    for (const char* path : {static_cast<const char*>(nullptr), "", "/", "/nowhere/at/all.cdf"}) {
+        EXPECT_FALSE(list.Load(path));
+    }
+    EXPECT_EQ(TextOf(list), TextOf(FiveAndTen()));
+}
+
+TEST(ContourDefinitionFile, YieldsNoDefinitionFromSectionsOfOtherNames) {
+    for (const char* name : {"Contour", "Contour()", "Contour(00)", "Contour(+0)", "Contour( 0)",
+                             "Contour(1)", "Contour(0) ", "xContour(0)", "Contour(0x0)",
+                             "Contour(18446744073709551616)", "Contour(000000000000000000000)"}) {
+        const TemporaryFile file{"[" + std::string(name) + "]\nLevel=5\n"};
+        ContourDefinitionList list;
+        EXPECT_FALSE(list.Load(file.Path())) << name;
+        EXPECT_EQ(list.NumContours(), 0) << name;
+        // A list that holds something is not empty afterwards, which is what the result says.
+        list = FiveAndTen();
+        EXPECT_TRUE(list.Load(file.Path())) << name;
+        EXPECT_EQ(list.NumContours(), 2) << name;
+    }
+}
+
+TEST(ContourDefinitionFile, IsReadWholeInReverseOrder) {
+    constexpr int count = 5000;
+    std::string bytes;
+    for (int n = count - 1; n >= 0; --n) {
+        const std::string number = std::to_string(n);
+        bytes += "[Contour(" + number + ")]\nLevel=" + number + "\n";
+    }
+    const TemporaryFile file(bytes);
+    ContourDefinitionList list;
+    ASSERT_TRUE(list.Load(file.Path()));
+    ASSERT_EQ(list.NumContours(), count);
+    for (int n = 0; n < count; ++n) {
+        EXPECT_EQ(list.Find(n), n);
+    }
+}
+
+TEST(ContourDefinitionFile, IsLeftAloneByAnEmptyList) {
+    const TemporaryFile file;
+    EXPECT_FALSE(ContourDefinitionList().Save(file.Path()));
+    EXPECT_FALSE(file.Exists());
+    file.Write("old");
+    EXPECT_FALSE(ContourDefinitionList().Save(file.Path()));
+    EXPECT_EQ(file.Bytes(), "old");
+}
+
+TEST(ContourDefinitionFile, ReportsAPathThatCannotBeWritten) {
+    for (const char* path : {static_cast<const char*>(nullptr), "", "/nowhere/at/all.cdf"}) {
+        EXPECT_FALSE(FiveAndTen().Save(path));
+    }
+}
+
+TEST(ContourDefinitionFile, NamesAnUnknownLineTypeContinuous) {
+    for (const int type : {-1, 3}) {
+        const TemporaryFile file;
+        ContourDefinitionList list;
+        list.Add(Defined(1.0, 0, type, 0.0F, false));
+        ASSERT_TRUE(list.Save(file.Path()));
+        EXPECT_NE(file.Bytes().find("LineType  = CONTINUOUS\r\n"), std::string::npos);
+    }
+}
+
+TEST(ContourDefinitionFile, KeepsSixDecimalsOfALevel) {
+    const TemporaryFile file;
+    ContourDefinitionList list;
+    list.Add(Defined(0.1234567, 0, 0, 0.0F, false));
+    list.Add(Defined(1e15 + 0.5, 0, 0, 0.0F, false));
+    ASSERT_TRUE(list.Save(file.Path()));
+    ContourDefinitionList loaded;
+    ASSERT_TRUE(loaded.Load(file.Path()));
+    EXPECT_EQ(TextOf(loaded), "0.123457/0/0/0/0 1000000000000000.5/0/0/0/0 ");
+}
+
+}  // namespace

@@ -1,0 +1,226 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/base/color_table.h>
+#include <marlin/contours/contour_definition_list.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <limits>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Definition = ContourDefinitionList::ContourDefInfo;
+using Levels = std::vector<double>;
+
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+Definition At(double level) {
+    Definition definition;
+    definition.Level = level;
+    return definition;
+}
+
+ContourDefinitionList ListOf(const Levels& levels) {
+    ContourDefinitionList list;
+    for (const double level : levels) {
+        list.Add(At(level));
+    }
+    return list;
+}
+
+Levels LevelsOf(const ContourDefinitionList& list) {
+    Levels levels;
+    for (int i = 0; i < list.NumContours(); ++i) {
+        levels.push_back(list[i].Level);
+    }
+    return levels;
+}
+
+TEST(ContourDefinitionList, KeepsAddedDefinitionsInOrder) {
+    ContourDefinitionList list;
+    EXPECT_EQ(list.Add(At(10.0)), 0);
+    EXPECT_EQ(list.Add(At(5.0)), 0);
+    EXPECT_EQ(list.Add(At(20.0)), 2);
+    EXPECT_EQ(list.Add(At(10.0000001)), 2);
+    EXPECT_EQ(LevelsOf(list), (Levels{5.0, 10.0, 10.0000001, 20.0}));
+}
+
+TEST(ContourDefinitionList, RefusesALevelThatIsThereOrIsNoNumber) {
+    ContourDefinitionList list = ListOf({5.0, 10.0, 20.0});
+    for (const double level : {5.0, 10.0, 20.0, nan}) {
+        EXPECT_EQ(list.Add(At(level)), -1) << level;
+    }
+    EXPECT_EQ(list.Set(1, At(nan)), -1);
+    EXPECT_EQ(LevelsOf(list), (Levels{5.0, 10.0, 20.0}));
+    EXPECT_EQ(ContourDefinitionList().Add(At(nan)), -1);
+    EXPECT_EQ(list.Add(At(infinity)), 3);
+    EXPECT_EQ(list.Add(At(-infinity)), 0);
+}
+
+TEST(ContourDefinitionList, SortsManyLevelsInAnyOrderOfAdding) {
+    ContourDefinitionList list;
+    Levels sorted;
+    for (int i = 0; i < 1009; ++i) {
+        const int level = i * 331 % 1009;  // each of 0 to 1008 once
+        const int index = list.Add(At(level));
+        EXPECT_EQ(list[index].Level, level);
+        sorted.push_back(i);
+    }
+    EXPECT_EQ(LevelsOf(list), sorted);
+    for (int i = 0; i < 1009; ++i) {
+        EXPECT_EQ(list.Find(i), i);
+    }
+}
+
+// Against a plain vector, through every mixture of places.
+TEST(ContourDefinitionList, StaysInOrderThroughAddingAndRemoving) {
+    ContourDefinitionList list;
+    Levels sorted;
+    unsigned int random = 1;
+    for (int i = 0; i < 3000; ++i) {
+        random = random * 1664525U + 1013904223U;
+        const double level = random >> 20U;
+        const auto place = std::lower_bound(sorted.begin(), sorted.end(), level);
+        const bool isThere = place != sorted.end() && *place == level;
+        const int index = isThere ? -1 : static_cast<int>(place - sorted.begin());
+        EXPECT_EQ(list.Add(At(level)), index);
+        if (!isThere) {
+            sorted.insert(place, level);
+        }
+        if (i % 3 == 0 || (i > 1500 && i < 2500)) {
+            const auto removed = static_cast<std::ptrdiff_t>((random >> 8U) % sorted.size());
+            EXPECT_TRUE(list.Remove(static_cast<int>(removed)));
+            sorted.erase(sorted.begin() + removed);
+        }
+    }
+    EXPECT_EQ(LevelsOf(list), sorted);
+    while (list.NumContours() > 0) {
+        EXPECT_TRUE(list.Remove(0));
+    }
+    EXPECT_EQ(list.Add(At(3.0)), 0);
+    EXPECT_EQ(list.Add(At(1.0)), 0);
+    EXPECT_EQ(LevelsOf(list), (Levels{1.0, 3.0}));
+}
+
+TEST(ContourDefinitionList, FindsLevelsExactly) {
+    const ContourDefinitionList list = ListOf({5.0, 10.0});
+    const struct {
+        double level;
+        int index;
+    } cases[] = {
+        {5.0, 0},  {10.0, 1}, {7.5, -1}, {4.0, -1}, {11.0, -1}, {std::nextafter(10.0, 0.0), -1},
+        {nan, -1},
+    };
+    for (const auto& [level, index] : cases) {
+        EXPECT_EQ(list.Find(level), index) << level;
+        EXPECT_EQ(list.Find(At(level)), index) << level;
+    }
+    EXPECT_EQ(ContourDefinitionList().Find(5.0), -1);
+}
+
+TEST(ContourDefinitionList, SetsADefinitionInPlaceOrMovesIt) {
+    ContourDefinitionList list = ListOf({5.0, 10.0, 20.0});
+    Definition definition = At(10.0);
+    definition.Color = 0x123456;
+    definition.LineType = 2;
+    definition.LineWidth = 1.5F;
+    definition.Annotate = true;
+    EXPECT_EQ(list.Set(1, definition), 1);
+    EXPECT_EQ(list[1].Color, 0x123456UL);
+    EXPECT_EQ(list[1].LineType, 2);
+    EXPECT_EQ(list[1].LineWidth, 1.5F);
+    EXPECT_TRUE(list[1].Annotate);
+    EXPECT_EQ(list.Set(0, At(30.0)), 2);
+    EXPECT_EQ(LevelsOf(list), (Levels{10.0, 20.0, 30.0}));
+    EXPECT_EQ(list[0].Color, 0x123456UL);
+}
+
+TEST(ContourDefinitionList, LosesADefinitionSetToTheLevelOfAnother) {
+    ContourDefinitionList list = ListOf({5.0, 10.0, 20.0});
+    EXPECT_EQ(list.Set(0, list[2]), -1);
+    EXPECT_EQ(LevelsOf(list), (Levels{10.0, 20.0}));
+}
+
+TEST(ContourDefinitionList, RefusesIndicesOutsideTheList) {
+    ContourDefinitionList list = ListOf({5.0, 10.0, 20.0});
+    for (const int index : {-1, 3}) {
+        EXPECT_EQ(list.Set(index, At(1.0)), -1) << index;
+        EXPECT_FALSE(list.Remove(index)) << index;
+    }
+    EXPECT_EQ(list.NumContours(), 3);
+    EXPECT_TRUE(list.Remove(1));
+    EXPECT_EQ(LevelsOf(list), (Levels{5.0, 20.0}));
+}
+
+TEST(ContourDefinitionList, GeneratesTheMultiplesOfTheInterval) {
+    const struct {
+        double lowest, highest, interval;
+        Levels levels;
+    } cases[] = {
+        {0.0, 10.0, 2.5, {0.0, 2.5, 5.0, 7.5, 10.0}},
+        {7.0, 20.0, 5.0, {10.0, 15.0, 20.0}},
+        {-7.0, 3.0, 5.0, {-5.0, 0.0}},
+        {-10.0, -1.0, 3.0, {-9.0, -6.0, -3.0}},
+        {1.0, 2.0, 5.0, {}},
+        {-5.0, 5.0, infinity, {0.0}},
+    };
+    for (const auto& [lowest, highest, interval, levels] : cases) {
+        ContourDefinitionList list = ListOf({1.0, 99.0});
+        EXPECT_TRUE(list.Generate(lowest, highest, interval));
+        EXPECT_EQ(LevelsOf(list), levels) << lowest << " to " << highest;
+    }
+}
+
+TEST(ContourDefinitionList, GeneratesByRepeatedAddition) {
+    ContourDefinitionList list;
+    EXPECT_TRUE(list.Generate(0.0, 1.0, 0.1));
+    ASSERT_EQ(list.NumContours(), 11);
+    EXPECT_EQ(list[10].Level, 0.9999999999999999);
+    EXPECT_EQ(list[10].Color, 0UL);
+    EXPECT_EQ(list[10].LineType, 0);
+    EXPECT_FALSE(list[10].Annotate);
+}
+
+TEST(ContourDefinitionList, IsEmptyAfterARefusedGeneration) {
+    const struct {
+        double lowest, highest, interval;
+    } cases[] = {
+        {5.0, 5.0, 1.0},          {6.0, 5.0, 1.0},        {0.0, 10.0, 0.0},  {0.0, 10.0, -1.0},
+        {nan, 10.0, 1.0},         {0.0, nan, 1.0},        {0.0, 10.0, nan},  {0.0, infinity, 1.0},
+        {-infinity, 0.0, 1.0},    {1e17, 1e17 + 64, 1.0}, {-1e17, 0.0, 1.0}, {0.0, 1.0, 1e-300},
+        {0.0, 10'000'000.0, 1.0},  // one level too many
+    };
+    for (const auto& [lowest, highest, interval] : cases) {
+        ContourDefinitionList list = ListOf({1.0});
+        EXPECT_FALSE(list.Generate(lowest, highest, interval)) << lowest << " to " << highest;
+        EXPECT_EQ(list.NumContours(), 0);
+    }
+}
+
+TEST(ContourDefinitionList, GeneratesAsManyLevelsAsAllowed) {
+    ContourDefinitionList list;
+    EXPECT_TRUE(list.Generate(1.0, ContourDefinitionList::MaxGeneratedLevels, 1.0));
+    EXPECT_EQ(list.NumContours(), ContourDefinitionList::MaxGeneratedLevels);
+}
+
+TEST(ContourDefinitionList, GeneratesFromAColorTable) {
+    ColorTable table;
+    ContourDefinitionList list = ListOf({1.0});
+    EXPECT_FALSE(list.Generate(table, false));
+    EXPECT_EQ(list.NumContours(), 0);
+    table.AddEntry(-2.0, 0x000000FF);
+    table.AddEntry(3.5, 0x00010200);
+    EXPECT_TRUE(list.Generate(table, false));
+    EXPECT_EQ(LevelsOf(list), (Levels{-2.0, 3.5}));
+    EXPECT_EQ(list[0].Color, 0x000000FFUL);
+    EXPECT_EQ(list[1].Color, 0x00010200UL);
+    EXPECT_TRUE(list.Generate(table, true));
+    EXPECT_EQ(list[0].Color, 0UL);
+    EXPECT_EQ(list[1].Color, 0xFFFEFEFFUL);  // 255 - 66048, modulo 2^32
+}
+
+}  // namespace

@@ -51,8 +51,12 @@
 #include <marlin/platform/text/string_table.h>
 #include <marlin/records/bias_info.h>
 #include <marlin/records/dxf_info.h>
+#include <marlin/records/geo_grid_info.h>
+#include <marlin/records/grid_info.h>
 #include <marlin/records/line_info.h>
 #include <marlin/records/map_info.h>
+#include <marlin/records/panel_info.h>
+#include <marlin/records/paper_grid.h>
 #include <marlin/records/sun_illumination_info.h>
 #include <marlin/resources/messages.h>
 #include <marlin/settings/crc_file.h>

@@ -43,6 +43,11 @@
 #include <marlin/geometry/unit_type.h>
 #include <marlin/geometry/vector_2d.h>
 #include <marlin/geometry/vector_3d.h>
+#include <marlin/keywords/keyword.h>
+#include <marlin/keywords/keywords.h>
+#include <marlin/keywords/list_keyword.h>
+#include <marlin/keywords/list_keywords.h>
+#include <marlin/keywords/predefined_keywords.h>
 #include <marlin/platform/drawing/point.h>
 #include <marlin/platform/export.h>
 #include <marlin/platform/kernel/extension_module.h>

@@ -53,6 +53,7 @@
 #include <marlin/platform/kernel/extension_module.h>
 #include <marlin/platform/text/ascii.h>
 #include <marlin/platform/text/c_string.h>
+#include <marlin/platform/text/code_page.h>
 #include <marlin/platform/text/string_table.h>
 #include <marlin/records/bias_info.h>
 #include <marlin/records/dxf_info.h>

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/color_table.h>
-#include <marlin/base/file_replacement.h>
 #include <marlin/contours/contour_definition_list.h>
 #include <marlin/contours/detail/contour_file.h>
 
@@ -195,6 +194,5 @@ bool ContourDefinitionList::Save(const char* path) const {
     if (!path || !*path || NumContours() == 0) {
         return false;
     }
-    const std::string text = MARLINSUITE::ContourFileText(std::span(m_Storage).subspan(m_First));
-    return MARLINSUITE::ReplaceFile(path, text).Empty();
+    return MARLINSUITE::WriteContourFile(path, std::span(m_Storage).subspan(m_First));
 }

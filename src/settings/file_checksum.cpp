@@ -13,7 +13,7 @@
 namespace {
 
 struct Closer {
-    void operator()(std::FILE* file) const noexcept { std::fclose(file); }
+    void operator()(std::FILE* file) const noexcept { static_cast<void>(std::fclose(file)); }
 };
 
 // Words are fed low byte first, so feeding their bytes is the same.

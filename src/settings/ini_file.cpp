@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/base/detail/file_output.h>
 #include <marlin/base/detail/settings_reader.h>
-#include <marlin/base/file_replacement.h>
 #include <marlin/resources/messages.h>
 #include <marlin/settings/detail/name_index.h>
 #include <marlin/settings/detail/name_pool.h>
@@ -12,7 +12,7 @@
 #include <system_error>
 
 // Made before the objects of hosts, destroyed after them; its name needs nothing made before.
-[[gnu::init_priority(101)]] const Section IniFile::m_ErrorSection("");
+[[gnu::init_priority(102)]] const Section IniFile::m_ErrorSection("");
 
 namespace {
 
@@ -89,10 +89,17 @@ ErrorString IniFile::Read(MARLINSUITE::LineReader& lines, const std::string& pat
 
 std::string IniFile::Text() const {
     std::string text;
-    for (const Section& section : m_Sections) {
-        MARLINSUITE::AppendSection(text, section);
-    }
+    MARLINSUITE::BlockOutput output([&text](std::string_view block) { text += block; });
+    Write(output);
+    output.Finish();
     return text;
+}
+
+void IniFile::Write(MARLINSUITE::BlockOutput& output) const {
+    MARLINSUITE::SettingsWriter writer(output);
+    for (const Section& section : m_Sections) {
+        MARLINSUITE::WriteSection(writer, section);
+    }
 }
 
 ErrorString IniFile::Save(const FileName& path) const {
@@ -103,7 +110,8 @@ ErrorString IniFile::Save(const std::string& path) const {
     if (Empty()) {
         return ErrorString(false);
     }
-    const ErrorString written = MARLINSUITE::ReplaceFile(path, Text());
+    const ErrorString written =
+        MARLINSUITE::ReplaceFile(path, [this](MARLINSUITE::BlockOutput& output) { Write(output); });
     return written.Empty() ? written : ErrorString(false).SetCause(written.Text());
 }
 

@@ -8,8 +8,8 @@
 #include <utility>
 
 // Made before the objects of hosts and of the library's other sources, destroyed after them.
-[[gnu::init_priority(101)]] const HashedString Section::m_ChecksumName("$CHECKSUM$");
-[[gnu::init_priority(101)]] const SectionKey Section::m_ErrorKey("");
+[[gnu::init_priority(102)]] const HashedString Section::m_ChecksumName("$CHECKSUM$");
+[[gnu::init_priority(102)]] const SectionKey Section::m_ErrorKey("");
 
 void Section::SetComments(const char* comments) {
     if (comments) {

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/platform/text/ascii.h>
 #include <marlin/platform/text/c_string.h>
+#include <marlin/platform/text/string_table.h>
 
 #include <algorithm>
 #include <cassert>
 #include <cstdarg>
 #include <cstdio>
-
-#include <marlin/platform/text/ascii.h>
-#include <marlin/platform/text/string_table.h>
 
 namespace {
 
@@ -151,7 +150,7 @@ void CString::Format(const char* format, ...) {
     va_end(arguments);
     std::string formatted(ClampedCount(length), '\0');
     if (length > 0) {
-        std::vsnprintf(formatted.data(), formatted.size() + 1, format, again);
+        static_cast<void>(std::vsnprintf(formatted.data(), formatted.size() + 1, format, again));
     }
     va_end(again);
     m_Text = std::move(formatted);

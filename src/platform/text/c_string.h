@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/platform/export.h>
+
 #include <compare>
 #include <string>
 #include <string_view>
-
-#include <marlin/platform/export.h>
 
 /// The framework's string: a value of single-byte characters (Windows-1252), which may hold
 /// any byte. A null pointer reads as an empty text. Positions count from 0 and -1 means not

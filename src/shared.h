@@ -46,6 +46,7 @@
 #include <marlin/geometry/unit_type.h>
 #include <marlin/geometry/vector_2d.h>
 #include <marlin/geometry/vector_3d.h>
+<<<<<<< HEAD
 #include <marlin/platform/drawing/bitmaps.h>
 #include <marlin/platform/drawing/c_bitmap.h>
 #include <marlin/platform/drawing/c_brush.h>
@@ -61,6 +62,13 @@
 #include <marlin/platform/drawing/gdi_objects.h>
 #include <marlin/platform/drawing/handles.h>
 #include <marlin/platform/drawing/painting.h>
+=======
+#include <marlin/keywords/keyword.h>
+#include <marlin/keywords/keywords.h>
+#include <marlin/keywords/list_keyword.h>
+#include <marlin/keywords/list_keywords.h>
+#include <marlin/keywords/predefined_keywords.h>
+>>>>>>> keywords
 #include <marlin/platform/drawing/point.h>
 #include <marlin/platform/drawing/rect.h>
 #include <marlin/platform/drawing/size.h>
@@ -74,8 +82,12 @@
 #include <marlin/platform/text/string_table.h>
 #include <marlin/records/bias_info.h>
 #include <marlin/records/dxf_info.h>
+#include <marlin/records/geo_grid_info.h>
+#include <marlin/records/grid_info.h>
 #include <marlin/records/line_info.h>
 #include <marlin/records/map_info.h>
+#include <marlin/records/panel_info.h>
+#include <marlin/records/paper_grid.h>
 #include <marlin/records/sun_illumination_info.h>
 #include <marlin/records/text_info.h>
 #include <marlin/resources/messages.h>

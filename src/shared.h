@@ -46,7 +46,11 @@
 #include <marlin/geometry/unit_type.h>
 #include <marlin/geometry/vector_2d.h>
 #include <marlin/geometry/vector_3d.h>
-<<<<<<< HEAD
+#include <marlin/keywords/keyword.h>
+#include <marlin/keywords/keywords.h>
+#include <marlin/keywords/list_keyword.h>
+#include <marlin/keywords/list_keywords.h>
+#include <marlin/keywords/predefined_keywords.h>
 #include <marlin/platform/drawing/bitmaps.h>
 #include <marlin/platform/drawing/c_bitmap.h>
 #include <marlin/platform/drawing/c_brush.h>
@@ -62,13 +66,6 @@
 #include <marlin/platform/drawing/gdi_objects.h>
 #include <marlin/platform/drawing/handles.h>
 #include <marlin/platform/drawing/painting.h>
-=======
-#include <marlin/keywords/keyword.h>
-#include <marlin/keywords/keywords.h>
-#include <marlin/keywords/list_keyword.h>
-#include <marlin/keywords/list_keywords.h>
-#include <marlin/keywords/predefined_keywords.h>
->>>>>>> keywords
 #include <marlin/platform/drawing/point.h>
 #include <marlin/platform/drawing/rect.h>
 #include <marlin/platform/drawing/size.h>
@@ -81,6 +78,7 @@
 #include <marlin/platform/text/code_page.h>
 #include <marlin/platform/text/string_table.h>
 #include <marlin/records/bias_info.h>
+#include <marlin/records/depth_label_info.h>
 #include <marlin/records/dxf_info.h>
 #include <marlin/records/geo_grid_info.h>
 #include <marlin/records/grid_info.h>
@@ -98,4 +96,6 @@
 #include <marlin/settings/rare_text.h>
 #include <marlin/settings/section.h>
 #include <marlin/settings/section_key.h>
+#include <marlin/settings/steady_list.h>
 #include <marlin/text/text_height_fact_comp.h>
+#include <marlin/text/text_rect_comp.h>

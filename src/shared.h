@@ -78,6 +78,7 @@
 #include <marlin/platform/text/code_page.h>
 #include <marlin/platform/text/string_table.h>
 #include <marlin/records/bias_info.h>
+#include <marlin/records/depth_label_info.h>
 #include <marlin/records/dxf_info.h>
 #include <marlin/records/geo_grid_info.h>
 #include <marlin/records/grid_info.h>

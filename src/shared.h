@@ -46,7 +46,11 @@
 #include <marlin/geometry/unit_type.h>
 #include <marlin/geometry/vector_2d.h>
 #include <marlin/geometry/vector_3d.h>
-<<<<<<< HEAD
+#include <marlin/keywords/keyword.h>
+#include <marlin/keywords/keywords.h>
+#include <marlin/keywords/list_keyword.h>
+#include <marlin/keywords/list_keywords.h>
+#include <marlin/keywords/predefined_keywords.h>
 #include <marlin/platform/drawing/bitmaps.h>
 #include <marlin/platform/drawing/c_bitmap.h>
 #include <marlin/platform/drawing/c_brush.h>
@@ -62,13 +66,6 @@
 #include <marlin/platform/drawing/gdi_objects.h>
 #include <marlin/platform/drawing/handles.h>
 #include <marlin/platform/drawing/painting.h>
-=======
-#include <marlin/keywords/keyword.h>
-#include <marlin/keywords/keywords.h>
-#include <marlin/keywords/list_keyword.h>
-#include <marlin/keywords/list_keywords.h>
-#include <marlin/keywords/predefined_keywords.h>
->>>>>>> keywords
 #include <marlin/platform/drawing/point.h>
 #include <marlin/platform/drawing/rect.h>
 #include <marlin/platform/drawing/size.h>

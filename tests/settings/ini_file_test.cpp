@@ -139,6 +139,7 @@ TEST(IniFile, SaysWhyAFileCannotBeRead) {
     EXPECT_EQ(error.Text(), "Error opening \"" + missing + "\" for reading!");
     EXPECT_EQ(error.Cause(), missing + ": No such file or directory");
     EXPECT_EQ(file.Open(folder.File("")).Cause(), folder.File("") + ": Is a directory");
+    EXPECT_EQ(file.Open(std::string("/dev/zero")).Cause(), "/dev/zero: File too large");
     EXPECT_EQ(IniFile(folder.Write("dup.ini", "[A]\n[a]\n")).NumSections(), 1);
 }
 

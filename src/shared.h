@@ -63,3 +63,4 @@
 #include <marlin/settings/rare_text.h>
 #include <marlin/settings/section.h>
 #include <marlin/settings/section_key.h>
+#include <marlin/settings/steady_list.h>

@@ -53,6 +53,10 @@ ErrorString ReadColorTable(const std::string& path, ColorTable& table) {
         return ErrorString(path + ": no section [ColorTable]: not a color table");
     }
     const FileObject file = FileObjectOf(settings[sectionName]);
+    if (!file.HasSection(sectionName)) {  // nothing in it, not even the color below
+        table.Clear();
+        return {};
+    }
     return table.FileOpen(file) ? ErrorString() : FindBadEntry(path, file);
 }
 

@@ -2,6 +2,7 @@
 #include "contour_file.h"
 
 #include <marlin/base/file_replacement.h>
+#include <marlin/base/math.h>
 #include <marlin/base/number_text.h>
 #include <marlin/color/dxf_color.h>
 #include <marlin/platform/text/ascii.h>
@@ -139,7 +140,7 @@ double StoredLevel(double level) {
 
 std::string LevelText(double level) {
     std::string text;
-    MARLINSUITE::AppendShortest(text, level);
+    MARLINSUITE::AppendFixed(text, level, std::min(GetDoublePrecision(level), 6));
     return text;
 }
 

@@ -14,7 +14,7 @@ using Contour = ContourDefinitionList::ContourDefInfo;
 
 /// A level as files hold it: rounded to six decimals, and never a negative zero.
 [[nodiscard]] double StoredLevel(double level);
-/// The shortest text of a level.
+/// A level in plain decimals, at most six, without zeros at the end.
 [[nodiscard]] std::string LevelText(double level);
 /// A finite number, rounded as files hold it; false, and the target unchanged, for another text.
 [[nodiscard]] bool ParseLevel(std::string_view text, double& level);

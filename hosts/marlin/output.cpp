@@ -47,7 +47,7 @@ std::string AsUtf8(std::string_view bytes) {
 
 void Report(const std::string& message) {
     const std::string line = "marlin: " + Printable(AsUtf8(message)) + "\n";
-    std::fputs(line.c_str(), stderr);
+    static_cast<void>(std::fputs(line.c_str(), stderr));  // there is nowhere else to say it
 }
 
 void Report(const ErrorString& failure) {

@@ -9,7 +9,7 @@ namespace HOST {
 
 ErrorString SettingsSource::Open(const std::string& path) {
     std::string text;
-    if (const ErrorString error = ReadInput(path, LargestTextFile, text); !error.Empty()) {
+    if (ErrorString error = ReadInput(path, LargestTextFile, text); !error.Empty()) {
         return error;
     }
     m_Path = path;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/platform/export.h>
+
 #include <array>
 #include <cstddef>
-
-#include <marlin/platform/export.h>
 
 /// The CRC-32 of IEEE 802.3: reflected polynomial 0xEDB88320, register started at 0xFFFFFFFF,
 /// result inverted. Check value 0xCBF43926 for the nine bytes "123456789".

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string_view>
-
 #include <marlin/base/crc32.h>
+
+#include <string_view>
 
 /// A 32-bit checksum accumulator: CRC-32 over the bytes fed. Integers feed four bytes, low
 /// byte first; a string feeds its bytes and no end mark. Fresh, its value is 0.

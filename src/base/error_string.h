@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-
 #include <marlin/platform/export.h>
 #include <marlin/platform/text/c_string.h>
+
+#include <string>
 
 /// The result of an operation that can fail: one message for a person, empty on success.
 /// Beside the message it may carry a cause, the system's own reason ("name: No space left on

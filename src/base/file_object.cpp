@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/base/detail/file_output.h>
 #include <marlin/base/detail/settings_reader.h>
 #include <marlin/base/detail/settings_writer.h>
 #include <marlin/base/file_object.h>
-#include <marlin/base/file_replacement.h>
 #include <marlin/platform/text/ascii.h>
 
 #include <algorithm>
@@ -79,9 +79,8 @@ bool FileObject::FileOpen(const CString& path, unsigned int) {
     return done;
 }
 
-bool FileObject::FileSave(const CString& path, unsigned int) const {
-    std::string text;
-    MARLINSUITE::SettingsWriter writer(text);
+void FileObject::Write(MARLINSUITE::BlockOutput& output) const {
+    MARLINSUITE::SettingsWriter writer(output);
     for (const NamedSection& section : m_Sections) {
         std::size_t longestName = 0;
         for (const Entry& entry : section.Entries) {
@@ -93,7 +92,11 @@ bool FileObject::FileSave(const CString& path, unsigned int) const {
         }
         writer.EndSection();
     }
-    return MARLINSUITE::ReplaceFile(std::string(path.View()), text).Empty();
+}
+
+bool FileObject::FileSave(const CString& path, unsigned int) const {
+    const auto contents = [this](MARLINSUITE::BlockOutput& output) { Write(output); };
+    return MARLINSUITE::ReplaceFile(std::string(path.View()), contents).Empty();
 }
 
 bool FileObject::GetFirstSectionEntry(FobjSection& cursor, CString& section) const {

@@ -11,6 +11,10 @@
 #include <string_view>
 #include <unordered_map>
 
+namespace MARLINSUITE {
+class BlockOutput;
+}
+
 /// Where a walk over a `FileObject` stands: a section, and an entry of the section being
 /// walked. One cursor serves both walks at once.
 struct FobjSection {
@@ -81,6 +85,7 @@ private:
         std::unordered_map<std::string, std::size_t> FirstOfKey;  // by lower-case name
     };
 
+    void Write(MARLINSUITE::BlockOutput& output) const;
     [[nodiscard]] const NamedSection* FindSection(std::string_view name) const;
     NamedSection& SectionOrNew(std::string_view name);
     static void Store(NamedSection& section, std::string_view key, std::string_view value,

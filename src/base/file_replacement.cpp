@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/base/detail/file_output.h>
 #include <marlin/base/file_replacement.h>
 #include <marlin/base/number_text.h>
 #include <marlin/platform/kernel/detail/file_descriptor.h>
@@ -42,6 +43,26 @@ int FollowLinks(std::string& path) {
     return ELOOP;
 }
 
+int WriteContents(FileDescriptor& file, const Contents& contents) {
+    int error = 0;
+    BlockOutput output([&](std::string_view block) {
+        if (error == 0) {
+            error = file.WriteAll(block);
+        }
+    });
+    contents(output);
+    output.Finish();
+    return error;
+}
+
+off_t SizeOf(const Contents& contents) {
+    off_t size = 0;
+    BlockOutput output([&](std::string_view block) { size += static_cast<off_t>(block.size()); });
+    contents(output);
+    output.Finish();
+    return size;
+}
+
 // A new file in the folder of the target, removed unless it was renamed.
 class TemporaryFile {
 public:
@@ -54,7 +75,7 @@ public:
         }
     }
 
-    [[nodiscard]] int Create() {
+    [[nodiscard]] int Create(unsigned int mode) {
         static std::atomic<unsigned int> counter = 0;
         constexpr int tries = 100;
         int error = EEXIST;
@@ -64,7 +85,7 @@ public:
             path += '-';
             AppendNumber(path, counter++);
             path += ".tmp";
-            error = m_File.Open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL);
+            error = m_File.Open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL, mode);
             if (error == 0) {
                 m_Path = path;
             }
@@ -72,8 +93,8 @@ public:
         return error;
     }
 
-    [[nodiscard]] int Fill(std::string_view bytes) {
-        if (const int error = m_File.WriteAll(bytes); error != 0) {
+    [[nodiscard]] int Fill(const Contents& contents) {
+        if (const int error = WriteContents(m_File, contents); error != 0) {
             return error;
         }
         return ::fsync(m_File.Get()) != 0 ? errno : 0;
@@ -115,19 +136,19 @@ bool FolderRefused(int error) {
 
 // Reserves the new size before the first old byte is touched, so that a full disk is noticed
 // while the file is still whole.
-int RewriteInPlace(const std::string& path, std::string_view bytes, const struct stat& old) {
+int RewriteInPlace(const std::string& path, const Contents& contents, const struct stat& old) {
     FileDescriptor file;
     if (const int error = file.Open(path.c_str(), O_WRONLY); error != 0) {
         return error;
     }
-    const auto size = static_cast<off_t>(bytes.size());
-    if (S_ISREG(old.st_mode) && size > 0) {
+    const off_t size = S_ISREG(old.st_mode) ? SizeOf(contents) : 0;
+    if (size > 0) {
         const int error = ::posix_fallocate(file.Get(), 0, size);
         if (error != 0 && error != EINVAL && error != EOPNOTSUPP) {
             return ::ftruncate(file.Get(), old.st_size) != 0 ? errno : error;
         }
     }
-    if (const int error = file.WriteAll(bytes); error != 0) {
+    if (const int error = WriteContents(file, contents); error != 0) {
         return error;
     }
     if (S_ISREG(old.st_mode) && (::ftruncate(file.Get(), size) != 0 || ::fsync(file.Get()) != 0)) {
@@ -136,7 +157,7 @@ int RewriteInPlace(const std::string& path, std::string_view bytes, const struct
     return file.Close();
 }
 
-int Replace(const std::string& target, std::string_view bytes) {
+int Replace(const std::string& target, const Contents& contents) {
     struct stat old {};
     const bool exists = ::stat(target.c_str(), &old) == 0;
     if (!exists && errno != ENOENT) {
@@ -151,12 +172,13 @@ int Replace(const std::string& target, std::string_view bytes) {
         return errno;
     }
     if (exists && !S_ISREG(old.st_mode)) {
-        return RewriteInPlace(target, bytes, old);
+        return RewriteInPlace(target, contents, old);
     }
     TemporaryFile temporary(target);
-    int error = temporary.Create();
+    // What a file hides from others shows in no moment of its replacement.
+    int error = temporary.Create(exists ? 0600U : 0666U);
     if (error == 0) {
-        error = temporary.Fill(bytes);
+        error = temporary.Fill(contents);
         if (error == 0 && exists) {
             error = temporary.TakeAttributes(old);
         }
@@ -164,7 +186,7 @@ int Replace(const std::string& target, std::string_view bytes) {
             error = temporary.RenameOver(target);
         }
     }
-    return exists && FolderRefused(error) ? RewriteInPlace(target, bytes, old) : error;
+    return exists && FolderRefused(error) ? RewriteInPlace(target, contents, old) : error;
 }
 
 int ReadAll(const std::string& path, std::string& bytes) {
@@ -189,10 +211,14 @@ int ReadAll(const std::string& path, std::string& bytes) {
 }  // namespace
 
 ErrorString ReplaceFile(const std::string& path, std::string_view bytes) {
+    return ReplaceFile(path, [bytes](BlockOutput& output) { output.Pass(bytes); });
+}
+
+ErrorString ReplaceFile(const std::string& path, const Contents& contents) {
     std::string target = path;
     int error = FollowLinks(target);
     if (error == 0) {
-        error = Replace(target, bytes);
+        error = Replace(target, contents);
     }
     return error == 0 ? ErrorString() : Failure(path, error);
 }

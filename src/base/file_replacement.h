@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-#include <string_view>
-
 #include <marlin/base/error_string.h>
 #include <marlin/platform/export.h>
+
+#include <string>
+#include <string_view>
 
 namespace MARLINSUITE {
 

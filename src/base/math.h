@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/platform/export.h>
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-
-#include <marlin/platform/export.h>
 
 namespace MATH {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/platform/export.h>
+
 #include <string>
 #include <string_view>
-
-#include <marlin/platform/export.h>
 
 /// Numbers to text and back, free of every locale: the one place that knows how.
 namespace MARLINSUITE {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/base/detail/file_output.h>
 #include <marlin/base/detail/line_reader.h>
 #include <marlin/base/detail/settings_reader.h>
 #include <marlin/base/detail/settings_writer.h>
@@ -24,7 +25,7 @@ const std::string& LineTypeText(int lineType) noexcept {
 
 class ContourWriter {
 public:
-    explicit ContourWriter(std::string& text) : m_Writer(text) {}
+    explicit ContourWriter(BlockOutput& output) : m_Writer(output) {}
 
     void Add(unsigned int n, const ContourDefInfo& definition) {
         constexpr std::string_view longestName = "TrueColor";
@@ -60,6 +61,15 @@ private:
     std::string m_Value;
 };
 
+void WriteAll(BlockOutput& output, std::span<const ContourDefInfo> definitions) {
+    ContourWriter writer(output);
+    unsigned int n = 0;
+    for (const ContourDefInfo& definition : definitions) {
+        writer.Add(n, definition);
+        ++n;
+    }
+}
+
 }  // namespace
 
 bool ReadContourFile(const std::string& path, std::vector<ContourDefInfo>& definitions) {
@@ -82,17 +92,9 @@ bool ReadContourFile(const std::string& path, std::vector<ContourDefInfo>& defin
     return true;
 }
 
-std::string ContourFileText(std::span<const ContourDefInfo> definitions) {
-    constexpr std::size_t usualSectionSize = 160;
-    std::string text;
-    text.reserve(definitions.size() * usualSectionSize);
-    ContourWriter writer(text);
-    unsigned int n = 0;
-    for (const ContourDefInfo& definition : definitions) {
-        writer.Add(n, definition);
-        ++n;
-    }
-    return text;
+bool WriteContourFile(const std::string& path, std::span<const ContourDefInfo> definitions) {
+    const auto contents = [definitions](BlockOutput& output) { WriteAll(output, definitions); };
+    return ReplaceFile(path, contents).Empty();
 }
 
 }  // namespace MARLINSUITE

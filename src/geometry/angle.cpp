@@ -15,6 +15,6 @@ int Angle::Quadrant() const noexcept {
 }
 
 Angle Angle::Difference(const Angle& other) const noexcept {
-    const double sweep = other.m_Degrees - m_Degrees;
-    return sweep > 0 ? sweep : 360.0 + sweep;
+    return other.m_Degrees > m_Degrees ? other.m_Degrees - m_Degrees
+                                       : 360.0 - m_Degrees + other.m_Degrees;
 }

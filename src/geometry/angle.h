@@ -26,7 +26,7 @@ public:
     [[nodiscard]] double Sin() const noexcept { return std::sin(Rad()); }
     [[nodiscard]] double Cos() const noexcept { return std::cos(Rad()); }
     [[nodiscard]] double Tan() const noexcept { return std::tan(Rad()); }
-    /// 1 for [0, 90) to 4 for [270, 360); 0 for an angle that is not a number.
+    /// 1 for [0, 90) to 4 for [270, 360), 5 for 360 itself; 0 for what is not a number.
     [[nodiscard]] int Quadrant() const noexcept;
     /// The sweep from this angle to the other in increasing direction; 0 for equal ones.
     [[nodiscard]] Angle Difference(const Angle& other) const noexcept;

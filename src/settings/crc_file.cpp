@@ -13,7 +13,7 @@
 /// The open stream that copies share; without a file once any of them has closed it.
 struct CRCFile::Stream {
     struct Closer {
-        void operator()(std::FILE* file) const noexcept { std::fclose(file); }
+        void operator()(std::FILE* file) const noexcept { static_cast<void>(std::fclose(file)); }
     };
     std::unique_ptr<std::FILE, Closer> File;
     std::string Path;

@@ -3,7 +3,8 @@
 #include <marlin/settings/detail/name_hash.h>
 #include <marlin/settings/hashed_string.h>
 
-constinit const std::string HashedString::emptyText;
+// Before all names and keys that are made at load.
+[[gnu::init_priority(101)]] const std::string HashedString::emptyText;
 
 HashedString::HashedString(std::string_view text)
     : m_Text(text.empty() ? nullptr : std::make_shared<const std::string>(text)),

@@ -12,8 +12,9 @@
 #include <string_view>
 
 namespace MARLINSUITE {
+class BlockOutput;
 class LineReader;
-}
+}  // namespace MARLINSUITE
 
 /// A settings file in memory: an ordered list of sections, read from and written to a text
 /// file. Names of sections are compared ignoring case; `AddSection` and reading keep them
@@ -85,6 +86,7 @@ public:
 
 private:
     ErrorString Read(MARLINSUITE::LineReader& lines, const std::string& path);
+    void Write(MARLINSUITE::BlockOutput& output) const;
     [[nodiscard]] const Section* FindSection(std::string_view name,
                                              unsigned int hash) const noexcept;
     [[nodiscard]] const Section* FindSection(std::string_view name) const noexcept;

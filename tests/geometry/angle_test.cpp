@@ -65,8 +65,8 @@ TEST(Angle, SweepsInIncreasingDirection) {
         double from;
         double to;
         double expected;
-    } cases[] = {{350, 10, 20}, {10, 350, 340},    {45, 45, 0},
-                 {0.1, 0.1, 0}, {0, 359.5, 359.5}, {359.5, 0, 0.5}};
+    } cases[] = {{350, 10, 20},     {10, 350, 340}, {45, 45, 0},       {0.3, 0.3, 0},
+                 {350, 10.1, 20.1}, {0.1, 0.1, 0},  {0, 359.5, 359.5}, {359.5, 0, 0.5}};
     for (const auto& [from, to, expected] : cases) {
         EXPECT_EQ(Angle(from).Difference(Angle(to)).Get(), expected) << from << ' ' << to;
     }

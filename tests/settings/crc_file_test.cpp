@@ -35,7 +35,7 @@ TEST(CRCFile, ReadsBackFromTheStartWhatWasSealed) {
     CRCFile file;
     ASSERT_TRUE(file.Open(path, "rb").Empty());
     EXPECT_EQ(file.Tell(), 0U);
-    std::array<char, 9> bytes{};
+    std::array<char, 10> bytes{};
     EXPECT_EQ(file.Read(bytes.data(), 2, 5), 5U);  // the trailer is there to be read too
     EXPECT_TRUE(file.Seek(-4, SEEK_END));
     EXPECT_EQ(file.Tell(), 9U);

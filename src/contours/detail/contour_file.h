@@ -16,7 +16,8 @@ namespace MARLINSUITE {
 [[nodiscard]] bool ReadContourFile(const std::string& path,
                                    std::vector<ContourDefinitionList::ContourDefInfo>& definitions);
 
-[[nodiscard]] std::string ContourFileText(
-    std::span<const ContourDefinitionList::ContourDefInfo> definitions);
+/// Replaces a file. False, and an old file unchanged, when it cannot be written.
+[[nodiscard]] bool WriteContourFile(
+    const std::string& path, std::span<const ContourDefinitionList::ContourDefInfo> definitions);
 
 }  // namespace MARLINSUITE

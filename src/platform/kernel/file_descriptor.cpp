@@ -29,7 +29,7 @@ int FileDescriptor::Close() noexcept {
     return descriptor >= 0 && ::close(descriptor) != 0 && errno != EINTR ? errno : 0;
 }
 
-int FileDescriptor::Read(char* buffer, std::size_t size, std::size_t& count) noexcept {
+int FileDescriptor::Read(char* buffer, std::size_t size, std::size_t& count) const noexcept {
     ssize_t result = 0;
     do {
         result = ::read(m_Descriptor, buffer, size);
@@ -38,7 +38,7 @@ int FileDescriptor::Read(char* buffer, std::size_t size, std::size_t& count) noe
     return result < 0 ? errno : 0;
 }
 
-int FileDescriptor::WriteAll(std::string_view bytes) noexcept {
+int FileDescriptor::WriteAll(std::string_view bytes) const noexcept {
     while (!bytes.empty()) {
         const ssize_t written = ::write(m_Descriptor, bytes.data(), bytes.size());
         if (written >= 0) {

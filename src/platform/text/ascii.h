@@ -27,8 +27,8 @@ namespace PLATFORM {
 [[nodiscard]] constexpr int CompareIgnoringCase(std::string_view a, std::string_view b) noexcept {
     const std::size_t common = std::min(a.size(), b.size());
     for (std::size_t i = 0; i < common; ++i) {
-        const int difference = static_cast<unsigned char>(ToLower(a[i])) -
-                               static_cast<unsigned char>(ToLower(b[i]));
+        const int difference =
+            static_cast<unsigned char>(ToLower(a[i])) - static_cast<unsigned char>(ToLower(b[i]));
         if (difference != 0) {
             return difference;
         }

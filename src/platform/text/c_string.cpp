@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/platform/text/ascii.h>
 #include <marlin/platform/text/c_string.h>
+#include <marlin/platform/text/string_table.h>
 
 #include <algorithm>
 #include <cassert>
 #include <cstdarg>
 #include <cstdio>
 
-#include <marlin/platform/text/ascii.h>
-#include <marlin/platform/text/string_table.h>
+#include <locale.h>
 
 namespace {
 
@@ -22,6 +23,21 @@ int PositionOrNone(std::size_t position) noexcept {
 std::size_t ClampedCount(int count) noexcept {
     return static_cast<std::size_t>(std::max(count, 0));
 }
+
+// For this thread and its own lifetime numbers have a point, whatever the host's locale.
+class ClassicLocale {
+public:
+    ClassicLocale() noexcept {
+        static const locale_t classic = ::newlocale(LC_ALL_MASK, "C", nullptr);
+        m_Before = ::uselocale(classic);
+    }
+    ClassicLocale(const ClassicLocale&) = delete;
+    ClassicLocale& operator=(const ClassicLocale&) = delete;
+    ~ClassicLocale() { ::uselocale(m_Before); }
+
+private:
+    locale_t m_Before = nullptr;
+};
 
 }  // namespace
 
@@ -143,6 +159,7 @@ int CString::Replace(const char* from, const char* to) {
 }
 
 void CString::Format(const char* format, ...) {
+    const ClassicLocale classic;
     std::va_list arguments;
     va_start(arguments, format);
     std::va_list again;
@@ -151,7 +168,7 @@ void CString::Format(const char* format, ...) {
     va_end(arguments);
     std::string formatted(ClampedCount(length), '\0');
     if (length > 0) {
-        std::vsnprintf(formatted.data(), formatted.size() + 1, format, again);
+        static_cast<void>(std::vsnprintf(formatted.data(), formatted.size() + 1, format, again));
     }
     va_end(again);
     m_Text = std::move(formatted);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/platform/export.h>
+
 #include <compare>
 #include <string>
 #include <string_view>
-
-#include <marlin/platform/export.h>
 
 /// The framework's string: a value of single-byte characters (Windows-1252), which may hold
 /// any byte. A null pointer reads as an empty text. Positions count from 0 and -1 means not
@@ -61,7 +61,7 @@ public:
     int Replace(char from, char to) noexcept;
     int Replace(const char* from, const char* to);
 
-    /// As `printf` into this text; the arguments may be pieces of the text itself.
+    /// As `printf` in the locale "C" into this text; the arguments may be pieces of it.
     void Format(const char* format, ...) __attribute__((format(printf, 2, 3)));
     /// Loads a text of the resource string table; false, and an empty text, when it has none
     /// of that number.

@@ -4,16 +4,13 @@
 #include <marlin/base/detail/settings_writer.h>
 #include <marlin/settings/section.h>
 
-#include <string>
-
 namespace MARLINSUITE {
 
-/// Appends a section as it stands in a settings file.
-inline void AppendSection(std::string& text, const Section& section) {
+/// Writes a section as it stands in a settings file.
+inline void WriteSection(SettingsWriter& writer, const Section& section) {
     int longestName = 0;
     int longestValue = 0;
     section.GetWriteOffsets(longestName, longestValue);
-    SettingsWriter writer(text);
     writer.BeginSection(*section.GetName(), section.GetComments(),
                         static_cast<std::size_t>(longestName),
                         static_cast<std::size_t>(longestValue));

@@ -26,9 +26,9 @@ public:
     [[nodiscard]] int Get() const noexcept { return m_Descriptor; }
 
     /// Reads up to `size` bytes; `count` is 0 at the end of the file.
-    [[nodiscard]] int Read(char* buffer, std::size_t size, std::size_t& count) noexcept;
+    [[nodiscard]] int Read(char* buffer, std::size_t size, std::size_t& count) const noexcept;
     /// Writes all bytes at the position.
-    [[nodiscard]] int WriteAll(std::string_view bytes) noexcept;
+    [[nodiscard]] int WriteAll(std::string_view bytes) const noexcept;
 
 private:
     int m_Descriptor = -1;

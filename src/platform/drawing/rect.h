@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/platform/drawing/point.h>
+#include <marlin/platform/drawing/size.h>
+
+/// A rectangle of device or logical units; the right and bottom edges lie outside it.
+struct RECT {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+};
+
+/// The framework's own rectangle over `RECT`. Default all 0; corners are kept as given, so a
+/// rectangle may be upside down and its width or height negative.
+class CRect : public RECT {
+public:
+    constexpr CRect() noexcept = default;
+    constexpr CRect(int l, int t, int r, int b) noexcept : RECT{l, t, r, b} {}
+    constexpr CRect(const RECT& rect) noexcept : RECT{rect} {}
+
+    [[nodiscard]] constexpr int Width() const noexcept { return right - left; }
+    [[nodiscard]] constexpr int Height() const noexcept { return bottom - top; }
+    [[nodiscard]] constexpr CSize Size() const noexcept { return {Width(), Height()}; }
+    [[nodiscard]] constexpr CPoint TopLeft() const noexcept { return {left, top}; }
+    [[nodiscard]] constexpr CPoint BottomRight() const noexcept { return {right, bottom}; }
+
+    [[nodiscard]] constexpr operator const RECT*() const noexcept { return this; }
+
+    [[nodiscard]] constexpr bool operator==(const RECT& other) const noexcept {
+        return left == other.left && top == other.top && right == other.right &&
+               bottom == other.bottom;
+    }
+};

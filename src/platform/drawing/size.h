@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// A width and a height, 32 bits each.
+struct SIZE {
+    int cx = 0;
+    int cy = 0;
+};
+
+/// The framework's own size over `SIZE`. Default (0, 0).
+class CSize : public SIZE {
+public:
+    constexpr CSize() noexcept = default;
+    constexpr CSize(int initialCX, int initialCY) noexcept : SIZE{initialCX, initialCY} {}
+    constexpr CSize(SIZE size) noexcept : SIZE{size} {}
+
+    [[nodiscard]] constexpr bool operator==(SIZE size) const noexcept {
+        return cx == size.cx && cy == size.cy;
+    }
+};

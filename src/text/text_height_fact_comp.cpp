@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/gdi/gdi_scale_factor.h>
+#include <marlin/gdi/gdi_selector.h>
+#include <marlin/platform/drawing/c_dc.h>
+#include <marlin/platform/drawing/c_font.h>
+#include <marlin/text/detail/measuring_context.h>
+#include <marlin/text/text_height_fact_comp.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+namespace {
+
+constinit const OUTLINETEXTMETRICA noMetrics{};
+
+bool IsUsable(float size) noexcept {
+    return std::fabs(size * GDIScaleFactor::Get()) < std::numeric_limits<int>::max();
+}
+
+// The outline metrics of the style's font at the height; false when the platform gives none.
+bool Measure(const TextInfo& ti, int height, OUTLINETEXTMETRICA& metrics) {
+    CDC dc;
+    MARLINSUITE::PrepareMeasuringContext(dc);
+    CFont font;
+    font.CreateFontA(height, 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, OUT_TT_ONLY_PRECIS,
+                     CLIP_LH_ANGLES, PROOF_QUALITY, DEFAULT_PITCH, ti.Font().c_str());
+    const GDISelector selected(&dc, font);
+    return dc.GetOutlineTextMetricsA(sizeof metrics, &metrics) != 0;
+}
+
+}  // namespace
+
+TextHeightFactComp& TextHeightFactComp::Get() {
+    static TextHeightFactComp instance;
+    return instance;
+}
+
+float TextHeightFactComp::operator()(const TextInfo& ti) {
+    const Measures* found = Find(ti);
+    return found ? found->first : 0.0F;
+}
+
+const OUTLINETEXTMETRICA& TextHeightFactComp::GetMetrics(const TextInfo& ti) {
+    const Measures* found = Find(ti);
+    return found ? found->second : noMetrics;
+}
+
+bool TextHeightFactComp::Latest::IsOf(const TextInfo& ti) const noexcept {
+    return Entry && Entry->first.Size() == ti.Size() && Entry->first.Style() == ti.Style() &&
+           Entry->first.Font() == ti.Font();
+}
+
+// A size that is not a number has no place in the order of the entries.
+const TextHeightFactComp::Measures* TextHeightFactComp::Find(const TextInfo& ti) {
+    if (m_Latest.IsOf(ti)) {
+        return &m_Latest.Entry->second;
+    }
+    if (!IsUsable(ti.Size())) {
+        return nullptr;
+    }
+    Entries::const_iterator found = m_Entries.find(ti);
+    if (found == m_Entries.end()) {
+        found = AddEntry(ti);
+    }
+    if (found == m_Entries.end()) {
+        return nullptr;
+    }
+    m_Latest.Entry = &*found;
+    return &found->second;
+}
+
+TextHeightFactComp::Entries::const_iterator TextHeightFactComp::AddEntry(const TextInfo& ti) {
+    const double scale = GDIScaleFactor::Get();
+    const int h = static_cast<int>(ti.Size() * scale);
+    OUTLINETEXTMETRICA metrics;
+    if (!Measure(ti, h, metrics) || metrics.otmTextMetrics.tmHeight == 0) {
+        return m_Entries.end();
+    }
+    const TEXTMETRICA& tm = metrics.otmTextMetrics;
+    const long long hidden = std::abs(metrics.otmDescent) + std::abs(tm.tmExternalLeading) +
+                             std::abs(tm.tmInternalLeading);
+    // The product does not fit 32 bits for characters taller than a hand.
+    const long long visible = h - hidden * h / tm.tmHeight;
+    if (visible == 0) {
+        return m_Entries.end();
+    }
+    const auto factor = static_cast<float>(ti.Size() / (static_cast<double>(visible) / scale));
+    return m_Entries.try_emplace(ti, factor, metrics).first;
+}

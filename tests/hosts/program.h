@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/base/file_replacement.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <support/temporary_folder.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+/// What a program came to: its exit code, or -1 when a signal ended it, and what it printed.
+struct ProgramResult {
+    int Code = -1;
+    std::string Out;
+    std::string Err;
+};
+
+/// Runs the command line in a folder of its own, removed with it.
+class Program {
+public:
+    using Words = std::vector<std::string>;
+
+    ProgramResult Run(const Words& arguments) const {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            Redirect(m_StandardOutput, STDOUT_FILENO);
+            Redirect(m_Output.File("err"), STDERR_FILENO);
+            if (m_LargestFile > 0) {
+                const rlimit limit{m_LargestFile, m_LargestFile};
+                std::signal(SIGXFSZ, SIG_IGN);
+                ::setrlimit(RLIMIT_FSIZE, &limit);
+            }
+            Execute(arguments);
+        }
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ReadAll(m_Output.File("out")),
+                ReadAll(m_Output.File("err"))};
+    }
+
+    /// For a child process: becomes the program, in the folder.
+    [[noreturn]] void Execute(const Words& arguments) const {
+        std::vector<char*> words{const_cast<char*>("marlin")};
+        for (const std::string& argument : arguments) {
+            words.push_back(const_cast<char*>(argument.c_str()));
+        }
+        words.push_back(nullptr);
+        if (::chdir(m_Folder.File("").c_str()) == 0) {
+            ::execv(MARLIN_PROGRAM, words.data());
+        }
+        ::_exit(127);
+    }
+
+    /// Where later runs print to, a file or a device.
+    void SetStandardOutput(const std::string& path) { m_StandardOutput = path; }
+    /// Later runs cannot write beyond so many bytes of a file, as on a full disk.
+    void SetLargestFile(unsigned long bytes) { m_LargestFile = bytes; }
+
+    std::string Write(const std::string& name, std::string_view bytes) const {
+        return m_Folder.Write(name, bytes);
+    }
+    [[nodiscard]] std::string Read(const std::string& name) const {
+        return ReadAll(m_Folder.File(name));
+    }
+    [[nodiscard]] std::string Path(const std::string& name) const { return m_Folder.File(name); }
+    [[nodiscard]] int NumFiles() const { return m_Folder.NumFiles(); }
+
+    static std::string ReadAll(const std::string& path) {
+        std::string bytes;
+        return MARLINSUITE::ReadFile(path, bytes).Empty() ? bytes : "(no file)";
+    }
+
+private:
+    static void Redirect(const std::string& path, int descriptor) {
+        const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+        ::dup2(file, descriptor);
+    }
+
+    TemporaryFolder m_Folder;
+    TemporaryFolder m_Output;
+    std::string m_StandardOutput = m_Output.File("out");
+    unsigned long m_LargestFile = 0;
+};
+
+/// One command line and all that it must do. `Err` is what follows "marlin: " on each line.
+struct Step {
+    Program::Words Arguments;
+    int Code;
+    std::string Out;
+    std::string Err;
+};
+
+inline void ExpectSteps(const Program& program, const std::vector<Step>& steps) {
+    for (const Step& step : steps) {
+        std::string line;
+        for (const std::string& word : step.Arguments) {
+            line += " " + word;
+        }
+        SCOPED_TRACE("marlin" + line);
+        const ProgramResult result = program.Run(step.Arguments);
+        EXPECT_EQ(result.Code, step.Code);
+        EXPECT_EQ(result.Out, step.Out);
+        EXPECT_EQ(result.Err, step.Err.empty() ? "" : "marlin: " + step.Err + "\n");
+    }
+}

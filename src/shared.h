@@ -73,7 +73,6 @@
 #include <marlin/platform/export.h>
 #include <marlin/platform/kernel/clock.h>
 #include <marlin/platform/kernel/extension_module.h>
-#include <marlin/platform/kernel/version.h>
 #include <marlin/platform/kernel/mutex.h>
 #include <marlin/platform/kernel/version.h>
 #include <marlin/platform/kernel/waiting.h>

@@ -26,6 +26,13 @@
 #include <marlin/color/rgb_color.h>
 #include <marlin/contours/contour_definition_list.h>
 #include <marlin/contours/contour_info.h>
+#include <marlin/contours/dialogs/contour_editor.h>
+#include <marlin/contours/dialogs/contour_generation_dlg.h>
+#include <marlin/contours/dialogs/edit_contour_dlg.h>
+#include <marlin/contours/dialogs/edit_contour_list.h>
+#include <marlin/gdi/color_button.h>
+#include <marlin/gdi/drop_object.h>
+#include <marlin/gdi/font_combo.h>
 #include <marlin/gdi/gdi_mapper.h>
 #include <marlin/gdi/gdi_scale_factor.h>
 #include <marlin/gdi/gdi_selector.h>

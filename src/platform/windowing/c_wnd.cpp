@@ -69,7 +69,11 @@ void CWnd::InvalidateRect(const RECT*, bool) {
 }
 
 int CWnd::MessageBox(const char* text, const char* caption, UINT type) {
-    return WindowSystem::Current().ShowMessage(m_hWnd, {text, caption, type});
+    CString title = caption;
+    if (!caption) {
+        GetWindowText(title);
+    }
+    return WindowSystem::Current().ShowMessage(m_hWnd, {text, title, type});
 }
 
 bool CWnd::UpdateData(bool saveAndValidate) {

@@ -42,7 +42,8 @@ public:
     void SetFocus();
     /// Has the window drawn anew: all of it, whatever the rectangle.
     void InvalidateRect(const RECT* rect, bool erase = true);
-    /// Shows a box and returns the button that closed it.
+    /// Shows a box and returns the button that closed it. Without a caption it has that of the
+    /// window.
     int MessageBox(const char* text, const char* caption = nullptr, UINT type = MB_OK);
 
     /// Moves values between the fields and the controls: to the controls when false. False

@@ -73,8 +73,13 @@
 #include <marlin/platform/drawing/size.h>
 #include <marlin/platform/drawing/text_outline.h>
 #include <marlin/platform/export.h>
+#include <marlin/platform/kernel/clock.h>
 #include <marlin/platform/kernel/extension_module.h>
+#include <marlin/platform/kernel/mutex.h>
 #include <marlin/platform/kernel/version.h>
+#include <marlin/platform/kernel/waiting.h>
+#include <marlin/platform/kernel/win_thread.h>
+#include <marlin/platform/kernel/worker_control.h>
 #include <marlin/platform/text/ascii.h>
 #include <marlin/platform/text/c_string.h>
 #include <marlin/platform/text/code_page.h>
@@ -93,6 +98,7 @@
 #include <marlin/platform/windowing/dialog_user.h>
 #include <marlin/platform/windowing/headless_window_system.h>
 #include <marlin/platform/windowing/message_map.h>
+#include <marlin/platform/windowing/messages.h>
 #include <marlin/platform/windowing/user_script.h>
 #include <marlin/platform/windowing/window_messages.h>
 #include <marlin/platform/windowing/window_requests.h>
@@ -106,6 +112,15 @@
 #include <marlin/records/text_info.h>
 #include <marlin/resources/dialogs.h>
 #include <marlin/resources/messages.h>
+#include <marlin/runtime/observer.h>
+#include <marlin/runtime/plot_error_reporter.h>
+#include <marlin/runtime/prog_thread_object.h>
+#include <marlin/runtime/progress_text.h>
+#include <marlin/runtime/progress_value.h>
+#include <marlin/runtime/subscriber.h>
+#include <marlin/runtime/thread.h>
+#include <marlin/runtime/thread_object.h>
+#include <marlin/runtime/timer.h>
 #include <marlin/settings/crc_file.h>
 #include <marlin/settings/file_checksum.h>
 #include <marlin/settings/hashed_string.h>

@@ -27,9 +27,9 @@ bool CDialog::InitModalIndirect(const PLATFORM::DialogTemplate* form, CWnd* pare
     return true;
 }
 
-bool CDialog::Create() {
+bool CDialog::CreateWindows() {
     WindowTable& windows = WindowTable::Get();
-    const HWND parent = m_Parent ? m_Parent->m_hWnd : nullptr;
+    const HWND parent = m_Parent ? m_Parent->GetSafeHwnd() : nullptr;
     const HWND dialog = windows.Add(parent, 0);
     std::vector<HWND> controls;
     for (const PLATFORM::ControlTemplate& control : m_Template->Controls) {
@@ -60,7 +60,7 @@ void CDialog::FocusFirst() {
 }
 
 int CDialog::DoModal() {
-    if (!m_Template || m_hWnd || !Create()) {
+    if (!m_Template || m_hWnd || !CreateWindows()) {
         return WindowSystem::Failed;
     }
     m_HasEnded = false;

@@ -37,7 +37,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    bool Create();
+    bool CreateWindows();
     void FocusFirst();
     void Destroy();
     void CallOnOK() { OnOK(); }

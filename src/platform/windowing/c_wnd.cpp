@@ -8,13 +8,29 @@ using PLATFORM::WindowSystem;
 using PLATFORM::WindowTable;
 
 CWnd::~CWnd() {
-    if (m_hWnd && WindowTable::Get().Wrapper(m_hWnd) == this) {
+    if (m_hWnd && !WindowTable::Get().RemoveOwned(this)) {
         Detach();
     }
 }
 
 CWnd* CWnd::FromHandle(HWND window) {
     return WindowTable::Get().Wrapper(window);
+}
+
+CWnd* CWnd::FromHandlePermanent(HWND window) {
+    return WindowTable::Get().Attached(window);
+}
+
+bool CWnd::Create() {
+    if (m_hWnd) {
+        return false;
+    }
+    WindowTable::Get().AddOwned(this);
+    return true;
+}
+
+bool CWnd::DestroyWindow() {
+    return WindowTable::Get().RemoveOwned(this);
 }
 
 int CWnd::GetDlgCtrlID() const {
@@ -34,10 +50,8 @@ bool CWnd::Attach(HWND window) {
 }
 
 HWND CWnd::Detach() {
-    const HWND window = m_hWnd;
-    WindowTable::Get().Detach(window);
-    m_hWnd = nullptr;
-    return window;
+    WindowTable::Get().Detach(this);
+    return m_hWnd.exchange(nullptr);
 }
 
 bool CWnd::SubclassDlgItem(UINT id, CWnd* parent) {

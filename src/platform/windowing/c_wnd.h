@@ -5,14 +5,20 @@
 #include <marlin/platform/text/c_string.h>
 #include <marlin/platform/windowing/message_map.h>
 
+#include <atomic>
+
 class CDataExchange;
 
-/// Wraps a window of the current window system: a dialog or a control. Made without one; calls
-/// then give empty results and change nothing. The window belongs to its dialog, which ends it;
-/// a wrapper that is destroyed first lets go of it. For the thread that made the window.
+/// A window: what messages are sent and posted to, a dialog, or a control of the current window
+/// system. It begins without one, and thus unreachable; calls then give empty results and change
+/// nothing. A window belongs to the thread that made it, on which all its messages are handled
+/// and on which it is destroyed; `GetSafeHwnd` and `PostMessage` may be called from any thread
+/// while the object lives. The destruction of the object ends a window that `Create` made, also
+/// while it handles a message, and messages that wait for it are dropped; it lets go of a
+/// control, which ends with its dialog.
 class MARLIN_API CWnd {
 public:
-    HWND m_hWnd = nullptr;
+    std::atomic<HWND> m_hWnd{nullptr};
 
     CWnd() noexcept = default;
     CWnd(const CWnd&) = delete;
@@ -23,7 +29,18 @@ public:
     /// the window; null for a handle of none.
     [[nodiscard]] static CWnd* FromHandle(HWND window);
 
-    [[nodiscard]] HWND GetSafeHwnd() const noexcept { return m_hWnd; }
+    /// The object that is attached to the window, or null. Of use on the window's thread only.
+    [[nodiscard]] static CWnd* FromHandlePermanent(HWND window);
+
+    /// The handle, or null for an object without a window.
+    [[nodiscard]] HWND GetSafeHwnd() const noexcept { return m_hWnd.load(); }
+
+    /// Makes a window without a face, which only receives messages. False, and nothing changed,
+    /// when there is one already.
+    bool Create();
+    /// Ends such a window; false when there is none. It may be created anew.
+    virtual bool DestroyWindow();
+
     [[nodiscard]] int GetDlgCtrlID() const;
     [[nodiscard]] CWnd* GetParent() const;
     /// The control of that number in this dialog, or null.
@@ -50,9 +67,12 @@ public:
     /// when a control's text was refused; the fields of the controls before it are then set.
     bool UpdateData(bool saveAndValidate = true);
 
+    /// As `PostMessageA` and `SendMessageA` to this window.
+    bool PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
-    /// Called with each message to the window.
+    /// Called with each message to the window; it may destroy itself meanwhile. The default calls
+    /// the handlers of the message map; what has none does nothing and gives 0.
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
 
 protected:

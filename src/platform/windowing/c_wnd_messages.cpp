@@ -70,8 +70,12 @@ bool CWnd::Dispatch(const Notice& notice) {
     return false;
 }
 
+bool CWnd::PostMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    return PostMessageA(m_hWnd, message, wParam, lParam) != 0;
+}
+
 LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    return IsWindow(m_hWnd) ? WindowProc(message, wParam, lParam) : 0;
+    return SendMessageA(m_hWnd, message, wParam, lParam);
 }
 
 bool CWnd::TellChild(HWND child, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {

@@ -38,7 +38,7 @@ protected:                                                      \
         return GetThisMessageMap();                             \
     }                                                           \
     const AFX_MSGMAP* ownClass::GetThisMessageMap() {           \
-        using ThisClass [[maybe_unused]] = ownClass;                             \
+        using ThisClass [[maybe_unused]] = ownClass;            \
         constexpr auto baseMap = &baseClass::GetThisMessageMap; \
         static const AFX_MSGMAP_ENTRY entries[] = {
 #define END_MESSAGE_MAP()                                                                       \

@@ -41,8 +41,7 @@ WindowSystem* WindowSystem::SetCurrent(WindowSystem* system) {
 }
 
 LRESULT WindowSystem::Deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    CWnd* const wrapper = CWnd::FromHandle(window);
-    return wrapper ? wrapper->WindowProc(message, wParam, lParam) : 0;
+    return SendMessageA(window, message, wParam, lParam);
 }
 
 void WindowSystem::DeliverCommand(HWND control, UINT code) {

@@ -5,9 +5,29 @@
 
 namespace PLATFORM {
 
-WindowTable& WindowTable::Get() {
-    static WindowTable& table = *std::make_unique<WindowTable>().release();  // outlives all users
-    return table;
+namespace {
+
+[[gnu::init_priority(101)]] WindowTable all;
+
+}  // namespace
+
+WindowTable& WindowTable::Get() noexcept {
+    return all;
+}
+
+WindowTable::~WindowTable() {
+    for (auto& [window, record] : m_Records) {
+        LetGo(record);
+    }
+}
+
+void WindowTable::LetGo(Record& record) noexcept {
+    if (record.Attached) {
+        record.Attached->m_hWnd = nullptr;
+    }
+    if (record.MadeUp) {
+        record.MadeUp->m_hWnd = nullptr;
+    }
 }
 
 WindowTable::Record* WindowTable::Find(HWND window) {
@@ -16,20 +36,52 @@ WindowTable::Record* WindowTable::Find(HWND window) {
 }
 
 HWND WindowTable::Add(HWND parent, int id) {
+    Record record;
+    record.Parent = parent;
+    record.Id = id;
+    record.Queue = MessageQueue::OfThisThread();
     const std::scoped_lock lock(m_Lock);
-    const HWND window = reinterpret_cast<HWND>(++m_Last * 4);
-    m_Records[window] = {parent, id, nullptr, nullptr};
+    const HWND window = reinterpret_cast<HWND>(++m_LastHandle);
+    m_Records[window] = std::move(record);
     return window;
+}
+
+void WindowTable::AddOwned(CWnd* owner) {
+    const HWND window = Add(nullptr, 0);
+    const std::scoped_lock lock(m_Lock);
+    Attach(window, owner);
+    Find(window)->IsOwned = true;
 }
 
 void WindowTable::Erase(HWND window) {
     auto record = m_Records.extract(window);
-    if (record && record.mapped().Attached) {
-        record.mapped().Attached->m_hWnd = nullptr;
+    if (record) {
+        LetGo(record.mapped());
+        record.mapped().Queue->Drop(window);
     }
-    if (record && record.mapped().MadeUp) {
-        record.mapped().MadeUp->m_hWnd = nullptr;
+}
+
+bool WindowTable::RemoveOwned(const CWnd* owner) {
+    const std::scoped_lock lock(m_Lock);
+    const HWND window = owner->m_hWnd;
+    const Record* const record = Find(window);
+    const bool isOwned = record && record->IsOwned && record->Attached == owner;
+    if (isOwned) {
+        Erase(window);
     }
+    return isOwned;
+}
+
+MessageTarget WindowTable::Target(HWND window) {
+    const std::scoped_lock lock(m_Lock);
+    const Record* const record = Find(window);
+    return record ? MessageTarget{Wrapper(window), record->Queue} : MessageTarget();
+}
+
+CWnd* WindowTable::Attached(HWND window) {
+    const std::scoped_lock lock(m_Lock);
+    const Record* const record = Find(window);
+    return record ? record->Attached : nullptr;
 }
 
 void WindowTable::Remove(HWND window) {
@@ -100,9 +152,10 @@ bool WindowTable::Attach(HWND window, CWnd* wrapper) {
     return true;
 }
 
-void WindowTable::Detach(HWND window) {
+void WindowTable::Detach(const CWnd* wrapper) {
     const std::scoped_lock lock(m_Lock);
-    if (Record* const record = Find(window)) {
+    Record* const record = Find(wrapper->m_hWnd);
+    if (record && record->Attached == wrapper) {
         record->Attached = nullptr;
     }
 }

@@ -4,16 +4,9 @@
 #include <marlin/platform/drawing/handles.h>
 #include <marlin/platform/drawing/point.h>
 #include <marlin/platform/drawing/rect.h>
+#include <marlin/platform/windowing/messages.h>
 
-#include <cstdint>
-
-/// Names a window: a dialog or one of its controls. Values are never given twice.
-using HWND = struct HWND__*;
 using UINT = unsigned int;
-/// The two numbers of a message; they hold a pointer where the message has one.
-using WPARAM = std::uintptr_t;
-using LPARAM = std::intptr_t;
-using LRESULT = std::intptr_t;
 
 /// What every notification of a control begins with.
 struct NMHDR {

@@ -53,6 +53,11 @@
 #include <marlin/geometry/unit_type.h>
 #include <marlin/geometry/vector_2d.h>
 #include <marlin/geometry/vector_3d.h>
+#include <marlin/keywords/keyword.h>
+#include <marlin/keywords/keywords.h>
+#include <marlin/keywords/list_keyword.h>
+#include <marlin/keywords/list_keywords.h>
+#include <marlin/keywords/predefined_keywords.h>
 #include <marlin/platform/drawing/bitmaps.h>
 #include <marlin/platform/drawing/c_bitmap.h>
 #include <marlin/platform/drawing/c_brush.h>
@@ -76,7 +81,6 @@
 #include <marlin/platform/kernel/clock.h>
 #include <marlin/platform/kernel/extension_module.h>
 #include <marlin/platform/kernel/mutex.h>
-#include <marlin/platform/kernel/version.h>
 #include <marlin/platform/kernel/waiting.h>
 #include <marlin/platform/kernel/win_thread.h>
 #include <marlin/platform/kernel/worker_control.h>
@@ -105,9 +109,14 @@
 #include <marlin/platform/windowing/window_system.h>
 #include <marlin/platform/windowing/window_types.h>
 #include <marlin/records/bias_info.h>
+#include <marlin/records/depth_label_info.h>
 #include <marlin/records/dxf_info.h>
+#include <marlin/records/geo_grid_info.h>
+#include <marlin/records/grid_info.h>
 #include <marlin/records/line_info.h>
 #include <marlin/records/map_info.h>
+#include <marlin/records/panel_info.h>
+#include <marlin/records/paper_grid.h>
 #include <marlin/records/sun_illumination_info.h>
 #include <marlin/records/text_info.h>
 #include <marlin/resources/dialogs.h>
@@ -130,3 +139,4 @@
 #include <marlin/settings/section_key.h>
 #include <marlin/settings/steady_list.h>
 #include <marlin/text/text_height_fact_comp.h>
+#include <marlin/text/text_rect_comp.h>

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/text/detail/text_measure.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace MARLINSUITE {
+
+/// Breaks a text into lines of a width, in logical units: at each "\P", behind spaces and hyphens,
+/// and inside words that are wider than a line.
+class TextWrapper {
+public:
+    TextWrapper(const TextMeasure& measure, double width, std::vector<std::string>& lines)
+        : m_Measure(measure), m_Width(width), m_Lines(lines) {}
+
+    /// Appends the lines of the text.
+    void Wrap(std::string_view text);
+
+    [[nodiscard]] int MaxWidth() const noexcept { return m_MaxWidth; }
+    /// Of the line that was measured last.
+    [[nodiscard]] int LineHeight() const noexcept { return m_Last.cy; }
+
+private:
+    void WrapParagraph(std::string_view paragraph);
+    void WrapWords();
+    void BreakWord();
+    void EndLine();
+    void Measure(std::string_view line);
+    [[nodiscard]] int WidthOf(std::string_view piece) const noexcept {
+        return m_Measure.Extent(piece).cx;
+    }
+
+    const TextMeasure& m_Measure;
+    double m_Width;
+    std::vector<std::string>& m_Lines;
+    int m_MaxWidth = 0;
+    SIZE m_Last{};
+
+    // The line being filled, and what is left of the paragraph.
+    std::string m_Line;
+    double m_LineWidth = 0;
+    std::string_view m_Rest;
+    bool m_InBrokenWord = false;
+};
+
+}  // namespace MARLINSUITE

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/text/detail/text_wrapper.h>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace MARLINSUITE {
+
+namespace {
+
+constexpr std::string_view paragraphMark = "\\P";
+constexpr std::string_view breakCharacters = " -";
+
+// Up to and including the next space or hyphen.
+std::string_view FirstWord(std::string_view text) {
+    const auto end = text.find_first_of(breakCharacters);
+    return text.substr(0, end == std::string_view::npos ? end : end + 1);
+}
+
+std::string_view WithoutTrailingSpaces(std::string_view text) {
+    return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+std::string_view WithoutLeadingSpaces(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    return text;
+}
+
+}  // namespace
+
+void TextWrapper::Wrap(std::string_view text) {
+    std::string_view rest = text;
+    while (!rest.empty()) {
+        const auto end = rest.find(paragraphMark);
+        WrapParagraph(rest.substr(0, end));
+        rest = end == std::string_view::npos ? std::string_view()
+                                             : rest.substr(end + paragraphMark.size());
+    }
+    if (text.ends_with(paragraphMark)) {
+        m_Lines.emplace_back();
+    }
+}
+
+void TextWrapper::Measure(std::string_view line) {
+    m_Last = m_Measure.Extent(line);
+    m_MaxWidth = std::max(m_MaxWidth, static_cast<int>(m_Last.cx));
+}
+
+void TextWrapper::WrapParagraph(std::string_view paragraph) {
+    const SIZE whole = m_Measure.Extent(paragraph);
+    const double ratio =
+        whole.cy != 0 ? static_cast<double>(m_Measure.Height()) / static_cast<double>(whole.cy)
+                      : 1.0;
+    if (!(std::ceil(m_Width / ratio) < whole.cx)) {
+        m_Lines.emplace_back(paragraph);
+        Measure(paragraph);
+        return;
+    }
+    m_Rest = paragraph;
+    m_InBrokenWord = false;
+    WrapWords();
+    const std::string_view last = WithoutTrailingSpaces(m_Line);
+    if (!last.empty()) {
+        Measure(last);
+        m_Lines.emplace_back(last);
+    }
+    m_Line.clear();
+    m_LineWidth = 0;
+}
+
+void TextWrapper::WrapWords() {
+    while (!m_Rest.empty()) {
+        m_InBrokenWord =
+            m_InBrokenWord && breakCharacters.find(m_Rest.front()) == std::string_view::npos;
+        const std::string_view piece = m_InBrokenWord ? m_Rest.substr(0, 1) : FirstWord(m_Rest);
+        const int width = WidthOf(piece);
+        if (m_LineWidth + width <= m_Width) {
+            m_Line += piece;
+            m_LineWidth += width;
+            m_Rest.remove_prefix(piece.size());
+        } else if (!m_Line.empty()) {
+            EndLine();
+        } else {
+            BreakWord();
+        }
+    }
+}
+
+// The first character is taken even where it alone is wider than the line.
+void TextWrapper::BreakWord() {
+    do {
+        m_LineWidth += WidthOf(m_Rest.substr(0, 1));
+        m_Line += m_Rest.front();
+        m_Rest.remove_prefix(1);
+    } while (!m_Rest.empty() && m_LineWidth + WidthOf(m_Rest.substr(0, 1)) < m_Width);
+    EndLine();
+    m_InBrokenWord = true;
+}
+
+void TextWrapper::EndLine() {
+    const std::string_view line = WithoutTrailingSpaces(m_Line);
+    Measure(line);
+    m_Lines.emplace_back(line);
+    m_Line.clear();
+    m_LineWidth = 0;
+    m_Rest = WithoutLeadingSpaces(m_Rest);
+}
+
+}  // namespace MARLINSUITE

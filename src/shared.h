@@ -81,6 +81,7 @@
 #include <marlin/platform/kernel/clock.h>
 #include <marlin/platform/kernel/extension_module.h>
 #include <marlin/platform/kernel/mutex.h>
+#include <marlin/platform/kernel/version.h>
 #include <marlin/platform/kernel/waiting.h>
 #include <marlin/platform/kernel/win_thread.h>
 #include <marlin/platform/kernel/worker_control.h>

@@ -38,6 +38,7 @@ private:
     void AddContourEdit(CLI::App* command);
     void AddColors();
     void AddSettings();
+    void AddKeywords();
     void AddFiles();
     void AddTextMeasuring();
     void AddTextStyle(CLI::App* command);
@@ -76,6 +77,7 @@ CommandLine::CommandLine(Output& output) : m_Output(output) {
     AddContours();
     AddColors();
     AddSettings();
+    AddKeywords();
     AddFiles();
     AddTextMeasuring();
 }
@@ -187,11 +189,28 @@ void CommandLine::AddSettings() {
                 ->required();
         }
     }
+    command = AddCommand(family, "show", "Show the records of a file and what they mean",
+                         [this] { return ShowSettings(m_Arguments.File, m_Output); });
+    AddText(command, "FILE", m_Arguments.File, "Settings file")->required();
+    AddJson(command);
+
     command = AddCommand(family, "diff", "Compare two files key by key", [this] {
         return CompareSettings(m_Arguments.File, m_Arguments.OtherFile, m_Output);
     });
     AddText(command, "A", m_Arguments.File, "Settings file")->required();
     AddText(command, "B", m_Arguments.OtherFile, "Settings file")->required();
+    AddJson(command);
+}
+
+void CommandLine::AddKeywords() {
+    CLI::App* const family = AddFamily("keywords", "Keywords of plot texts");
+    CLI::App* command = AddCommand(family, "scan", "Count the keywords of texts and files",
+                                   [this] { return ScanKeywords(m_Arguments.Files, m_Output); });
+    AddTexts(command, "TEXT|FILE", m_Arguments.Files, "Text with keywords, or a file")->required();
+    AddJson(command);
+
+    command = AddCommand(family, "list", "Show the list keywords and their choices",
+                         [this] { return ListKeywords(m_Output); });
     AddJson(command);
 }
 

@@ -50,6 +50,11 @@ int SealSettings(const std::string& path, const std::vector<std::string>& sectio
 int GetSetting(const SettingArguments& arguments, Output& output);
 int SetSetting(const SettingArguments& arguments, Output& output);
 int CompareSettings(const std::string& a, const std::string& b, Output& output);
+int ShowSettings(const std::string& path, Output& output);
+
+/// Each argument is a text with keywords, or a file.
+int ScanKeywords(const std::vector<std::string>& arguments, Output& output);
+int ListKeywords(Output& output);
 
 int CheckFile(const std::string& path, Output& output);
 int SealFile(const std::string& path, bool isForced, Output& output);

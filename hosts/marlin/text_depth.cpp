@@ -85,6 +85,7 @@ int MeasureDepths(const TextArguments& arguments, Output& output) {
         return Refused(error.Text());
     }
     std::vector<Measured> labels;
+    labels.reserve(depths.size());
     for (const double depth : depths) {
         TextRectComp rects;
         labels.push_back({depth, rects(style, depth)});

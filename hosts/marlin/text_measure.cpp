@@ -84,6 +84,7 @@ int MeasureTexts(const TextArguments& arguments, Output& output) {
         return Refused(error.Text());
     }
     std::vector<Measured> measured;
+    measured.reserve(texts.size());
     for (const std::string& text : texts) {
         measured.push_back(Measure(style, text));
     }

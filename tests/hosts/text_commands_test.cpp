@@ -28,6 +28,15 @@ TEST(TextCommands, ATextIsMeasuredAboutItsJustifiedPoint) {
           ""}});
 }
 
+// The bold face has an x of 1139 where the regular one has 1024.
+TEST(TextCommands, ABoldItalicTextIsMeasuredWithItsOwnFace) {
+    const Program program;
+    const ProgramResult result = program.Run(
+        {"text", "measure", "--font", "Liberation Sans", "--bold", "--italic", "--json", "x"});
+    EXPECT_NE(result.Out.find("\"style\": \"Bold Italic\""), std::string::npos) << result.Out;
+    EXPECT_NE(result.Out.find("\"width\": 1.837,"), std::string::npos) << result.Out;
+}
+
 TEST(TextCommands, AWrappedTextShowsItsLines) {
     const Program program;
     ExpectSteps(program, {{{"text", "measure", "--font", "Liberation Sans", "--wrap", "5", "--json",

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/windowing/c_wnd.h>
-#include <marlin/platform/windowing/detail/message_targets.h>
+#include <marlin/platform/windowing/detail/window_table.h>
 #include <marlin/platform/windowing/messages.h>
 
-using PLATFORM::FindMessageTarget;
 using PLATFORM::MessageQueue;
 using PLATFORM::MessageTarget;
+using PLATFORM::WindowTable;
 
 int PostMessageA(HWND window, unsigned int message, WPARAM wParam, LPARAM lParam) {
-    const MessageTarget target = FindMessageTarget(window);
+    const MessageTarget target = WindowTable::Get().Target(window);
     if (!target.Window) {
         return 0;
     }
@@ -17,7 +17,7 @@ int PostMessageA(HWND window, unsigned int message, WPARAM wParam, LPARAM lParam
 }
 
 LRESULT SendMessageA(HWND window, unsigned int message, WPARAM wParam, LPARAM lParam) {
-    const MessageTarget target = FindMessageTarget(window);
+    const MessageTarget target = WindowTable::Get().Target(window);
     return target.IsOfThisThread() ? target.Window->WindowProc(message, wParam, lParam) : 0;
 }
 
@@ -29,7 +29,7 @@ int PeekMessageA(MSG* message, HWND window, unsigned int first, unsigned int las
 }
 
 int GetMessageA(MSG* message, HWND window, unsigned int first, unsigned int last) {
-    if (!message || (window && !FindMessageTarget(window).IsOfThisThread())) {
+    if (!message || (window && !WindowTable::Get().Target(window).IsOfThisThread())) {
         return -1;
     }
     MessageQueue::OfThisThread()->Get(*message, {window, first, last});

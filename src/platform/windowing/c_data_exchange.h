@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/platform/windowing/c_wnd.h>
+
+/// One exchange between the fields of a dialog and its controls. Once a text was refused, the
+/// exchanges that follow do nothing.
+class MARLIN_API CDataExchange {
+public:
+    CDataExchange(CWnd* dialog, bool saveAndValidate) noexcept
+        : m_bSaveAndValidate(saveAndValidate), m_pDlgWnd(dialog) {}
+
+    [[nodiscard]] bool HasFailed() const noexcept { return m_Failed; }
+
+    /// The control of that number; null when there is none and after a refusal.
+    [[nodiscard]] CWnd* PrepareCtrl(int id) const;
+    /// Refuses: shows a message and puts the focus back on the control.
+    void Fail(CWnd& control, const char* message);
+
+    const bool m_bSaveAndValidate;  ///< From the controls to the fields.
+    CWnd* const m_pDlgWnd;
+
+private:
+    bool m_Failed = false;
+};
+
+/// Attaches a field to its control, the first time.
+MARLIN_API void DDX_Control(CDataExchange* exchange, int id, CWnd& control);
+/// The text of an edit. A number takes all of the text, blanks around it aside; another text is
+/// refused with a message and the focus stays on the edit.
+MARLIN_API void DDX_Text(CDataExchange* exchange, int id, CString& value);
+MARLIN_API void DDX_Text(CDataExchange* exchange, int id, float& value);
+MARLIN_API void DDX_Text(CDataExchange* exchange, int id, double& value);
+/// 1 for a checked box, 0 for another.
+MARLIN_API void DDX_Check(CDataExchange* exchange, int id, int& value);
+/// The index of a drop-down list's item, -1 for none.
+MARLIN_API void DDX_CBIndex(CDataExchange* exchange, int id, int& value);

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/platform/windowing/c_dialog.h>
+#include <marlin/platform/windowing/detail/window_table.h>
+#include <marlin/platform/windowing/window_system.h>
+
+#include <vector>
+
+using PLATFORM::WindowSystem;
+using PLATFORM::WindowTable;
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+ON_BN_CLICKED(IDOK, CallOnOK)
+ON_BN_CLICKED(IDCANCEL, CallOnCancel)
+END_MESSAGE_MAP()
+
+CDialog::CDialog(UINT templateId, CWnd* parent) noexcept
+    : m_Template(PLATFORM::FindDialogTemplate(templateId)), m_Parent(parent) {}
+
+CDialog::~CDialog() = default;
+
+bool CDialog::InitModalIndirect(const PLATFORM::DialogTemplate* form, CWnd* parent) noexcept {
+    if (!form || m_hWnd) {
+        return false;
+    }
+    m_Template = form;
+    m_Parent = parent;
+    return true;
+}
+
+bool CDialog::CreateWindows() {
+    WindowTable& windows = WindowTable::Get();
+    const HWND parent = m_Parent ? m_Parent->GetSafeHwnd() : nullptr;
+    const HWND dialog = windows.Add(parent, 0);
+    std::vector<HWND> controls;
+    for (const PLATFORM::ControlTemplate& control : m_Template->Controls) {
+        controls.push_back(windows.Add(dialog, control.Id));
+    }
+    Attach(dialog);
+    if (!WindowSystem::Current().CreateDialog(dialog, *m_Template, controls, parent)) {
+        windows.Remove(dialog);
+        return false;
+    }
+    return true;
+}
+
+void CDialog::Destroy() {
+    const HWND dialog = m_hWnd;
+    WindowSystem::Current().DestroyDialog(dialog);
+    WindowTable::Get().Remove(dialog);
+}
+
+void CDialog::FocusFirst() {
+    for (const PLATFORM::ControlTemplate& control : m_Template->Controls) {
+        CWnd* const window = GetDlgItem(control.Id);
+        if (control.Kind != PLATFORM::CONTROL::LABEL && window->IsWindowEnabled()) {
+            window->SetFocus();
+            return;
+        }
+    }
+}
+
+int CDialog::DoModal() {
+    if (!m_Template || m_hWnd || !CreateWindows()) {
+        return WindowSystem::Failed;
+    }
+    m_HasEnded = false;
+    m_IsRunning = false;
+    if (OnInitDialog()) {
+        FocusFirst();
+    }
+    m_IsRunning = true;
+    const int result = m_HasEnded ? m_EarlyResult : WindowSystem::Current().RunDialog(m_hWnd);
+    Destroy();
+    return result;
+}
+
+void CDialog::EndDialog(int result) {
+    m_HasEnded = true;
+    m_EarlyResult = result;
+    if (m_hWnd && m_IsRunning) {
+        WindowSystem::Current().EndDialog(m_hWnd, result);
+    }
+}
+
+BOOL CDialog::OnInitDialog() {
+    UpdateData(false);
+    return 1;
+}
+
+void CDialog::OnOK() {
+    if (UpdateData(true)) {
+        EndDialog(IDOK);
+    }
+}
+
+void CDialog::OnCancel() {
+    EndDialog(IDCANCEL);
+}
+
+LRESULT CDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_CLOSE) {
+        OnCancel();
+        return 0;
+    }
+    return CWnd::WindowProc(message, wParam, lParam);
+}

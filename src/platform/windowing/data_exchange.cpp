@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/platform/windowing/c_data_exchange.h>
+#include <marlin/platform/windowing/detail/number_form.h>
+#include <marlin/platform/windowing/window_system.h>
+
+using PLATFORM::WindowSystem;
+
+namespace {
+
+constexpr const char* numberWanted = "Please enter a number.";
+
+template <typename Real>
+void ExchangeReal(CDataExchange& exchange, int id, Real& value) {
+    CWnd* const edit = exchange.PrepareCtrl(id);
+    if (!edit) {
+        return;
+    }
+    if (!exchange.m_bSaveAndValidate) {
+        edit->SetWindowText(PLATFORM::RealText(value).c_str());
+        return;
+    }
+    CString text;
+    edit->GetWindowText(text);
+    if (!PLATFORM::ParseReal(text.View(), value)) {
+        exchange.Fail(*edit, numberWanted);
+    }
+}
+
+}  // namespace
+
+CWnd* CDataExchange::PrepareCtrl(int id) const {
+    return m_Failed ? nullptr : m_pDlgWnd->GetDlgItem(id);
+}
+
+void CDataExchange::Fail(CWnd& control, const char* message) {
+    m_Failed = true;
+    m_pDlgWnd->MessageBox(message, nullptr, MB_OK | MB_ICONEXCLAMATION);
+    control.SetFocus();
+}
+
+void DDX_Control(CDataExchange* exchange, int id, CWnd& control) {
+    if (!control.m_hWnd && exchange->PrepareCtrl(id)) {
+        control.SubclassDlgItem(static_cast<UINT>(id), exchange->m_pDlgWnd);
+    }
+}
+
+void DDX_Text(CDataExchange* exchange, int id, CString& value) {
+    if (CWnd* const edit = exchange->PrepareCtrl(id)) {
+        if (exchange->m_bSaveAndValidate) {
+            edit->GetWindowText(value);
+        } else {
+            edit->SetWindowText(value);
+        }
+    }
+}
+
+void DDX_Text(CDataExchange* exchange, int id, float& value) {
+    ExchangeReal(*exchange, id, value);
+}
+
+void DDX_Text(CDataExchange* exchange, int id, double& value) {
+    ExchangeReal(*exchange, id, value);
+}
+
+void DDX_Check(CDataExchange* exchange, int id, int& value) {
+    if (CWnd* const box = exchange->PrepareCtrl(id)) {
+        WindowSystem& system = WindowSystem::Current();
+        if (exchange->m_bSaveAndValidate) {
+            value = system.IsChecked(box->m_hWnd) ? 1 : 0;
+        } else {
+            system.SetChecked(box->m_hWnd, value != 0);
+        }
+    }
+}
+
+void DDX_CBIndex(CDataExchange* exchange, int id, int& value) {
+    if (CWnd* const combo = exchange->PrepareCtrl(id)) {
+        WindowSystem& system = WindowSystem::Current();
+        if (exchange->m_bSaveAndValidate) {
+            value = system.CurrentItem(combo->m_hWnd);
+        } else {
+            system.SetCurrentItem(combo->m_hWnd, value);
+        }
+    }
+}

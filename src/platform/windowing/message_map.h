@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/platform/windowing/window_messages.h>
+
+#include <variant>
+
+class CWnd;
+
+/// Names the handler of one message. Handlers of a class are named in its own type.
+struct AFX_MSGMAP_ENTRY {
+    using Handler =
+        std::variant<void (CWnd::*)(), void (CWnd::*)(NMHDR*, LRESULT*), BOOL (CWnd::*)(HELPINFO*)>;
+    UINT nMessage;
+    UINT nCode;
+    int nID;
+    bool bReflected;
+    Handler pfn;
+};
+
+/// The handlers of a class, after which those of its base are looked through.
+struct AFX_MSGMAP {
+    const AFX_MSGMAP* (*pfnGetBaseMap)();
+    const AFX_MSGMAP_ENTRY* lpEntries;
+    int nEntries;
+};
+
+// Message maps are written with the framework's macros: the first in the class, the others
+// around the list of entries in its source. The list ends with the last macro.
+
+#define DECLARE_MESSAGE_MAP()                                   \
+protected:                                                      \
+    [[nodiscard]] static const AFX_MSGMAP* GetThisMessageMap(); \
+    [[nodiscard]] const AFX_MSGMAP* GetMessageMap() const override;
+
+#define BEGIN_MESSAGE_MAP(ownClass, baseClass)                  \
+    const AFX_MSGMAP* ownClass::GetMessageMap() const {         \
+        return GetThisMessageMap();                             \
+    }                                                           \
+    const AFX_MSGMAP* ownClass::GetThisMessageMap() {           \
+        using ThisClass [[maybe_unused]] = ownClass;            \
+        constexpr auto baseMap = &baseClass::GetThisMessageMap; \
+        static const AFX_MSGMAP_ENTRY entries[] = {
+#define END_MESSAGE_MAP()                                                                       \
+    { 0, 0, 0, false, static_cast<void (CWnd::*)()>(nullptr) }                                  \
+    }                                                                                           \
+    ;                                                                                           \
+    static const AFX_MSGMAP map = {baseMap, entries, static_cast<int>(std::size(entries)) - 1}; \
+    return &map;                                                                                \
+    }
+
+/// The handlers' forms: `void OnButton()`, `void OnNotify(NMHDR*, LRESULT*)`,
+/// `BOOL OnHelpInfo(HELPINFO*)`; `ON_CONTROL_REFLECT` stands in the class of the control itself.
+#define ON_BN_CLICKED(id, handler) \
+    {WM_COMMAND, BN_CLICKED, id, false, static_cast<void (CWnd::*)()>(&ThisClass::handler)},
+#define ON_CONTROL_REFLECT(code, handler) \
+    {WM_COMMAND, code, 0, true, static_cast<void (CWnd::*)()>(&ThisClass::handler)},
+#define ON_NOTIFY(code, id, handler) \
+    {WM_NOTIFY, code, id, false,     \
+     static_cast<void (CWnd::*)(NMHDR*, LRESULT*)>(&ThisClass::handler)},
+#define ON_WM_HELPINFO() \
+    {WM_HELP, 0, 0, false, static_cast<BOOL (CWnd::*)(HELPINFO*)>(&ThisClass::OnHelpInfo)},

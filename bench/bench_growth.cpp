@@ -56,10 +56,10 @@ std::unique_ptr<RamFile> ContourFile(int count) {
 
 void EnterSettings(int sections) {
     const std::string size = std::to_string(sections);
-    BENCH::Contest(
+    BENCH::ContestInFreshMemory(
         "growth_settings_read_" + size + "/marlin", [sections] { return SettingsFile(sections); },
         ReadSettings);
-    BENCH::Contest(
+    BENCH::ContestInFreshMemory(
         "growth_settings_save_" + size + "/marlin", [sections] { return Settings(sections); },
         [](const auto& saved) {
             Require(saved->Source.Save(saved->File.Path()).Empty(), "IniFile::Save");
@@ -68,10 +68,10 @@ void EnterSettings(int sections) {
 
 void EnterContours(int sections) {
     const std::string size = std::to_string(sections);
-    BENCH::Contest(
+    BENCH::ContestInFreshMemory(
         "growth_contours_load_" + size + "/marlin", [sections] { return ContourFile(sections); },
         [](const auto& file) { LoadContours(*file); });
-    BENCH::Contest(
+    BENCH::ContestInFreshMemory(
         "growth_contours_save_" + size + "/marlin",
         [sections] { return std::make_unique<Saved<ContourDefinitionList>>(Contours(sections)); },
         [](const auto& saved) {

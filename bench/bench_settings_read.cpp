@@ -56,7 +56,8 @@ void ReadKeyFile(const RamFile& file) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    for (const BENCH::Shape shape : {BENCH::Shape{200, 25}, BENCH::Shape{100'000, 6}}) {
+    for (const BENCH::Shape shape :
+         {BENCH::Shape{200, 25}, BENCH::Shape{100'000, 6}, BENCH::Shape{100'000, 6, true}}) {
         const std::string job = "settings_read_" + shape.Text();
         const auto file = [shape] { return RamFile("read.ini", BENCH::SettingsText(shape)); };
         BENCH::Contest(job + "/marlin", file, ReadIniFile);

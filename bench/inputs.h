@@ -64,9 +64,11 @@ private:
 struct Shape {
     int Sections = 0;
     int Keys = 0;
+    bool OwnNames = false;  ///< No two sections share the name of a key.
 
     [[nodiscard]] std::string Text() const {
-        return std::to_string(Sections) + "x" + std::to_string(Keys);
+        return std::to_string(Sections) + "x" + std::to_string(Keys) +
+               (OwnNames ? "_own_names" : "");
     }
 };
 
@@ -100,13 +102,16 @@ inline std::string Value(int key, Numbers& numbers) {
 
 /// A settings file as the library writes it.
 inline std::string SettingsText(Shape shape) {
-    constexpr std::size_t widestName = 14;
+    const std::size_t widestName = shape.OwnNames ? 20 : 14;
     Numbers numbers;
     std::string text;
     for (int section = 0; section < shape.Sections; ++section) {
         text += "[" + SectionName(section) + "]\r\n";
         for (int key = 0; key < shape.Keys; ++key) {
-            const std::string_view name = KeyNames[static_cast<std::size_t>(key)];
+            std::string name(KeyNames[static_cast<std::size_t>(key)]);
+            if (shape.OwnNames) {
+                name += std::to_string(section);
+            }
             text.append(name).append(widestName - name.size(), ' ').append("= ");
             text.append(Value(key, numbers)).append("\r\n");
         }

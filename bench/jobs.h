@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
 namespace BENCH {
 
@@ -15,6 +16,21 @@ void Contest(const std::string& name, Prepare prepare, Work work) {
     benchmark::RegisterBenchmark(name.c_str(), [prepare, work](benchmark::State& state) {
         auto&& input = prepare();
         for (auto _ : state) {
+            work(input);
+        }
+    });
+}
+
+/// The same, with all free memory handed back to the system between the rounds, so that every
+/// round pays for the memory that it takes, as a program's first one does.
+template <class Prepare, class Work>
+void ContestInFreshMemory(const std::string& name, Prepare prepare, Work work) {
+    benchmark::RegisterBenchmark(name.c_str(), [prepare, work](benchmark::State& state) {
+        auto&& input = prepare();
+        for (auto _ : state) {
+            state.PauseTiming();
+            ::malloc_trim(0);
+            state.ResumeTiming();
             work(input);
         }
     });

@@ -20,6 +20,7 @@ struct Arguments {
     GenerateArguments Generate;
     ContourArguments Contour;
     SettingArguments Setting;
+    TextArguments Text;
     std::vector<std::string> Files;
     std::vector<std::string> Names;
     std::string File;
@@ -37,7 +38,10 @@ private:
     void AddContourEdit(CLI::App* command);
     void AddColors();
     void AddSettings();
+    void AddKeywords();
     void AddFiles();
+    void AddTextMeasuring();
+    void AddTextStyle(CLI::App* command);
 
     CLI::App* AddFamily(const char* name, const char* description);
     CLI::App* AddCommand(CLI::App* family, const char* name, const char* description,
@@ -61,7 +65,8 @@ private:
     std::function<int()> m_Command;
     CLI::App m_App{
         "Contour files, color tables, settings files and checksummed files of the "
-        "Marlin suite.\nExit codes: 0 done; 1 found something wrong, or refused; "
+        "Marlin suite,\nand the measuring of plot texts.\nExit codes: 0 done; 1 found something "
+        "wrong, or refused; "
         "2 wrong usage, or a file that\ncannot be read or written.",
         "marlin"};
 };
@@ -72,7 +77,9 @@ CommandLine::CommandLine(Output& output) : m_Output(output) {
     AddContours();
     AddColors();
     AddSettings();
+    AddKeywords();
     AddFiles();
+    AddTextMeasuring();
 }
 
 CLI::App* CommandLine::AddFamily(const char* name, const char* description) {
@@ -182,11 +189,28 @@ void CommandLine::AddSettings() {
                 ->required();
         }
     }
+    command = AddCommand(family, "show", "Show the records of a file and what they mean",
+                         [this] { return ShowSettings(m_Arguments.File, m_Output); });
+    AddText(command, "FILE", m_Arguments.File, "Settings file")->required();
+    AddJson(command);
+
     command = AddCommand(family, "diff", "Compare two files key by key", [this] {
         return CompareSettings(m_Arguments.File, m_Arguments.OtherFile, m_Output);
     });
     AddText(command, "A", m_Arguments.File, "Settings file")->required();
     AddText(command, "B", m_Arguments.OtherFile, "Settings file")->required();
+    AddJson(command);
+}
+
+void CommandLine::AddKeywords() {
+    CLI::App* const family = AddFamily("keywords", "Keywords of plot texts");
+    CLI::App* command = AddCommand(family, "scan", "Count the keywords of texts and files",
+                                   [this] { return ScanKeywords(m_Arguments.Files, m_Output); });
+    AddTexts(command, "TEXT|FILE", m_Arguments.Files, "Text with keywords, or a file")->required();
+    AddJson(command);
+
+    command = AddCommand(family, "list", "Show the list keywords and their choices",
+                         [this] { return ListKeywords(m_Output); });
     AddJson(command);
 }
 
@@ -202,6 +226,41 @@ void CommandLine::AddFiles() {
     });
     AddText(command, "FILE", m_Arguments.File, "Any file")->required();
     command->add_flag("--force", m_Arguments.IsForced, "Though it is sealed already");
+}
+
+void CommandLine::AddTextMeasuring() {
+    TextArguments& text = m_Arguments.Text;
+    CLI::App* const family = AddFamily("text", "Rectangles of plot texts and depth labels");
+    CLI::App* command = AddCommand(family, "measure", "Measure texts",
+                                   [this] { return MeasureTexts(m_Arguments.Text, m_Output); });
+    AddTextStyle(command);
+    AddText(command, "--wrap", text.Wrap, R"(Wrap to that width, and break at each "\P")", "WIDTH");
+    AddTexts(command, "TEXT", text.Texts, R"(Behind "--" if one begins with "-")")->required();
+
+    command = AddCommand(family, "depth", "Measure depth labels",
+                         [this] { return MeasureDepths(m_Arguments.Text, m_Output); });
+    AddTextStyle(command);
+    AddText(command, "--presentation", text.Presentation, "How decimals are set apart: 0 to 4",
+            "CODE");
+    AddText(command, "--placement", text.Placement, "What lies on the position: 0 to 2", "CODE");
+    AddText(command, "--precision", text.Precision, "Number of decimals; 2 if not given", "NUMBER");
+    AddTexts(command, "DEPTH", text.Texts, "Depths")->required();
+
+    command = AddCommand(family, "fonts", "List the fonts that can be measured",
+                         [this] { return ListFonts(m_Output); });
+    AddJson(command);
+}
+
+void CommandLine::AddTextStyle(CLI::App* command) {
+    TextArguments& text = m_Arguments.Text;
+    AddText(command, "--font", text.Font, "Face name; Arial if not given", "NAME");
+    AddText(command, "--size", text.Size, "Height of the characters; 2.5 if not given", "NUMBER");
+    command->add_flag("--bold", text.IsBold, "In its bold face");
+    command->add_flag("--italic", text.IsItalic, "In its italic face");
+    AddText(command, "--justify", text.Justification,
+            "bottom-left to baseline-right, or 0 to 11: the point on the origin", "POINT");
+    AddText(command, "--rotate", text.Rotation, "Degrees, clockwise", "NUMBER");
+    AddJson(command);
 }
 
 const CLI::App* CommandLine::Innermost() const {
@@ -248,8 +307,10 @@ int RunCommandLine(int argc, char** argv) {
     output.HasColors = ::isatty(STDOUT_FILENO) != 0 && std::getenv("NO_COLOR") == nullptr;
     std::vector<std::string> words;
     for (int i = 1; i < argc; ++i) {
-        const bool isLevel = !words.empty() && words.front() == "contours";
-        words.push_back(isLevel ? WithLeadingDigit(argv[i]) : argv[i]);
+        const bool isNumber =
+            !words.empty() && (words[0] == "contours" ||
+                               (words.size() > 1 && words[0] == "text" && words[1] == "depth"));
+        words.push_back(isNumber ? WithLeadingDigit(argv[i]) : argv[i]);
     }
     const int code = CommandLine(output).Run(words);
     return Finish(output, code);

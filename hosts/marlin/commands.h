@@ -50,8 +50,32 @@ int SealSettings(const std::string& path, const std::vector<std::string>& sectio
 int GetSetting(const SettingArguments& arguments, Output& output);
 int SetSetting(const SettingArguments& arguments, Output& output);
 int CompareSettings(const std::string& a, const std::string& b, Output& output);
+int ShowSettings(const std::string& path, Output& output);
+
+/// Each argument is a text with keywords, or a file.
+int ScanKeywords(const std::vector<std::string>& arguments, Output& output);
+int ListKeywords(Output& output);
 
 int CheckFile(const std::string& path, Output& output);
 int SealFile(const std::string& path, bool isForced, Output& output);
+
+/// Options that were not given are empty.
+struct TextArguments {
+    std::string Font;
+    std::string Size;
+    bool IsBold = false;
+    bool IsItalic = false;
+    std::string Justification;
+    std::string Rotation;
+    std::string Wrap;
+    std::string Presentation;  ///< This and what follows: of depth labels.
+    std::string Placement;
+    std::string Precision;
+    std::vector<std::string> Texts;  ///< Or depths.
+};
+
+int MeasureTexts(const TextArguments& arguments, Output& output);
+int MeasureDepths(const TextArguments& arguments, Output& output);
+int ListFonts(Output& output);
 
 }  // namespace HOST

@@ -7,7 +7,7 @@ namespace MARLINSUITE {
 
 namespace {
 
-constexpr std::size_t usualCapacity = 32 * 1024;
+constexpr std::size_t usualCapacity = 64 * 1024;
 
 }  // namespace
 

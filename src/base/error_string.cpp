@@ -3,9 +3,23 @@
 
 namespace {
 
-ErrorString& LastOfThisThread() {
-    thread_local ErrorString last;
-    return last;
+constinit thread_local bool isLastGone = false;
+
+struct LastError {
+    ErrorString Error;
+    LastError() = default;
+    LastError(const LastError&) = delete;
+    LastError& operator=(const LastError&) = delete;
+    ~LastError() { isLastGone = true; }
+};
+
+// Null once the thread ends: the destructors of static objects still come after that.
+ErrorString* LastOfThisThread() {
+    if (isLastGone) {
+        return nullptr;
+    }
+    thread_local LastError last;
+    return &last.Error;
 }
 
 }  // namespace
@@ -43,12 +57,14 @@ ErrorString& ErrorString::operator<<(const CString& text) {
 }
 
 ErrorString ErrorString::LastError() {
-    return LastOfThisThread();
+    const ErrorString* const last = LastOfThisThread();
+    return last ? *last : ErrorString();
 }
 
 ErrorString& ErrorString::Remember() {
-    if (!m_Text.empty() && this != &LastOfThisThread()) {
-        LastOfThisThread() = *this;
+    ErrorString* const last = m_Text.empty() ? nullptr : LastOfThisThread();
+    if (last && last != this) {
+        *last = *this;
     }
     return *this;
 }

@@ -75,7 +75,7 @@ public:
         }
     }
 
-    [[nodiscard]] int Create() {
+    [[nodiscard]] int Create(unsigned int mode) {
         static std::atomic<unsigned int> counter = 0;
         constexpr int tries = 100;
         int error = EEXIST;
@@ -85,7 +85,7 @@ public:
             path += '-';
             AppendNumber(path, counter++);
             path += ".tmp";
-            error = m_File.Open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL);
+            error = m_File.Open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL, mode);
             if (error == 0) {
                 m_Path = path;
             }
@@ -175,7 +175,8 @@ int Replace(const std::string& target, const Contents& contents) {
         return RewriteInPlace(target, contents, old);
     }
     TemporaryFile temporary(target);
-    int error = temporary.Create();
+    // What a file hides from others shows in no moment of its replacement.
+    int error = temporary.Create(exists ? 0600U : 0666U);
     if (error == 0) {
         error = temporary.Fill(contents);
         if (error == 0 && exists) {

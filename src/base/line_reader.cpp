@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/detail/line_reader.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <new>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -39,23 +41,38 @@ bool LineReader::NextAfterRefill(std::string_view& line) {
 
 // Moves what is left to the front of the buffer and reads more behind it.
 bool LineReader::Refill() {
-    constexpr std::size_t firstCapacity = 32 * 1024;
     if (!m_File.IsOpen()) {
         return false;
     }
     const std::size_t kept = m_Rest.size();
     if (kept == m_Capacity) {
-        m_Capacity = m_Capacity == 0 ? firstCapacity : m_Capacity * 2;
-        auto larger = std::make_unique_for_overwrite<char[]>(m_Capacity);
-        std::memcpy(larger.get(), m_Rest.data(), kept);
-        m_Buffer = std::move(larger);
-    } else {
+        m_Error = Grow();
+    } else if (m_Rest.data() != m_Buffer.get()) {  // a pipe gives a long line in many pieces
         std::memmove(m_Buffer.get(), m_Rest.data(), kept);
     }
     std::size_t count = 0;
-    m_Error = m_File.Read(m_Buffer.get() + kept, m_Capacity - kept, count);
-    m_Rest = std::string_view(m_Buffer.get(), kept + count);
+    if (m_Error == 0) {
+        m_Error = m_File.Read(m_Buffer.get() + kept, m_Capacity - kept, count);
+        m_Rest = std::string_view(m_Buffer.get(), kept + count);
+    }
     return count != 0;
+}
+
+// Without a limit a device without line ends would take all memory.
+int LineReader::Grow() {
+    constexpr std::size_t firstCapacity = 32 * 1024;
+    if (m_Capacity == LongestLine) {
+        return EFBIG;
+    }
+    const std::size_t capacity = std::max(firstCapacity, m_Capacity * 2);
+    std::unique_ptr<char[]> larger(new (std::nothrow) char[capacity]);
+    if (!larger) {
+        return ENOMEM;
+    }
+    std::memcpy(larger.get(), m_Rest.data(), m_Rest.size());
+    m_Buffer = std::move(larger);
+    m_Capacity = capacity;
+    return 0;
 }
 
 }  // namespace MARLINSUITE

@@ -7,6 +7,7 @@
 #include <cassert>
 #include <cmath>
 #include <span>
+#include <utility>
 
 [[gnu::init_priority(101)]] const std::string ContourDefinitionList::LINESTYLES[3] = {
     "CONTINUOUS", "DASHED", "DOTTED"};
@@ -69,9 +70,21 @@ int ContourDefinitionList::Find(double level) const noexcept {
     return isBefore ? IndexOf(position) - 1 : -1;
 }
 
+void ContourDefinitionList::Swap(ContourDefinitionList& other) noexcept {
+    m_Storage.swap(other.m_Storage);
+    std::swap(m_First, other.m_First);
+    std::swap(m_IsAscending, other.m_IsAscending);
+}
+
 void ContourDefinitionList::Clear() noexcept {
     m_Storage.clear();
     m_First = 0;
+    m_IsAscending = true;
+}
+
+void ContourDefinitionList::NoteOrder() noexcept {
+    const std::span<const ContourDefInfo> definitions = std::span(m_Storage).subspan(m_First);
+    m_IsAscending = std::ranges::is_sorted(definitions, {}, &ContourDefInfo::Level);
 }
 
 // As much as there are definitions, so that the cost of many insertions stays in proportion.
@@ -111,7 +124,7 @@ int ContourDefinitionList::Add(const ContourDefInfo& def) {
     if (std::isnan(def.Level)) {
         return -1;
     }
-    if (NumContours() == 0 || m_Storage.back().Level < def.Level) {
+    if (NumContours() == 0 || (m_IsAscending && m_Storage.back().Level < def.Level)) {
         m_Storage.push_back(def);
         return NumContours() - 1;
     }
@@ -180,6 +193,7 @@ bool ContourDefinitionList::Generate(const ColorTable& table, bool invert) {
         definition.Color = invert ? 255U - color : color;
         m_Storage.push_back(definition);
     }
+    NoteOrder();
     return NumContours() != 0;
 }
 
@@ -187,6 +201,7 @@ bool ContourDefinitionList::Load(const char* path) {
     if (!path || !*path || !MARLINSUITE::ReadContourFile(path, m_Storage)) {
         return false;
     }
+    NoteOrder();
     return NumContours() != 0;
 }
 

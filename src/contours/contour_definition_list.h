@@ -29,6 +29,16 @@ public:
     /// The most levels that are generated from a range.
     static constexpr int MaxGeneratedLevels = 10'000'000;
 
+    ContourDefinitionList() = default;
+    ContourDefinitionList(const ContourDefinitionList&) = default;
+    /// Leaves the other list empty.
+    ContourDefinitionList(ContourDefinitionList&& other) noexcept { Swap(other); }
+    ContourDefinitionList& operator=(ContourDefinitionList other) noexcept {
+        Swap(other);
+        return *this;
+    }
+    ~ContourDefinitionList() = default;
+
     [[nodiscard]] int NumContours() const noexcept {
         return static_cast<int>(m_Storage.size() - m_First);
     }
@@ -80,7 +90,9 @@ private:
         return static_cast<int>(position - m_First);
     }
     [[nodiscard]] std::size_t LowerBound(double level) const noexcept;
+    void Swap(ContourDefinitionList& other) noexcept;
     void Clear() noexcept;
+    void NoteOrder() noexcept;
     void MakeRoomInFront();
     void DropSurplusRoom();
     std::size_t Insert(std::size_t position, const ContourDefInfo& def);
@@ -89,4 +101,5 @@ private:
     // in one piece. The definitions begin at m_First.
     std::vector<ContourDefInfo> m_Storage;
     std::size_t m_First = 0;
+    bool m_IsAscending = true;  // levels of `Load` and `Generate` may not be
 };

@@ -39,11 +39,12 @@ FileChecksum::FileChecksum(const std::string& path, unsigned int wordLimit) : m_
     if (path.empty()) {
         return;
     }
-    CRCChecksum checksum;
     struct stat status {};
-    if (::stat(path.c_str(), &status) == 0) {
-        checksum += static_cast<unsigned int>(status.st_mtime);
+    if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
+        return;
     }
+    CRCChecksum checksum;
+    checksum += static_cast<unsigned int>(status.st_mtime);
     const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rb"));
     if (!file) {
         return;

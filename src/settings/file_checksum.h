@@ -7,7 +7,8 @@
 
 /// A fingerprint of a file, taken once, when it is made: its modification time and its first
 /// 32-bit words. A host takes another later and compares, to see whether the file changed. Its
-/// value is 0 when no file could be opened.
+/// value is 0 when no file could be opened, or a folder, device or pipe, which has no contents
+/// to tell apart.
 class MARLIN_API FileChecksum {
 public:
     /// Word limit: no limit.

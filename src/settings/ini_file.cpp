@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cassert>
 #include <system_error>
+#include <vector>
 
 // Made before the objects of hosts, destroyed after them; its name needs nothing made before.
 [[gnu::init_priority(102)]] const Section IniFile::m_ErrorSection("");
@@ -23,6 +24,7 @@ public:
     explicit SectionSink(std::deque<Section>& sections) : m_Sections(sections) {}
 
     bool BeginSection(std::string_view name, std::string_view comments) {
+        HandOnKeys();
         const unsigned int hash = HashedString::ComputeHashValue(name);
         const auto isSame = [&](std::size_t position) {
             return m_Sections[position].GetName().Is(name, hash);
@@ -31,22 +33,39 @@ public:
             return false;
         }
         m_Index.Add(hash, m_Sections.size());
-        m_Current = &m_Sections.emplace_back(HashedString(name));
+        Section& section = m_Sections.emplace_back(HashedString(name));
         if (!comments.empty()) {
-            m_Current->SetComments(std::string(comments));
+            section.SetComments(std::string(comments));
         }
         return true;
     }
 
     void AddKey(std::string_view name, std::string_view value, std::string_view comments) {
-        m_Current->AddKey(m_Names.Of(name), value, comments);
+        if (m_Keys.size() == keysAtOnce) {
+            HandOnKeys();
+        }
+        m_Keys.emplace_back(m_Names.Of(name), value, comments);
     }
 
-    void DropSection() { m_Sections.pop_back(); }
+    // Gives the section begun last its keys, all at once, so that it takes no more memory than
+    // it needs; one of very many keys gets them in parts.
+    void HandOnKeys() {
+        if (!m_Keys.empty()) {
+            m_Sections.back().AddKeys(m_Keys);
+            m_Keys.clear();
+        }
+    }
+
+    void DropSection() {
+        m_Sections.pop_back();
+        m_Keys.clear();
+    }
 
 private:
+    static constexpr std::size_t keysAtOnce = 256;
+
     std::deque<Section>& m_Sections;
-    Section* m_Current = nullptr;
+    std::vector<SectionKey> m_Keys;  // of the section begun last
     MARLINSUITE::NameIndex m_Index;
     MARLINSUITE::NamePool m_Names;
 };
@@ -84,7 +103,9 @@ ErrorString IniFile::OpenText(std::string_view text) {
 
 ErrorString IniFile::Read(MARLINSUITE::LineReader& lines, const std::string& path) {
     SectionSink sink(m_Sections);
-    return MARLINSUITE::ReadSettings(lines, sink).Result(path);
+    const MARLINSUITE::SettingsOutcome outcome = MARLINSUITE::ReadSettings(lines, sink);
+    sink.HandOnKeys();
+    return outcome.Result(path);
 }
 
 std::string IniFile::Text() const {
@@ -132,6 +153,7 @@ bool IniFile::Open(const FileObject& file) {
             sink.AddKey(key.View(), value.View(), {});
         }
     }
+    sink.HandOnKeys();
     return true;
 }
 

@@ -18,12 +18,7 @@ void Section::SetComments(const char* comments) {
 }
 
 const SectionKey* Section::FindKey(std::string_view name, unsigned int hash) const noexcept {
-    for (const SectionKey& key : m_Keys) {
-        if (key.GetName().Is(name, hash)) {
-            return &key;
-        }
-    }
-    return nullptr;
+    return m_Keys.FindIf([=](const SectionKey& key) { return key.GetName().Is(name, hash); });
 }
 
 const SectionKey* Section::FindKey(std::string_view name) const noexcept {
@@ -43,17 +38,12 @@ bool Section::HasKey(const std::string& name) const noexcept {
 }
 
 bool Section::AddKey(const SectionKey& key) {
-    m_Keys.push_back(key);
+    m_Keys.emplace_back(key);
     return true;
 }
 
 bool Section::AddKey(SectionKey&& key) {
-    m_Keys.push_back(std::move(key));
-    return true;
-}
-
-bool Section::AddKey(const HashedString& name, std::string_view value, std::string_view comments) {
-    m_Keys.emplace_back(name, value, comments);
+    m_Keys.emplace_back(std::move(key));
     return true;
 }
 
@@ -142,7 +132,7 @@ bool Section::RemoveKey(const std::string& name) {
 Section& Section::operator<<(const Section& other) {
     const std::size_t count = other.m_Keys.size();  // fixed, should other be this section
     for (std::size_t i = 0; i < count; ++i) {
-        m_Keys.push_back(other.m_Keys[i]);
+        m_Keys.emplace_back(other.m_Keys[i]);
     }
     return *this;
 }

@@ -5,8 +5,9 @@
 #include <marlin/settings/hashed_string.h>
 #include <marlin/settings/rare_text.h>
 #include <marlin/settings/section_key.h>
+#include <marlin/settings/steady_list.h>
 
-#include <deque>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -37,7 +38,9 @@ public:
     [[nodiscard]] bool IsValid() const noexcept { return !m_Name.empty(); }
     [[nodiscard]] int NumKeys() const noexcept { return static_cast<int>(m_Keys.size()); }
     /// The keys in their order, to walk over.
-    [[nodiscard]] const std::deque<SectionKey>& Keys() const noexcept { return m_Keys; }
+    [[nodiscard]] const MARLINSUITE::SteadyList<SectionKey>& Keys() const noexcept {
+        return m_Keys;
+    }
     /// Removes all keys; name and comments stay.
     void Clear() noexcept { m_Keys.clear(); }
 
@@ -48,10 +51,10 @@ public:
     /// Appends at the end, whether or not a key of that name is there; true.
     bool AddKey(const SectionKey& key);
     bool AddKey(SectionKey&& key);
-    /// The same from the parts of a line of a settings file.
-    bool AddKey(const HashedString& name, std::string_view value, std::string_view comments);
     bool AddKey(const char* name);
     bool AddKey(const std::string& name);
+    /// Appends keys, which are moved out of there.
+    void AddKeys(std::span<SectionKey> keys) { m_Keys.Append(keys); }
     Section& operator+=(const SectionKey& key);
     Section& operator+=(const char* name);
     Section& operator+=(const std::string& name);
@@ -99,5 +102,5 @@ private:
 
     HashedString m_Name;
     RareText m_Comments;
-    std::deque<SectionKey> m_Keys;
+    MARLINSUITE::SteadyList<SectionKey> m_Keys;
 };

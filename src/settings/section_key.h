@@ -39,8 +39,10 @@ public:
     }
     SectionKey(const std::string& name, const char* value, const char* comments = "")
         : m_Name(name), m_Value(value), m_Comments(comments) {}
-    /// The parts as they stand in a settings file.
-    SectionKey(const HashedString& name, std::string_view value, std::string_view comments)
+    /// The parts as they stand in a settings file: views alone, so that a name made before goes
+    /// with any other value too.
+    template <std::same_as<std::string_view> View>
+    SectionKey(const HashedString& name, View value, View comments)
         : m_Name(name), m_Value(value), m_Comments(comments) {}
 
     [[nodiscard]] const HashedString& GetName() const noexcept { return m_Name; }

@@ -12,8 +12,8 @@
 namespace MARLINSUITE {
 
 /// An ordered list whose items stay where they are while others are appended, in little memory:
-/// one block of items for a list that was filled at once, and few blocks, each twice as large as
-/// the one before, for one that grew. Removing an item moves those behind it. A value.
+/// one block of items for a list that was filled at once, and few blocks, each as large as those
+/// before it together, for one that grew. Removing an item moves those behind it. A value.
 template <class T>
 class SteadyList {
     struct Block {
@@ -107,10 +107,9 @@ public:
     template <class Test>
     [[nodiscard]] const T* FindIf(Test test) const {
         for (const Block* block = &m_First; block; block = block->Next.get()) {
-            for (const T& item : block->Items) {
-                if (test(item)) {
-                    return &item;
-                }
+            const auto found = std::find_if(block->Items.begin(), block->Items.end(), test);
+            if (found != block->Items.end()) {
+                return &*found;
             }
         }
         return nullptr;
@@ -120,7 +119,7 @@ public:
     T& emplace_back(Arguments&&... arguments) {
         return BlockWithRoom(0).Items.emplace_back(std::forward<Arguments>(arguments)...);
     }
-    /// Appends the items, which are moved out of there; memory is taken for all of them at once.
+    /// Appends the items, which are moved out of there; memory is taken at most once.
     void Append(std::span<T> items) {
         if (!items.empty()) {
             std::vector<T>& room = BlockWithRoom(items.size()).Items;
@@ -154,11 +153,11 @@ private:
         while (last->Next) {
             last = last->Next.get();
         }
-        const std::size_t capacity = last->Items.capacity();
-        if (capacity - last->Items.size() >= std::max<std::size_t>(count, 1)) {
+        const std::size_t room = last->Items.capacity() - last->Items.size();
+        if (room >= std::max<std::size_t>(count, 1)) {
             return *last;
         }
-        const std::size_t wanted = count != 0 ? count : std::max(leastCapacity, 2 * capacity);
+        const std::size_t wanted = std::max(count != 0 ? count : leastCapacity, size());
         if (!last->Items.empty()) {
             last->Next = std::make_unique<Block>();
             last = last->Next.get();

@@ -65,7 +65,8 @@ Vector DescentShift(const DepthLabelInfo& dli, const Rect& integers) {
         return {};
     }
     const double factor = TextHeightFactComp::Get()(dli);
-    return Scaled(up, static_cast<double>(dli.Size()) * tm.tmDescent * factor / tm.tmHeight / length);
+    return Scaled(up,
+                  static_cast<double>(dli.Size()) * tm.tmDescent * factor / tm.tmHeight / length);
 }
 
 Vector CentreOfLabel(const DepthLabelInfo& dli, const Rect& integers, const Rect& decimals) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/error_string.h>
 
+#include <cstdlib>
 #include <string>
 #include <thread>
 
@@ -34,6 +35,21 @@ TEST(ErrorString, RemembersTheLastFailureOfEachThread) {
     EXPECT_EQ(ErrorString::LastError().Text(), "second more");
     second.SetCause("disk");
     EXPECT_EQ(ErrorString::LastError().Cause(), "disk");
+}
+
+TEST(ErrorString, IsMadeUntilTheEndOfTheProgram) {
+    struct FailsAtTheEnd {
+        ~FailsAtTheEnd() {
+            static_cast<void>(ErrorString(std::string(200, 'x')));
+            std::_Exit(ErrorString::LastError().Empty() ? 7 : 1);
+        }
+    };
+    const auto fail = [] {
+        static const FailsAtTheEnd atTheEnd;
+        static_cast<void>(ErrorString(std::string(100, 'x')));
+        std::exit(0);
+    };
+    EXPECT_EXIT(fail(), testing::ExitedWithCode(7), "");
 }
 
 }  // namespace

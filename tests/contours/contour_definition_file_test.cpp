@@ -179,6 +179,16 @@ TEST(ContourDefinitionFile, IsReadWholeInReverseOrder) {
     }
 }
 
+TEST(ContourDefinitionFile, IsSearchedByHalvesThoughItsLevelsDoNotAscend) {
+    const TemporaryFile file{
+        std::string("[Contour(0)]\nLevel=10\n[Contour(1)]\nLevel=30\n[Contour(2)]\nLevel=5\n")};
+    ContourDefinitionList list;
+    ASSERT_TRUE(list.Load(file.Path()));
+    EXPECT_EQ(list.Add(Defined(30.0, 0, 0, 0.0F, false)), -1);
+    EXPECT_EQ(list.Add(Defined(20.0, 0, 0, 0.0F, false)), 1);
+    EXPECT_EQ(TextOf(list), "10/0/0/0/0 20/0/0/0/0 30/0/0/0/0 5/0/0/0/0 ");
+}
+
 TEST(ContourDefinitionFile, IsLeftAloneByAnEmptyList) {
     const TemporaryFile file;
     EXPECT_FALSE(ContourDefinitionList().Save(file.Path()));

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -47,6 +48,16 @@ TEST(ContourDefinitionList, KeepsAddedDefinitionsInOrder) {
     EXPECT_EQ(list.Add(At(20.0)), 2);
     EXPECT_EQ(list.Add(At(10.0000001)), 2);
     EXPECT_EQ(LevelsOf(list), (Levels{5.0, 10.0, 10.0000001, 20.0}));
+}
+
+TEST(ContourDefinitionList, IsEmptyAfterItWasMovedFrom) {
+    ContourDefinitionList list = ListOf({3.0, 2.0, 1.0});
+    ContourDefinitionList taken = std::move(list);
+    EXPECT_EQ(LevelsOf(taken), (Levels{1.0, 2.0, 3.0}));
+    EXPECT_EQ(list.NumContours(), 0);  // NOLINT(bugprone-use-after-move): empty by contract
+    EXPECT_EQ(list.Add(At(7.0)), 0);
+    taken = std::move(list);
+    EXPECT_EQ(LevelsOf(taken), (Levels{7.0}));
 }
 
 TEST(ContourDefinitionList, RefusesALevelThatIsThereOrIsNoNumber) {

@@ -130,6 +130,20 @@ TEST(Keywords, MergeWholeTables) {
     EXPECT_EQ(Rows(table), "a=1*29 b=2*4 a=3*3 c=x*20 ");
 }
 
+TEST(Keywords, OfOneNameTheFirstCountsInLargeTablesToo) {
+    std::vector<CKeyword> rows;
+    for (int i = 0; i < 100; ++i) {
+        rows.push_back(Keyword(std::to_string(i % 50), std::to_string(i), 0));
+    }
+    CKeywords table = Table(rows);
+    table.AddKeywords(Numbered(0, 50));
+    table.SetValues(Table(rows));
+    for (int i = 0; i < table.GetSize(); ++i) {
+        EXPECT_EQ(table.GetKeyword(i)->m_RefCount, i < 50 ? 1 : 0) << i;
+        EXPECT_EQ(table.GetKeyword(i)->m_Value, std::to_string(i % 50)) << i;
+    }
+}
+
 TEST(Keywords, CountsStopAtTheLargestNumber) {
     constexpr int most = std::numeric_limits<int>::max();
     constexpr int least = std::numeric_limits<int>::min();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/text/c_string.h>
 
+#include <clocale>
+#include <cstdlib>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -65,6 +67,20 @@ TEST(CString, FormatsEvenFromItself) {
     EXPECT_EQ(text, "7-5");
     text.Format("%s", std::string(1000, 'x').c_str());
     EXPECT_EQ(text.GetLength(), 1000);
+}
+
+TEST(CString, FormatsNumbersAlikeInEveryLocale) {
+    const std::string before = std::setlocale(LC_ALL, nullptr);
+    const bool changed = std::setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
+    CString text;
+    text.Format("%.2f", 1.5);
+    const double hosts = std::strtod(changed ? "1,5" : "1.5", nullptr);
+    std::setlocale(LC_ALL, before.c_str());
+    EXPECT_EQ(text, "1.50");
+    EXPECT_EQ(hosts, 1.5);  // the host's own locale is left to it
+    if (!changed) {
+        GTEST_SKIP() << "the locale de_DE.UTF-8 is not installed";
+    }
 }
 
 }  // namespace

@@ -41,6 +41,8 @@ TEST(FileChecksum, TellsAChangedFileAndAnotherTime) {
     EXPECT_NE(before, FileChecksum(Dated(folder, "abcdefgh", 1001), FileChecksum::AllWords));
     EXPECT_EQ(FileChecksum("", 1).Value(), 0U);
     EXPECT_EQ(FileChecksum(folder.File("none"), 1), FileChecksum("", 1));
+    EXPECT_EQ(FileChecksum(folder.File(""), 1).Value(), 0U);
+    EXPECT_EQ(FileChecksum("/dev/zero", FileChecksum::AllWords).Value(), 0U);
 }
 
 TEST(FileChecksum, CoversEveryBlockOfALargeFile) {

@@ -117,7 +117,7 @@ TEST(IniFile, UnnamedKeysKeepTheirCommentAlone) {
     EXPECT_EQ(file.Text(), "[S]\r\n; kept\r\n\r\n\r\n");
 }
 
-TEST(IniFile, ReadsLinesLongerThanAnyBuffer) {
+TEST(IniFile, ReadsAndWritesLinesLongerThanAnyBuffer) {
     const TemporaryFolder folder;
     const std::string longValue(300'000, 'x');
     const std::string path =
@@ -126,6 +126,33 @@ TEST(IniFile, ReadsLinesLongerThanAnyBuffer) {
     EXPECT_EQ(file[0][0].GetValue(), longValue);
     EXPECT_EQ(file[0][1].GetValue(), "2");
     EXPECT_EQ(file[1][0].GetValue(), longValue);
+    EXPECT_EQ(file.Text(), "[S]\r\nfirst  = " + longValue +
+                               "\r\nsecond = 2\r\n\r\n[T]\r\nlast = " + longValue + "\r\n\r\n");
+}
+
+TEST(IniFile, SectionsOfManyKeysGoThroughAFileUnchanged) {
+    const TemporaryFolder folder;
+    const std::string path = folder.File("many.ini");
+    IniFile file;
+    for (int keys : {0, 255, 256, 257, 5000}) {
+        Section& section = file["Keys" + std::to_string(keys)];
+        for (int i = 0; i < keys; ++i) {
+            section["Number" + std::to_string(i)] << i;
+        }
+    }
+    ASSERT_TRUE(file.Save(path).Empty());
+    EXPECT_EQ(TemporaryFolder::Read(path), file.Text());
+    const IniFile stored(path);
+    ASSERT_EQ(stored.NumSections(), 5);
+    for (int i = 0; i < stored.NumSections(); ++i) {
+        const Section& section = stored[i];
+        EXPECT_EQ(*section.GetName(), "Keys" + std::to_string(section.NumKeys()));
+        int number = 0;
+        for (const SectionKey& key : section.Keys()) {
+            EXPECT_EQ(*key.GetName(), "Number" + std::to_string(number));
+            EXPECT_EQ(key.GetValue(), std::to_string(number++));
+        }
+    }
 }
 
 TEST(IniFile, SaysWhyAFileCannotBeRead) {
@@ -139,6 +166,7 @@ TEST(IniFile, SaysWhyAFileCannotBeRead) {
     EXPECT_EQ(error.Text(), "Error opening \"" + missing + "\" for reading!");
     EXPECT_EQ(error.Cause(), missing + ": No such file or directory");
     EXPECT_EQ(file.Open(folder.File("")).Cause(), folder.File("") + ": Is a directory");
+    EXPECT_EQ(file.Open(std::string("/dev/zero")).Cause(), "/dev/zero: File too large");
     EXPECT_EQ(IniFile(folder.Write("dup.ini", "[A]\n[a]\n")).NumSections(), 1);
 }
 

@@ -104,6 +104,10 @@ TEST(SectionKey, IsMadeFromNameValueAndCommentAndComparedByName) {
     EXPECT_EQ(typed, SectionKey("WIDTH"));
     EXPECT_FALSE(SectionKey("").IsValid());
     SectionKey copy = typed;
+    const SectionKey renamed(copy.GetName(), std::string("2"), " new");
+    EXPECT_EQ(renamed, copy);
+    EXPECT_EQ(renamed.GetValue() + renamed.GetComments(), "2 new");
+    EXPECT_EQ(SectionKey(copy.GetName(), "3", "").GetValue(), "3");
     copy.SetComments("other");
     EXPECT_EQ(typed.GetComments(), " in mm");
 }

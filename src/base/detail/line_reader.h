@@ -16,6 +16,9 @@ namespace MARLINSUITE {
 /// beside what is kept. Lines are good until the next call.
 class LineReader {
 public:
+    /// In bytes; a file with a longer line, such as an endless one, is not read on (EFBIG).
+    static constexpr std::size_t LongestLine = 64 * 1024 * 1024;
+
     LineReader() = default;
     /// Reads from a text, which must outlive the reader.
     explicit LineReader(std::string_view text) noexcept : m_Rest(text) {}
@@ -42,6 +45,7 @@ public:
 private:
     bool NextAfterRefill(std::string_view& line);
     bool Refill();
+    int Grow();
 
     PLATFORM::FileDescriptor m_File;
     std::unique_ptr<char[]> m_Buffer;

@@ -3,7 +3,9 @@
 #include <marlin/platform/drawing/detail/drawing_objects.h>
 #include <marlin/platform/drawing/gdi_objects.h>
 
+#include <atomic>
 #include <cassert>
+#include <mutex>
 #include <utility>
 
 namespace {
@@ -22,6 +24,19 @@ void WithSlot(HGDIOBJ handle, Operation operation) noexcept {
     }
 }
 
+// Threads share the stock objects, whose wrappers the first of them fills in.
+void NameOnce(HGDIOBJ& target, HGDIOBJ handle) noexcept {
+    static constinit std::mutex naming;
+    const std::atomic_ref<HGDIOBJ> held(target);
+    if (held.load(std::memory_order_acquire) == handle) {
+        return;
+    }
+    const std::scoped_lock lock(naming);
+    if (held.load(std::memory_order_relaxed) != handle) {
+        held.store(handle, std::memory_order_release);
+    }
+}
+
 }  // namespace
 
 CGdiObject::~CGdiObject() {
@@ -31,7 +46,7 @@ CGdiObject::~CGdiObject() {
 CGdiObject* CGdiObject::FromHandle(HGDIOBJ handle) noexcept {
     CGdiObject* result = nullptr;
     WithSlot(handle, [&](auto& slot) {
-        slot.Temporary.m_hObject = handle;
+        NameOnce(slot.Temporary.m_hObject, handle);
         result = slot.Attached ? slot.Attached : &slot.Temporary;
     });
     return result;

@@ -30,8 +30,10 @@ bool Describe(const InstalledFont& font, LOGFONTA& logical, TEXTMETRICA& metrics
 
 // Of each family the first font, whose weight and slant are the lowest.
 void KeepFamilies(std::vector<InstalledFont>& fonts) {
-    const auto rest = std::ranges::unique(fonts, EqualIgnoringCase, &InstalledFont::Family);
-    fonts.erase(rest.begin(), rest.end());
+    const auto isSameFamily = [](const InstalledFont& a, const InstalledFont& b) {
+        return EqualIgnoringCase(a.Family, b.Family);
+    };
+    fonts.erase(std::unique(fonts.begin(), fonts.end(), isSameFamily), fonts.end());
 }
 
 }  // namespace

@@ -28,7 +28,7 @@ public:
 
     [[nodiscard]] constexpr operator const RECT*() const noexcept { return this; }
 
-    [[nodiscard]] constexpr bool operator==(const RECT& other) const noexcept {
+    [[nodiscard]] constexpr bool operator==(const CRect& other) const noexcept {
         return left == other.left && top == other.top && right == other.right &&
                bottom == other.bottom;
     }

@@ -14,7 +14,7 @@ public:
     constexpr CSize(int initialCX, int initialCY) noexcept : SIZE{initialCX, initialCY} {}
     constexpr CSize(SIZE size) noexcept : SIZE{size} {}
 
-    [[nodiscard]] constexpr bool operator==(SIZE size) const noexcept {
-        return cx == size.cx && cy == size.cy;
+    [[nodiscard]] constexpr bool operator==(const CSize& other) const noexcept {
+        return cx == other.cx && cy == other.cy;
     }
 };

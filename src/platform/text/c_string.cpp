@@ -8,6 +8,8 @@
 #include <cstdarg>
 #include <cstdio>
 
+#include <locale.h>
+
 namespace {
 
 std::string_view ViewOf(const char* text) noexcept {
@@ -21,6 +23,21 @@ int PositionOrNone(std::size_t position) noexcept {
 std::size_t ClampedCount(int count) noexcept {
     return static_cast<std::size_t>(std::max(count, 0));
 }
+
+// For this thread and its own lifetime numbers have a point, whatever the host's locale.
+class ClassicLocale {
+public:
+    ClassicLocale() noexcept {
+        static const locale_t classic = ::newlocale(LC_ALL_MASK, "C", nullptr);
+        m_Before = ::uselocale(classic);
+    }
+    ClassicLocale(const ClassicLocale&) = delete;
+    ClassicLocale& operator=(const ClassicLocale&) = delete;
+    ~ClassicLocale() { ::uselocale(m_Before); }
+
+private:
+    locale_t m_Before = nullptr;
+};
 
 }  // namespace
 
@@ -142,6 +159,7 @@ int CString::Replace(const char* from, const char* to) {
 }
 
 void CString::Format(const char* format, ...) {
+    const ClassicLocale classic;
     std::va_list arguments;
     va_start(arguments, format);
     std::va_list again;

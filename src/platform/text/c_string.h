@@ -61,7 +61,7 @@ public:
     int Replace(char from, char to) noexcept;
     int Replace(const char* from, const char* to);
 
-    /// As `printf` into this text; the arguments may be pieces of the text itself.
+    /// As `printf` in the locale "C" into this text; the arguments may be pieces of it.
     void Format(const char* format, ...) __attribute__((format(printf, 2, 3)));
     /// Loads a text of the resource string table; false, and an empty text, when it has none
     /// of that number.

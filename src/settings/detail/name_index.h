@@ -19,9 +19,9 @@ public:
         if (m_Slots.empty()) {
             return -1;
         }
-        for (std::size_t slot = Home(hash); m_Slots[slot].Used; slot = Next(slot)) {
-            if (m_Slots[slot].Hash == hash && isSame(m_Slots[slot].Position)) {
-                return static_cast<std::ptrdiff_t>(m_Slots[slot].Position);
+        for (std::size_t slot = Home(hash); m_Slots[slot].IsUsed(); slot = Next(slot)) {
+            if (m_Slots[slot].Hash == hash && isSame(m_Slots[slot].Position())) {
+                return static_cast<std::ptrdiff_t>(m_Slots[slot].Position());
             }
         }
         return -1;
@@ -31,15 +31,17 @@ public:
         if (2 * (m_Count + 1) > m_Slots.size()) {
             Grow();
         }
-        Put({hash, true, position});
+        Put({hash, static_cast<std::uint32_t>(position + 1)});
         ++m_Count;
     }
 
 private:
     struct Slot {
-        unsigned int Hash = 0;
-        bool Used = false;
-        std::size_t Position = 0;
+        std::uint32_t Hash = 0;
+        std::uint32_t Behind = 0;  // the position + 1; a list of sections is counted by an int
+
+        [[nodiscard]] bool IsUsed() const noexcept { return Behind != 0; }
+        [[nodiscard]] std::size_t Position() const noexcept { return Behind - 1; }
     };
 
     [[nodiscard]] std::size_t Home(unsigned int hash) const noexcept {
@@ -51,7 +53,7 @@ private:
 
     void Put(const Slot& entry) {
         std::size_t slot = Home(entry.Hash);
-        while (m_Slots[slot].Used) {
+        while (m_Slots[slot].IsUsed()) {
             slot = Next(slot);
         }
         m_Slots[slot] = entry;
@@ -61,7 +63,7 @@ private:
         std::vector<Slot> old(m_Slots.empty() ? 64 : 2 * m_Slots.size());
         old.swap(m_Slots);
         for (const Slot& entry : old) {
-            if (entry.Used) {
+            if (entry.IsUsed()) {
                 Put(entry);
             }
         }

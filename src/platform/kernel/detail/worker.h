@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/platform/kernel/detail/kernel_object.h>
+#include <marlin/platform/kernel/win_thread.h>
+
+#include <thread>
+
+namespace PLATFORM {
+
+/// The thread behind a `CWinThread`, which begins suspended. The running thread has it too.
+class Worker final : public KernelObject, public std::enable_shared_from_this<Worker> {
+public:
+    /// A suspended worker with its `CWinThread`, or none when the system has no thread for it.
+    [[nodiscard]] static std::unique_ptr<CWinThread> Create(AFX_THREADPROC procedure,
+                                                            void* parameter, int priority);
+
+    Worker(AFX_THREADPROC procedure, void* parameter, int priority) noexcept
+        : m_Procedure(procedure), m_Parameter(parameter), m_Priority(priority) {}
+
+    [[nodiscard]] unsigned long Wait(unsigned long milliseconds) override;
+    /// Whether it was suspended.
+    bool Resume();
+    [[nodiscard]] unsigned long ExitCode();
+
+    /// Waits for the end of the thread; a suspended one ends without running. A worker that
+    /// calls it for itself goes on alone.
+    void Finish();
+
+private:
+    enum class STATE { SUSPENDED, RESUMED, CANCELLED, ENDED };
+
+    [[nodiscard]] bool Leave(STATE from, STATE to);
+    [[nodiscard]] bool IsToRun();
+    void Run(CWinThread* thread);
+    void End(unsigned long code);
+
+    AFX_THREADPROC m_Procedure;
+    void* m_Parameter;
+    int m_Priority;
+    STATE m_State = STATE::SUSPENDED;
+    unsigned long m_ExitCode = STILL_ACTIVE;
+    std::thread m_Thread;
+};
+
+}  // namespace PLATFORM

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/platform/kernel/detail/kernel_object.h>
+
+#include <cstdint>
+#include <unordered_map>
+
+namespace PLATFORM {
+
+namespace {
+
+// The handles and names of the process. The names outlive the objects that handles keep.
+struct KernelObjects {
+    std::mutex Lock;
+    std::uintptr_t LastHandle = 0;
+    std::unordered_map<std::string, std::weak_ptr<KernelObject>> Names;
+    std::unordered_map<std::uintptr_t, std::shared_ptr<KernelObject>> Handles;
+};
+
+[[gnu::init_priority(101)]] KernelObjects objects;
+
+std::uintptr_t ValueOf(HANDLE handle) noexcept {
+    return reinterpret_cast<std::uintptr_t>(handle);
+}
+
+// Whoever drops the result drops it outside the lock, which the end of an object takes.
+std::shared_ptr<KernelObject> Close(HANDLE handle) {
+    const std::lock_guard lock(objects.Lock);
+    auto node = objects.Handles.extract(ValueOf(handle));
+    return node ? std::move(node.mapped()) : nullptr;
+}
+
+}  // namespace
+
+KernelObject::~KernelObject() {
+    if (m_Name.empty()) {
+        return;
+    }
+    const std::lock_guard lock(objects.Lock);
+    const auto found = objects.Names.find(m_Name);
+    // Another object may have got the name since this one was given up.
+    if (found != objects.Names.end() && found->second.expired()) {
+        objects.Names.erase(found);
+    }
+}
+
+HANDLE OpenHandle(std::shared_ptr<KernelObject> object) {
+    if (!object) {
+        return nullptr;
+    }
+    const std::lock_guard lock(objects.Lock);
+    const std::uintptr_t value = ++objects.LastHandle;
+    objects.Handles.emplace(value, std::move(object));
+    return reinterpret_cast<HANDLE>(value);
+}
+
+std::shared_ptr<KernelObject> ObjectOf(HANDLE handle) {
+    const std::lock_guard lock(objects.Lock);
+    const auto found = objects.Handles.find(ValueOf(handle));
+    return found == objects.Handles.end() ? nullptr : found->second;
+}
+
+std::shared_ptr<KernelObject> NamedObject(const std::string& name,
+                                          const std::shared_ptr<KernelObject>& fresh) {
+    const std::lock_guard lock(objects.Lock);
+    const auto found = objects.Names.find(name);
+    if (found != objects.Names.end()) {
+        if (auto object = found->second.lock()) {
+            return object;
+        }
+    }
+    if (fresh) {
+        objects.Names[name] = fresh;
+    }
+    return fresh;
+}
+
+}  // namespace PLATFORM
+
+unsigned long WaitForSingleObject(HANDLE handle, unsigned long milliseconds) {
+    const auto object = PLATFORM::ObjectOf(handle);
+    return object ? object->Wait(milliseconds) : WAIT_FAILED;
+}
+
+int CloseHandle(HANDLE handle) {
+    return PLATFORM::Close(handle) ? 1 : 0;
+}

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/platform/kernel/detail/kernel_object.h>
+#include <marlin/platform/kernel/mutex.h>
+
+#include <utility>
+#include <vector>
+
+namespace {
+
+class Mutex final : public PLATFORM::KernelObject, public std::enable_shared_from_this<Mutex> {
+public:
+    using KernelObject::KernelObject;
+
+    [[nodiscard]] unsigned long Wait(unsigned long milliseconds) override;
+    [[nodiscard]] bool Release();
+    /// Frees the mutex on behalf of its owner, whose thread ends.
+    void Abandon();
+
+private:
+    const void* m_Owner = nullptr;  // the owner's list of what it holds, null while free
+    unsigned long m_Count = 0;
+    bool m_Abandoned = false;
+};
+
+constinit thread_local bool threadEnds = false;
+
+// The mutexes that a thread owns. Its address tells the thread from all others that live.
+struct HeldMutexes {
+    std::vector<std::weak_ptr<Mutex>> Mutexes;
+
+    HeldMutexes() = default;
+    HeldMutexes(const HeldMutexes&) = delete;
+    HeldMutexes& operator=(const HeldMutexes&) = delete;
+    ~HeldMutexes() {
+        threadEnds = true;
+        for (const auto& held : Mutexes) {
+            if (const auto mutex = held.lock()) {
+                mutex->Abandon();
+            }
+        }
+    }
+
+    void Remove(const Mutex* mutex) {
+        std::erase_if(Mutexes, [mutex](const std::weak_ptr<Mutex>& held) {
+            const auto object = held.lock();
+            return !object || object.get() == mutex;
+        });
+    }
+};
+
+thread_local HeldMutexes heldMutexes;
+
+unsigned long Mutex::Wait(unsigned long milliseconds) {
+    if (threadEnds) {
+        return WAIT_FAILED;
+    }
+    HeldMutexes& self = heldMutexes;
+    std::unique_lock lock(m_Lock);
+    if (m_Owner == &self) {
+        ++m_Count;
+        return WAIT_OBJECT_0;
+    }
+    if (!WaitUntil(lock, milliseconds, [this] { return !m_Owner; })) {
+        return WAIT_TIMEOUT;
+    }
+    self.Mutexes.push_back(weak_from_this());
+    m_Owner = &self;
+    m_Count = 1;
+    return std::exchange(m_Abandoned, false) ? WAIT_ABANDONED : WAIT_OBJECT_0;
+}
+
+bool Mutex::Release() {
+    if (threadEnds) {
+        return false;
+    }
+    HeldMutexes& self = heldMutexes;
+    const std::lock_guard lock(m_Lock);
+    if (m_Owner != &self) {
+        return false;
+    }
+    if (--m_Count == 0) {
+        m_Owner = nullptr;
+        self.Remove(this);
+        m_Changed.notify_one();
+    }
+    return true;
+}
+
+void Mutex::Abandon() {
+    const std::lock_guard lock(m_Lock);
+    m_Owner = nullptr;
+    m_Count = 0;
+    m_Abandoned = true;
+    m_Changed.notify_one();
+}
+
+}  // namespace
+
+HANDLE CreateMutexA(const SECURITY_ATTRIBUTES*, int initialOwner, const char* name) {
+    const auto fresh = std::make_shared<Mutex>(name ? name : "");
+    if (initialOwner != 0) {
+        static_cast<void>(fresh->Wait(0));
+    }
+    if (fresh->Name().empty()) {
+        return PLATFORM::OpenHandle(fresh);
+    }
+    auto object = PLATFORM::NamedObject(fresh->Name(), fresh);
+    if (object != fresh && initialOwner != 0) {
+        static_cast<void>(fresh->Release());
+    }
+    return PLATFORM::OpenHandle(std::move(object));
+}
+
+HANDLE OpenMutexA(unsigned long, int, const char* name) {
+    return name && *name ? PLATFORM::OpenHandle(PLATFORM::NamedObject(name, nullptr)) : nullptr;
+}
+
+int ReleaseMutex(HANDLE handle) {
+    const auto mutex = PLATFORM::ObjectOf<Mutex>(handle);
+    return mutex && mutex->Release() ? 1 : 0;
+}

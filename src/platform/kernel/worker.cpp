@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/platform/kernel/detail/worker.h>
+#include <marlin/platform/kernel/worker_control.h>
+
+#include <algorithm>
+#include <atomic>
+#include <system_error>
+
+#include <sys/resource.h>
+
+namespace PLATFORM {
+
+namespace {
+
+constinit std::atomic<unsigned int> workerLimit{NoWorkerLimit};
+constinit std::atomic<unsigned int> workerCount{0};
+constinit std::atomic<bool> workersHeld{false};
+constinit thread_local CWinThread* currentThread = nullptr;
+
+bool CountWorker() noexcept {
+    unsigned int count = workerCount.load();
+    do {
+        if (count >= workerLimit.load()) {
+            return false;
+        }
+    } while (!workerCount.compare_exchange_weak(count, count + 1));
+    return true;
+}
+
+// A thread of this system has a nice value of its own, which every thread may raise.
+void ApplyPriority(int priority) noexcept {
+    const int step = priority <= THREAD_PRIORITY_IDLE     ? 19
+                     : priority <= THREAD_PRIORITY_LOWEST ? 10
+                     : priority < THREAD_PRIORITY_NORMAL  ? 5
+                                                          : 0;
+    if (step > 0) {
+        ::setpriority(PRIO_PROCESS, 0, std::min(::getpriority(PRIO_PROCESS, 0) + step, 19));
+    }
+}
+
+}  // namespace
+
+std::unique_ptr<CWinThread> Worker::Create(AFX_THREADPROC procedure, void* parameter,
+                                           int priority) {
+    if (!CountWorker()) {
+        return nullptr;
+    }
+    const auto worker = std::make_shared<Worker>(procedure, parameter, priority);
+    auto thread = std::make_unique<CWinThread>(worker);
+    try {
+        worker->m_Thread = std::thread([worker, raw = thread.get()] {
+            worker->Run(raw);
+            workerCount.fetch_sub(1);
+        });
+    } catch (const std::system_error&) {
+        workerCount.fetch_sub(1);
+        return nullptr;
+    }
+    return thread;
+}
+
+unsigned long Worker::Wait(unsigned long milliseconds) {
+    std::unique_lock lock(m_Lock);
+    const bool ended = WaitUntil(lock, milliseconds, [this] { return m_State == STATE::ENDED; });
+    return ended ? WAIT_OBJECT_0 : WAIT_TIMEOUT;
+}
+
+bool Worker::Leave(STATE from, STATE to) {
+    const std::lock_guard lock(m_Lock);
+    if (m_State != from) {
+        return false;
+    }
+    m_State = to;
+    m_Changed.notify_all();
+    return true;
+}
+
+bool Worker::Resume() {
+    return Leave(STATE::SUSPENDED, STATE::RESUMED);
+}
+
+unsigned long Worker::ExitCode() {
+    const std::lock_guard lock(m_Lock);
+    return m_ExitCode;
+}
+
+void Worker::Finish() {
+    static_cast<void>(Leave(STATE::SUSPENDED, STATE::CANCELLED));
+    if (!m_Thread.joinable()) {
+        return;
+    }
+    if (m_Thread.get_id() == std::this_thread::get_id()) {
+        m_Thread.detach();
+    } else {
+        m_Thread.join();
+    }
+}
+
+bool Worker::IsToRun() {
+    std::unique_lock lock(m_Lock);
+    m_Changed.wait(lock, [this] { return m_State != STATE::SUSPENDED; });
+    const bool resumed = m_State == STATE::RESUMED;
+    lock.unlock();
+    if (resumed) {
+        workersHeld.wait(true);
+    }
+    return resumed;
+}
+
+void Worker::Run(CWinThread* thread) {
+    if (!IsToRun()) {
+        End(0);
+        return;
+    }
+    currentThread = thread;
+    ApplyPriority(m_Priority);
+    const unsigned long code = m_Procedure(m_Parameter);
+    // Once it has ended, the thread may be deleted by whoever owns it.
+    const std::unique_ptr<CWinThread> self(thread->m_bAutoDelete ? thread : nullptr);
+    End(code);
+}
+
+void Worker::End(unsigned long code) {
+    const std::lock_guard lock(m_Lock);
+    m_State = STATE::ENDED;
+    m_ExitCode = code;
+    m_Changed.notify_all();
+}
+
+void SetWorkerLimit(unsigned int most) noexcept {
+    workerLimit.store(most);
+}
+
+void HoldWorkers(bool hold) noexcept {
+    workersHeld.store(hold);
+    workersHeld.notify_all();
+}
+
+}  // namespace PLATFORM
+
+CWinThread* AfxGetThread() noexcept {
+    return PLATFORM::currentThread;
+}

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/platform/windowing/messages.h>
+
+#include <condition_variable>
+#include <deque>
+#include <memory>
+#include <mutex>
+
+namespace PLATFORM {
+
+/// Which messages a thread asks for: those for a window (null: any) with a number of a range,
+/// both ends included (0 and 0: any).
+struct MessageFilter {
+    HWND Window = nullptr;
+    unsigned int First = 0;
+    unsigned int Last = 0;
+
+    [[nodiscard]] bool Takes(const MSG& message) const noexcept {
+        return (!Window || message.hwnd == Window) &&
+               ((First == 0 && Last == 0) || (message.message >= First && message.message <= Last));
+    }
+};
+
+/// The messages posted to the windows of one thread, in their order. Every thread may post; the
+/// thread itself takes.
+class MessageQueue {
+public:
+    /// The calling thread's queue, made on the first call.
+    [[nodiscard]] static const std::shared_ptr<MessageQueue>& OfThisThread();
+
+    void Post(const MSG& message);
+    /// Copies the oldest message that the filter takes, and removes it if asked to.
+    bool Peek(MSG& message, const MessageFilter& filter, bool remove);
+    /// Takes the oldest one, waiting for it.
+    void Get(MSG& message, const MessageFilter& filter);
+    /// Drops what waits for the window.
+    void Drop(HWND window);
+
+private:
+    bool TakeFirst(MSG& message, const MessageFilter& filter, bool remove);
+
+    std::mutex m_Lock;
+    std::condition_variable m_Posted;
+    std::deque<MSG> m_Messages;
+};
+
+}  // namespace PLATFORM

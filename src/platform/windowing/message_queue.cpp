@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/platform/windowing/detail/message_queue.h>
+
+#include <algorithm>
+
+namespace PLATFORM {
+
+const std::shared_ptr<MessageQueue>& MessageQueue::OfThisThread() {
+    thread_local const auto queue = std::make_shared<MessageQueue>();
+    return queue;
+}
+
+void MessageQueue::Post(const MSG& message) {
+    const std::lock_guard lock(m_Lock);
+    m_Messages.push_back(message);
+    m_Posted.notify_one();
+}
+
+bool MessageQueue::TakeFirst(MSG& message, const MessageFilter& filter, bool remove) {
+    const auto found =
+        std::find_if(m_Messages.begin(), m_Messages.end(),
+                     [&filter](const MSG& waiting) { return filter.Takes(waiting); });
+    if (found == m_Messages.end()) {
+        return false;
+    }
+    message = *found;
+    if (remove) {
+        m_Messages.erase(found);
+    }
+    return true;
+}
+
+bool MessageQueue::Peek(MSG& message, const MessageFilter& filter, bool remove) {
+    const std::lock_guard lock(m_Lock);
+    return TakeFirst(message, filter, remove);
+}
+
+void MessageQueue::Get(MSG& message, const MessageFilter& filter) {
+    std::unique_lock lock(m_Lock);
+    m_Posted.wait(lock, [&] { return TakeFirst(message, filter, true); });
+}
+
+void MessageQueue::Drop(HWND window) {
+    const std::lock_guard lock(m_Lock);
+    std::erase_if(m_Messages, [window](const MSG& message) { return message.hwnd == window; });
+}
+
+}  // namespace PLATFORM

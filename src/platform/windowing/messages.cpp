@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/platform/windowing/c_wnd.h>
+#include <marlin/platform/windowing/detail/message_targets.h>
+#include <marlin/platform/windowing/messages.h>
+
+using PLATFORM::FindMessageTarget;
+using PLATFORM::MessageQueue;
+using PLATFORM::MessageTarget;
+
+int PostMessageA(HWND window, unsigned int message, WPARAM wParam, LPARAM lParam) {
+    const MessageTarget target = FindMessageTarget(window);
+    if (!target.Window) {
+        return 0;
+    }
+    target.Queue->Post({window, message, wParam, lParam});
+    return 1;
+}
+
+LRESULT SendMessageA(HWND window, unsigned int message, WPARAM wParam, LPARAM lParam) {
+    const MessageTarget target = FindMessageTarget(window);
+    return target.IsOfThisThread() ? target.Window->WindowProc(message, wParam, lParam) : 0;
+}
+
+int PeekMessageA(MSG* message, HWND window, unsigned int first, unsigned int last,
+                 unsigned int remove) {
+    const bool found = message && MessageQueue::OfThisThread()->Peek(
+                                      *message, {window, first, last}, (remove & PM_REMOVE) != 0);
+    return found ? 1 : 0;
+}
+
+int GetMessageA(MSG* message, HWND window, unsigned int first, unsigned int last) {
+    if (!message || (window && !FindMessageTarget(window).IsOfThisThread())) {
+        return -1;
+    }
+    MessageQueue::OfThisThread()->Get(*message, {window, first, last});
+    return 1;
+}
+
+LRESULT DispatchMessageA(const MSG* message) {
+    return message ? SendMessageA(message->hwnd, message->message, message->wParam, message->lParam)
+                   : 0;
+}

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/runtime/plot_error_reporter.h>
+
+[[gnu::init_priority(101)]] PlotErrorReporter PlotErrorReporter::m_GlobalReporter;
+
+std::vector<std::string> PlotErrorReporter::GetContexts() const {
+    std::vector<std::string> contexts;
+    contexts.reserve(m_Errors.size());
+    for (const auto& entry : m_Errors) {
+        contexts.push_back(entry.first);
+    }
+    return contexts;
+}

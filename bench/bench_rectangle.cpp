@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A thousand rectangles are moved by a transformation; a thousand points are tried against one
+// A hundred rectangles are moved by a transformation; a thousand points are tried against one
 // rectangle, or each against one of its own.
 #include <marlin/geometry/rectangle.h>
 #include <marlin/geometry/transformation_2d.h>
@@ -12,14 +12,15 @@
 namespace {
 
 constexpr std::size_t count = 1'000;
+constexpr std::size_t movedCount = 100;
 
 using Point = GTL::Point2D<double>;
 using Rect = GTL::Rectangle<Point>;
 using Corners = Eigen::Matrix<double, 2, 4>;
 
-std::vector<Rect> Rectangles() {
+std::vector<Rect> Rectangles(std::size_t wanted = count) {
     BENCH::Numbers numbers;
-    std::vector<Rect> rectangles(count);
+    std::vector<Rect> rectangles(wanted);
     for (Rect& rect : rectangles) {
         rect.points[0] = {100 * numbers.Fraction(), 100 * numbers.Fraction()};
         rect.width = 10 + 40 * numbers.Fraction();
@@ -62,7 +63,7 @@ Eigen::Affine2d EigenTurn() {
 
 std::vector<Corners> EigenCorners() {
     std::vector<Corners> all;
-    for (const Rect& rect : Rectangles()) {
+    for (const Rect& rect : Rectangles(movedCount)) {
         Corners corners;
         for (int i = 0; i < 4; ++i) {
             corners.col(i) << rect.Point(i).x, rect.Point(i).y;
@@ -73,7 +74,7 @@ std::vector<Corners> EigenCorners() {
 }
 
 struct OurCorners {
-    std::vector<Rect> Rectangles = ::Rectangles();
+    std::vector<Rect> Rectangles = ::Rectangles(movedCount);
     GTL::Transformation2D<Point> Transformation = Turn();
 };
 

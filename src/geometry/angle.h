@@ -23,8 +23,9 @@ public:
     /// In degrees.
     [[nodiscard]] constexpr double Get() const noexcept { return m_Degrees; }
     [[nodiscard]] constexpr double Rad() const noexcept { return m_Degrees * MATH::DTR; }
-    [[nodiscard]] double Sin() const noexcept { return std::sin(Rad()); }
-    [[nodiscard]] double Cos() const noexcept { return std::cos(Rad()); }
+    // Most texts and boxes are not turned, and these are the exact values.
+    [[nodiscard]] double Sin() const noexcept { return m_Degrees == 0 ? 0 : std::sin(Rad()); }
+    [[nodiscard]] double Cos() const noexcept { return m_Degrees == 0 ? 1 : std::cos(Rad()); }
     [[nodiscard]] double Tan() const noexcept { return std::tan(Rad()); }
     /// 1 for [0, 90) to 4 for [270, 360), 5 for 360 itself; 0 for what is not a number.
     [[nodiscard]] int Quadrant() const noexcept;

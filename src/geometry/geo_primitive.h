@@ -2,11 +2,13 @@
 #pragma once
 
 #include <marlin/geometry/geo_primitive_base.h>
+#include <marlin/geometry/transformation_2d.h>
 #include <marlin/platform/export.h>
 
 #include <array>
 #include <cassert>
 #include <cstddef>
+#include <typeinfo>
 
 namespace GTL {
 
@@ -24,9 +26,16 @@ public:
     P& SetPoint(int index, const P& point) override { return points[Checked(index)] = point; }
     [[nodiscard]] int NumPoints() const override { return N; }
     void Transform(const Transformation<P>& transformation) override {
-        for (P& point : points) {
-            transformation.Apply(point);
+        // The usual kind is called once for all points, not through each of them.
+        if constexpr (PlanePoint<P>) {
+            if (typeid(transformation) == typeid(Transformation2D<P>)) {
+                // A copy, which no point can be a part of, stays in registers.
+                const auto own = static_cast<const Transformation2D<P>&>(transformation);
+                ApplyToAll(own);
+                return;
+            }
         }
+        ApplyToAll(transformation);
     }
     void UpdateExtents(Extents3D<double>& extents) const override {
         for (const P& point : points) {
@@ -35,6 +44,12 @@ public:
     }
 
 private:
+    template <class Kind>
+    void ApplyToAll(const Kind& transformation) {
+        for (P& point : points) {
+            transformation.Apply(point);
+        }
+    }
     [[nodiscard]] static std::size_t Checked(int index) noexcept {
         assert(index >= 0 && index < N);
         return static_cast<std::size_t>(index);

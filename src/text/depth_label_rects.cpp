@@ -138,22 +138,26 @@ void TextRectComp::OffsetLabels(const DepthLabelInfo& dli, Rect& integers, Rect&
 
 std::pair<TextRectComp::LabelPart, TextRectComp::LabelPart> TextRectComp::operator()(
     const DepthLabelInfo& dli, double depth) {
-    const std::string number = NumberText(dli, depth);
-    const std::size_t split = SplitPoint(dli, number);
-    const bool isSplit = split != std::string::npos;
-    const std::string integerText =
-        number.substr(0, isSplit && KeepsPoint(dli) ? split + 1 : split);
-    Rect integers = RectOf(dli, integerText);
-    Rect decimals;
-    if (isSplit) {
-        decimals =
-            IsMerged(dli)
-                ? DecimalsAtFullSize(dli, integers, std::string_view(number).substr(split))
-                : DecimalsSetApart(dli, integers, std::string_view(number).substr(split + 1));
+    std::pair<LabelPart, LabelPart> label;
+    auto& [integers, integerText] = label.first;
+    auto& [decimals, decimalText] = label.second;
+    integerText = NumberText(dli, depth);
+    const std::size_t split = SplitPoint(dli, integerText);
+    const std::string_view number = integerText;
+    if (IsMerged(dli)) {
+        integers = RectOf(dli, number.substr(0, split));
+        if (split != std::string::npos) {
+            decimals = DecimalsAtFullSize(dli, integers, number.substr(split));
+        }
+    } else if (split == std::string::npos) {
+        integers = RectOf(dli, number);
+        decimalText = " ";
+    } else {
+        decimalText = number.substr(split + 1);
+        integerText.resize(KeepsPoint(dli) ? split + 1 : split);
+        integers = RectOf(dli, integerText);
+        decimals = DecimalsSetApart(dli, integers, decimalText);
     }
     OffsetLabels(dli, integers, decimals);
-    if (IsMerged(dli)) {
-        return {{integers, number}, {decimals, ""}};
-    }
-    return {{integers, integerText}, {decimals, isSplit ? number.substr(split + 1) : " "}};
+    return label;
 }

@@ -46,15 +46,26 @@ const OUTLINETEXTMETRICA& TextHeightFactComp::GetMetrics(const TextInfo& ti) {
     return found ? found->second : noMetrics;
 }
 
-bool TextHeightFactComp::Latest::IsOf(const TextInfo& ti) const noexcept {
-    return Entry && Entry->first.Size() == ti.Size() && Entry->first.Style() == ti.Style() &&
-           Entry->first.Font() == ti.Font();
+const TextHeightFactComp::Measures* TextHeightFactComp::Latest::Find(
+    const TextInfo& ti) const noexcept {
+    for (const Entries::value_type* entry : m_Entries) {
+        if (entry && entry->first.Size() == ti.Size() && entry->first.Style() == ti.Style() &&
+            entry->first.Font() == ti.Font()) {
+            return &entry->second;
+        }
+    }
+    return nullptr;
+}
+
+void TextHeightFactComp::Latest::Add(const Entries::value_type& entry) noexcept {
+    m_Entries[m_Oldest] = &entry;
+    m_Oldest = 1 - m_Oldest;
 }
 
 // A size that is not a number has no place in the order of the entries.
 const TextHeightFactComp::Measures* TextHeightFactComp::Find(const TextInfo& ti) {
-    if (m_Latest.IsOf(ti)) {
-        return &m_Latest.Entry->second;
+    if (const Measures* known = m_Latest.Find(ti)) {
+        return known;
     }
     if (!IsUsable(ti.Size())) {
         return nullptr;
@@ -66,7 +77,7 @@ const TextHeightFactComp::Measures* TextHeightFactComp::Find(const TextInfo& ti)
     if (found == m_Entries.end()) {
         return nullptr;
     }
-    m_Latest.Entry = &*found;
+    m_Latest.Add(*found);
     return &found->second;
 }
 

@@ -5,6 +5,8 @@
 #include <marlin/platform/export.h>
 #include <marlin/records/text_info.h>
 
+#include <array>
+#include <cstddef>
 #include <map>
 #include <utility>
 
@@ -29,18 +31,25 @@ private:
     using Measures = std::pair<float, OUTLINETEXTMETRICA>;
     using Entries = std::map<TextInfo, Measures>;
 
-    /// The entry found last, which most often is the next one too. A copy has other entries.
-    struct Latest {
-        const Entries::value_type* Entry = nullptr;
-
+    /// The entries looked up last, which most often are the next ones too: the parts of a depth
+    /// label are in two sizes. A copy has other entries.
+    class Latest {
+    public:
         Latest() noexcept = default;
         Latest(const Latest&) noexcept {}
         Latest& operator=(const Latest&) noexcept {
-            Entry = nullptr;
+            m_Entries = {};
             return *this;
         }
         ~Latest() = default;
-        [[nodiscard]] bool IsOf(const TextInfo& ti) const noexcept;
+
+        /// Null when the style's is not among them.
+        [[nodiscard]] const Measures* Find(const TextInfo& ti) const noexcept;
+        void Add(const Entries::value_type& entry) noexcept;
+
+    private:
+        std::array<const Entries::value_type*, 2> m_Entries{};
+        std::size_t m_Oldest = 0;
     };
 
     TextHeightFactComp() = default;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/gdi/gdi_scale_factor.h>
-#include <marlin/platform/drawing/fonts.h>
-#include <marlin/text/detail/measuring_context.h>
+#include <marlin/platform/drawing/font_types.h>
 #include <marlin/text/detail/text_measure.h>
 #include <marlin/text/text_height_fact_comp.h>
 
@@ -19,29 +18,23 @@ int FontHeight(const TextInfo& ti) {
     return std::fabs(height) < std::numeric_limits<int>::max() ? static_cast<int>(height) : 0;
 }
 
-}  // namespace
+// Names of the platform end at a null character.
+std::string_view NameOf(const TextInfo& ti) noexcept {
+    return ti.Font().c_str();
+}
 
-TextMeasure::TextMeasure(const TextInfo& ti) {
-    const int height = FontHeight(ti);
+PLATFORM::LineMeasure LinesOf(const TextInfo& ti, int height) {
     if (height == 0) {
-        return;
+        return {};
     }
     const auto style = static_cast<unsigned int>(ti.Style());
-    PrepareMeasuringContext(m_DC);
-    if (!m_Font.CreateFontA(height, 0, 0, 0, (style & TextInfo::BOLD) != 0 ? FW_BOLD : FW_NORMAL,
-                            style & TextInfo::ITALIC, style & TextInfo::UNDERLINE, 0, ANSI_CHARSET,
-                            OUT_TT_ONLY_PRECIS, CLIP_LH_ANGLES, PROOF_QUALITY, DEFAULT_PITCH,
-                            ti.Font().c_str())) {
-        return;
-    }
-    m_Selected.emplace(&m_DC, m_Font);
-    m_Height = height;
+    return {height, (style & TextInfo::BOLD) != 0 ? FW_BOLD : FW_NORMAL,
+            (style & TextInfo::ITALIC) != 0, NameOf(ti)};
 }
 
-SIZE TextMeasure::Extent(std::string_view text) const noexcept {
-    SIZE size{};
-    ::GetTextExtentPoint32A(m_DC.m_hDC, text.data(), static_cast<int>(text.size()), &size);
-    return size;
-}
+}  // namespace
+
+TextMeasure::TextMeasure(const TextInfo& ti)
+    : m_Height(FontHeight(ti)), m_Lines(LinesOf(ti, m_Height)) {}
 
 }  // namespace MARLINSUITE

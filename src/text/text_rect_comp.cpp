@@ -110,27 +110,26 @@ TextRectComp::Extents TextRectComp::GetTextExtents(const TextInfo& ti, std::stri
     if (ti.MultiLine()) {
         return GetMTextExtents(ti, text);
     }
-    m_Lines.clear();
-    TextInfo sized;
-    const TextInfo* style = &ti;
-    if (small) {
-        sized = ti;
-        sized.SetSize(static_cast<float>(static_cast<double>(ti.Size()) * (2.0 / 3.0)));
-        style = &sized;
+    if (!small) {
+        return GetLineExtents(ti, text);
     }
-    const MARLINSUITE::TextMeasure measure(*style);
-    if (!measure.IsGood()) {
-        return {};
-    }
-    const SIZE size = measure.Extent(text);
+    TextInfo sized = ti;
+    sized.SetSize(static_cast<float>(static_cast<double>(ti.Size()) * (2.0 / 3.0)));
+    return GetLineExtents(sized, text);
+}
+
+TextRectComp::Extents TextRectComp::GetLineExtents(const TextInfo& ti, std::string_view text) {
+    const MARLINSUITE::TextMeasure measure(ti);
+    const SIZE size = measure.IsGood() ? measure.Extent(text) : SIZE{};
     if (size.cy == 0) {
+        m_Lines.clear();
         return {};
     }
+    m_Lines.resize(1);
+    m_Lines.front() = text;
     const double ratio = static_cast<double>(measure.Height()) / size.cy;
-    const long long height =
-        size.cy - (IsOnBaseline(ti) ? BelowBaseline(*style, measure.Height()) : 0);
+    const long long height = size.cy - (IsOnBaseline(ti) ? BelowBaseline(ti, measure.Height()) : 0);
     const double scale = GDIScaleFactor::Get();
-    m_Lines.emplace_back(text);
     m_LineHeight = static_cast<double>(height) / scale;
     return {size.cx / scale * ratio, m_LineHeight * ratio};
 }

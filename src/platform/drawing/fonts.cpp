@@ -47,6 +47,6 @@ BOOL GetTextExtentPoint32A(HDC dc, const char* text, int count, SIZE* size) noex
     const FontFace& face = *font.Entry->Face;
     const FontScale scale = ScaleOf(*font.Font, face.Metrics(), context->Map);
     const std::string_view bytes(text, static_cast<std::size_t>(count));
-    *size = {scale.Round(static_cast<double>(face.Advance(bytes))), scale.Cell};
+    *size = ExtentOf(face, scale, bytes);
     return 1;
 }

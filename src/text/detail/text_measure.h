@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <marlin/gdi/gdi_selector.h>
-#include <marlin/platform/drawing/c_dc.h>
-#include <marlin/platform/drawing/c_font.h>
+#include <marlin/platform/drawing/detail/line_measure.h>
 #include <marlin/platform/drawing/size.h>
 #include <marlin/records/text_info.h>
 
-#include <optional>
 #include <string_view>
 
 namespace MARLINSUITE {
 
-/// Measures texts in one style, with a context and a font of its own, in logical units.
+/// Measures texts in one style, in logical units, as in a measuring context that holds its font.
 class TextMeasure {
 public:
     /// The style carries the size. Not good when it cannot be measured.
@@ -22,13 +19,11 @@ public:
     /// That the font was asked for.
     [[nodiscard]] int Height() const noexcept { return m_Height; }
     /// Width and height of a line of that text.
-    [[nodiscard]] SIZE Extent(std::string_view text) const noexcept;
+    [[nodiscard]] SIZE Extent(std::string_view text) const noexcept { return m_Lines.Extent(text); }
 
 private:
-    CDC m_DC;
-    CFont m_Font;
-    std::optional<GDISelector> m_Selected;
-    int m_Height = 0;
+    int m_Height;
+    PLATFORM::LineMeasure m_Lines;
 };
 
 }  // namespace MARLINSUITE

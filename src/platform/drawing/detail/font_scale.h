@@ -4,6 +4,9 @@
 #include <marlin/platform/drawing/detail/drawing_objects.h>
 #include <marlin/platform/drawing/detail/font_store.h>
 #include <marlin/platform/drawing/detail/rounding.h>
+#include <marlin/platform/drawing/size.h>
+
+#include <string_view>
 
 namespace PLATFORM {
 
@@ -31,5 +34,10 @@ struct SelectedFont {
 [[nodiscard]] SelectedFont FontOf(const ContextRecord& context);
 [[nodiscard]] FontScale ScaleOf(const FontRecord& font, const FaceMetrics& face,
                                 const Mapping& mapping) noexcept;
+/// The width and the height of a line.
+[[nodiscard]] inline SIZE ExtentOf(const FontFace& face, const FontScale& scale,
+                                   std::string_view text) noexcept {
+    return {scale.Round(static_cast<double>(face.Advance(text))), scale.Cell};
+}
 
 }  // namespace PLATFORM

@@ -26,16 +26,15 @@ public:
     P& SetPoint(int index, const P& point) override { return points[Checked(index)] = point; }
     [[nodiscard]] int NumPoints() const override { return N; }
     void Transform(const Transformation<P>& transformation) override {
-        // The usual kind is called once for all points, not through each of them.
+        // The usual kind is called once for all points, not through each of them. Where another
+        // module has the same type under another address, the points are moved one by one.
         if constexpr (PlanePoint<P>) {
-            if (typeid(transformation) == typeid(Transformation2D<P>)) {
-                // A copy, which no point can be a part of, stays in registers.
-                const auto own = static_cast<const Transformation2D<P>&>(transformation);
-                ApplyToAll(own);
+            if (&typeid(transformation) == &typeid(Transformation2D<P>)) [[likely]] {
+                static_cast<const Transformation2D<P>&>(transformation).ApplyToAll(points);
                 return;
             }
         }
-        ApplyToAll(transformation);
+        ApplyToEach(transformation);
     }
     void UpdateExtents(Extents3D<double>& extents) const override {
         for (const P& point : points) {
@@ -44,8 +43,7 @@ public:
     }
 
 private:
-    template <class Kind>
-    void ApplyToAll(const Kind& transformation) {
+    [[gnu::noinline]] void ApplyToEach(const Transformation<P>& transformation) {
         for (P& point : points) {
             transformation.Apply(point);
         }

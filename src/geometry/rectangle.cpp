@@ -49,7 +49,8 @@ CLS::CLASSIFICATION Rectangle<P>::Classify(const P& point) const noexcept {
         if (std::fabs(way.x) > farthest || std::fabs(way.y) > farthest) {
             return CLS::OUTSIDE;
         }
-        turn = {rotation.Get(), rotation.Sin(), rotation.Cos()};
+        const double angle = rotation.Rad();  // written so, both come from one call
+        turn = {rotation.Get(), std::sin(angle), std::cos(angle)};
     }
     const double dx = turn.cosine * way.x - turn.sine * way.y;
     const double dy = turn.sine * way.x + turn.cosine * way.y;

@@ -7,6 +7,7 @@
 #include <marlin/platform/export.h>
 
 #include <array>
+#include <span>
 
 namespace GTL {
 
@@ -16,23 +17,34 @@ namespace GTL {
 template <PlanePoint P>
 class MARLIN_API Transformation2D final : public Transformation<P> {
 public:
-    void Apply(P& point) const noexcept override {
-        const double x = point.x;
-        const double y = point.y;
-        point.x = m_Matrix[0][0] * x + m_Matrix[0][1] * y + m_Matrix[0][2];
-        point.y = m_Matrix[1][0] * x + m_Matrix[1][1] * y + m_Matrix[1][2];
+    void Apply(P& point) const noexcept override { Move(point, m_Columns); }
+    void ApplyToAll(std::span<P> points) const noexcept {
+        // A copy, which no point can be a part of, stays in registers.
+        const Columns columns = m_Columns;
+        for (P& point : points) {
+            Move(point, columns);
+        }
     }
 
     void Translate(double dx, double dy) noexcept {
-        m_Matrix[0][2] += dx;
-        m_Matrix[1][2] += dy;
+        m_Columns[2][0] += dx;
+        m_Columns[2][1] += dy;
     }
     /// About the origin, clockwise when y points up: 90 degrees turn (1, 0) to (0, -1).
     void Rotate(const Angle& angle) noexcept;
 
 private:
-    // The last row stays (0, 0, 1), which every composition relies on.
-    std::array<std::array<double, 3>, 3> m_Matrix{{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}};
+    // By columns, so that x and y are computed side by side. The last row is always (0, 0, 1).
+    using Columns = std::array<std::array<double, 2>, 3>;
+
+    static void Move(P& point, const Columns& columns) noexcept {
+        const double x = point.x;
+        const double y = point.y;
+        point.x = columns[0][0] * x + columns[1][0] * y + columns[2][0];
+        point.y = columns[0][1] * x + columns[1][1] * y + columns[2][1];
+    }
+
+    Columns m_Columns{{{1, 0}, {0, 1}, {0, 0}}};
 };
 
 extern template class Transformation2D<Point2D<double>>;

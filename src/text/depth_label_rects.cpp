@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/number_text.h>
-#include <marlin/geometry/transformation_2d.h>
 #include <marlin/text/text_height_fact_comp.h>
 #include <marlin/text/text_rect_comp.h>
 
@@ -49,18 +48,18 @@ std::string NumberText(const DepthLabelInfo& dli, double depth) {
 // Where the number is split; npos when it is measured in one piece.
 std::size_t SplitPoint(const DepthLabelInfo& dli, const std::string& number) {
     const bool inOnePiece = IsMerged(dli) && dli.Placement() == DepthLabelInfo::PLACEMENT_2;
-    return inOnePiece ? std::string::npos : number.find('.');
+    return inOnePiece ? std::string::npos : number.rfind('.');  // which is near the end
 }
 
 // The rectangle's way up by the font's descent; none on the baseline, whose box ends there.
 Vector DescentShift(const DepthLabelInfo& dli, const Rect& integers) {
     const Vector up = integers.Point(2) - integers.Point(1);
     const double length = std::hypot(up.x, up.y);
-    const TEXTMETRICA& tm = TextHeightFactComp::Get().GetMetrics(dli).otmTextMetrics;
     if (dli.Justification() >= TextInfo::BASELINE_LEFT &&
         dli.Justification() <= TextInfo::BASELINE_RIGHT) {
         return {};
     }
+    const TEXTMETRICA& tm = TextHeightFactComp::Get().GetMetrics(dli).otmTextMetrics;
     if (length == 0 || tm.tmHeight == 0) {
         return {};
     }
@@ -94,6 +93,12 @@ Vector LabelOffset(const DepthLabelInfo& dli, const Rect& integers, const Rect& 
     return DescentShift(dli, integers);
 }
 
+void Shift(Rect& rect, const Vector& back) noexcept {
+    for (Point& corner : rect.points) {
+        corner = {corner.x - back.x, corner.y - back.y};
+    }
+}
+
 Rect Placed(const Point& corner, const Vector& size, const Angle& rotation) {
     Rect rect;
     rect.points[0] = corner;
@@ -124,11 +129,9 @@ TextRectComp::Rect TextRectComp::DecimalsSetApart(const DepthLabelInfo& dli, con
 
 void TextRectComp::OffsetLabels(const DepthLabelInfo& dli, Rect& integers, Rect& decimals) {
     const Vector offset = LabelOffset(dli, integers, decimals);
-    GTL::Transformation2D<Point> shift;
-    shift.Translate(-offset.x, -offset.y);
-    integers.Transform(shift);
+    Shift(integers, offset);
     if (!IsMerged(dli)) {
-        decimals.Transform(shift);
+        Shift(decimals, offset);
         return;
     }
     integers.width += decimals.width;

@@ -44,8 +44,12 @@ bool IsOnBaseline(const TextInfo& ti) noexcept {
 }
 
 // What a box on the baseline is lower than the character cell, for a font of that height.
-long long BelowBaseline(const TextInfo& ti, int height) {
-    const OUTLINETEXTMETRICA& metrics = TextHeightFactComp::Get().GetMetrics(ti);
+long long HiddenHeight(const TextInfo& ti, float size, int height) {
+    if (!IsOnBaseline(ti)) {
+        return 0;
+    }
+    const OUTLINETEXTMETRICA& metrics =
+        TextHeightFactComp::Get().GetMetrics(MARLINSUITE::Sized(ti, size));
     const TEXTMETRICA& tm = metrics.otmTextMetrics;
     if (tm.tmHeight == 0) {
         return 0;
@@ -110,16 +114,13 @@ TextRectComp::Extents TextRectComp::GetTextExtents(const TextInfo& ti, std::stri
     if (ti.MultiLine()) {
         return GetMTextExtents(ti, text);
     }
-    if (!small) {
-        return GetLineExtents(ti, text);
-    }
-    TextInfo sized = ti;
-    sized.SetSize(static_cast<float>(static_cast<double>(ti.Size()) * (2.0 / 3.0)));
-    return GetLineExtents(sized, text);
+    const double share = small ? 2.0 / 3.0 : 1.0;
+    return GetLineExtents(ti, static_cast<float>(ti.Size() * share), text);
 }
 
-TextRectComp::Extents TextRectComp::GetLineExtents(const TextInfo& ti, std::string_view text) {
-    const MARLINSUITE::TextMeasure measure(ti);
+TextRectComp::Extents TextRectComp::GetLineExtents(const TextInfo& ti, float fontSize,
+                                                   std::string_view text) {
+    const auto measure = MARLINSUITE::TextMeasure::Of(ti, fontSize);
     const SIZE size = measure.IsGood() ? measure.Extent(text) : SIZE{};
     if (size.cy == 0) {
         m_Lines.clear();
@@ -128,7 +129,7 @@ TextRectComp::Extents TextRectComp::GetLineExtents(const TextInfo& ti, std::stri
     m_Lines.resize(1);
     m_Lines.front() = text;
     const double ratio = static_cast<double>(measure.Height()) / size.cy;
-    const long long height = size.cy - (IsOnBaseline(ti) ? BelowBaseline(ti, measure.Height()) : 0);
+    const long long height = size.cy - HiddenHeight(ti, fontSize, measure.Height());
     const double scale = GDIScaleFactor::Get();
     m_LineHeight = static_cast<double>(height) / scale;
     return {size.cx / scale * ratio, m_LineHeight * ratio};
@@ -136,7 +137,7 @@ TextRectComp::Extents TextRectComp::GetLineExtents(const TextInfo& ti, std::stri
 
 TextRectComp::Extents TextRectComp::GetMTextExtents(const TextInfo& ti, std::string_view text) {
     m_Lines.clear();
-    const MARLINSUITE::TextMeasure measure(ti);
+    const auto measure = MARLINSUITE::TextMeasure::Of(ti, ti.Size());
     if (!measure.IsGood()) {
         return {};
     }

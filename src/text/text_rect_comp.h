@@ -62,7 +62,7 @@ private:
 
     /// Width and height; `small` measures a single line at two thirds of the size.
     Extents GetTextExtents(const TextInfo& ti, std::string_view text, bool small);
-    Extents GetLineExtents(const TextInfo& ti, std::string_view text);
+    Extents GetLineExtents(const TextInfo& ti, float fontSize, std::string_view text);
     Extents GetMTextExtents(const TextInfo& ti, std::string_view text);
     Rect RectOf(const TextInfo& ti, std::string_view text);
 

@@ -85,14 +85,17 @@ const FontEntry* MakeEntry(FontWish wish, std::size_t bucket) {
     return Held().Entries.back().get();
 }
 
-void Forget() noexcept {
+}  // namespace
+
+constinit std::atomic<std::size_t> FontStore::m_Edition{0};
+
+void FontStore::Forget() noexcept {
     for (auto& bucket : buckets) {
         bucket.store(nullptr, std::memory_order_release);
     }
     Held().Faces.clear();
+    m_Edition.fetch_add(1, std::memory_order_release);
 }
-
-}  // namespace
 
 const FontEntry* FontStore::Find(std::string_view face, int weight, bool italic,
                                  bool outlineFirst) {

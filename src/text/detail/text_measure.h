@@ -9,11 +9,14 @@
 
 namespace MARLINSUITE {
 
+/// The style at another size.
+[[nodiscard]] TextInfo Sized(const TextInfo& ti, float size);
+
 /// Measures texts in one style, in logical units, as in a measuring context that holds its font.
 class TextMeasure {
 public:
-    /// The style carries the size. Not good when it cannot be measured.
-    explicit TextMeasure(const TextInfo& ti);
+    /// In a style at a size. Not good when it cannot be measured; the next call tries again.
+    [[nodiscard]] static TextMeasure Of(const TextInfo& ti, float size);
 
     [[nodiscard]] bool IsGood() const noexcept { return m_Height != 0; }
     /// That the font was asked for.
@@ -22,7 +25,12 @@ public:
     [[nodiscard]] SIZE Extent(std::string_view text) const noexcept { return m_Lines.Extent(text); }
 
 private:
-    int m_Height;
+    struct Known;
+
+    constexpr TextMeasure() noexcept = default;
+    explicit TextMeasure(const TextInfo& ti);
+
+    int m_Height = 0;
     PLATFORM::LineMeasure m_Lines;
 };
 

@@ -4,6 +4,7 @@
 #include <marlin/platform/drawing/detail/font_face.h>
 #include <marlin/platform/drawing/detail/font_query.h>
 
+#include <atomic>
 #include <cstddef>
 #include <mutex>
 #include <string_view>
@@ -29,9 +30,19 @@ public:
     static void SetFolders(const std::vector<std::string>& folders);
     static void UseSystemFonts();
     [[nodiscard]] static FontCosts Costs() noexcept;
+    /// Another number once the fonts to choose from are others; what was found before is then
+    /// asked for anew.
+    [[nodiscard]] static std::size_t Edition() noexcept {
+        return m_Edition.load(std::memory_order_acquire);
+    }
 
     /// Held while glyphs are read.
     [[nodiscard]] static std::mutex& Lock() noexcept;
+
+private:
+    static void Forget() noexcept;
+
+    static constinit std::atomic<std::size_t> m_Edition;
 };
 
 }  // namespace PLATFORM

@@ -13,10 +13,11 @@ namespace PLATFORM {
 /// made. The sizes of a font that cannot be measured are 0.
 class LineMeasure {
 public:
-    LineMeasure() noexcept = default;
+    constexpr LineMeasure() noexcept = default;
     /// Of an outline font, asked for as in `CreateFontA`; the height is not 0.
     LineMeasure(int height, int weight, bool italic, std::string_view faceName);
 
+    [[nodiscard]] bool IsGood() const noexcept { return m_Face != nullptr; }
     [[nodiscard]] SIZE Extent(std::string_view text) const noexcept {
         return m_Face ? ExtentOf(*m_Face, m_Scale, text) : SIZE{};
     }

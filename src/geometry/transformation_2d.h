@@ -17,26 +17,31 @@ namespace GTL {
 template <PlanePoint P>
 class MARLIN_API Transformation2D final : public Transformation<P> {
 public:
-    void Apply(P& point) const noexcept override { Move(point, m_Columns); }
+    void Apply(P& point) const noexcept override { Move(point, ByColumns()); }
     void ApplyToAll(std::span<P> points) const noexcept {
         // A copy, which no point can be a part of, stays in registers.
-        const Columns columns = m_Columns;
+        const Columns columns = ByColumns();
         for (P& point : points) {
             Move(point, columns);
         }
     }
 
     void Translate(double dx, double dy) noexcept {
-        m_Columns[2][0] += dx;
-        m_Columns[2][1] += dy;
+        m_Matrix[0][2] += dx;
+        m_Matrix[1][2] += dy;
     }
     /// About the origin, clockwise when y points up: 90 degrees turn (1, 0) to (0, -1).
     void Rotate(const Angle& angle) noexcept;
 
 private:
-    // By columns, so that x and y are computed side by side. The last row is always (0, 0, 1).
+    // So that x and y are computed side by side.
     using Columns = std::array<std::array<double, 2>, 3>;
 
+    [[nodiscard]] Columns ByColumns() const noexcept {
+        return {{{m_Matrix[0][0], m_Matrix[1][0]},
+                 {m_Matrix[0][1], m_Matrix[1][1]},
+                 {m_Matrix[0][2], m_Matrix[1][2]}}};
+    }
     static void Move(P& point, const Columns& columns) noexcept {
         const double x = point.x;
         const double y = point.y;
@@ -44,7 +49,8 @@ private:
         point.y = columns[0][1] * x + columns[1][1] * y + columns[2][1];
     }
 
-    Columns m_Columns{{{1, 0}, {0, 1}, {0, 0}}};
+    // The last row stays (0, 0, 1), which every composition relies on.
+    std::array<std::array<double, 3>, 3> m_Matrix{{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}};
 };
 
 extern template class Transformation2D<Point2D<double>>;

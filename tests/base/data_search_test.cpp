@@ -19,12 +19,6 @@ protected:
                  ("relative:" + m_Folder.File("one") + "::" + m_Folder.File("two")).c_str(), 1);
     }
 
-    static std::string FilePath() {
-        CString folder("kept");
-        EXPECT_TRUE(DataSearch::GetDataSearch().GetFilePath(4, folder));
-        return std::string(folder);
-    }
-
     static std::string FullPath(const char* name) {
         CString path(name);
         EXPECT_TRUE(DataSearch::GetDataSearch().GetFullPath(23, path));
@@ -34,13 +28,19 @@ protected:
     const TemporaryFolder m_Folder;
 };
 
-TEST_F(DataSearchTest, WithoutAnyFolderTheFirstCandidateIsGiven) {
-    EXPECT_EQ(FilePath(), m_Folder.File("home/.local/share/marlin/contours"));
-    EXPECT_EQ(FullPath("Keywords"), m_Folder.File("home/.local/share/marlin/keywords/Keywords"));
+TEST_F(DataSearchTest, AFileThatIsNowhereIsGivenInTheFirstCandidate) {
+    EXPECT_EQ(FullPath("None"), m_Folder.File("home/.local/share/marlin/keywords/None"));
     ::setenv("XDG_DATA_HOME", m_Folder.File("data").c_str(), 1);
-    EXPECT_EQ(FilePath(), m_Folder.File("data/marlin/contours"));
+    EXPECT_EQ(FullPath("None"), m_Folder.File("data/marlin/keywords/None"));
     ::setenv("MARLIN_DATA_DIR", m_Folder.File("own").c_str(), 1);
-    EXPECT_EQ(FilePath(), m_Folder.File("own/contours"));
+    EXPECT_EQ(FullPath("None"), m_Folder.File("own/keywords/None"));
+}
+
+TEST_F(DataSearchTest, WithoutAFolderTheDataBesideTheLibraryIsFound) {
+    CString folder;
+    EXPECT_TRUE(DataSearch::GetDataSearch().GetFilePath(4, folder));
+    EXPECT_TRUE(std::filesystem::equivalent(std::string(folder),
+                                            MARLIN_SOURCE_DIR "/share/marlin/contours"));
 }
 
 TEST_F(DataSearchTest, TheFirstThatExistsIsTakenAtEachLookUp) {
@@ -60,7 +60,7 @@ TEST_F(DataSearchTest, AFolderWithoutTheFileIsPassedOver) {
 
 TEST_F(DataSearchTest, ARelativeDataFolderGivesAFullPath) {
     ::setenv("MARLIN_DATA_DIR", "own", 1);
-    EXPECT_EQ(FilePath(), (std::filesystem::current_path() / "own/contours").string());
+    EXPECT_EQ(FullPath("None"), (std::filesystem::current_path() / "own/keywords/None").string());
 }
 
 TEST_F(DataSearchTest, UnknownKindsAndEmptyNamesGiveNoPath) {

@@ -9,7 +9,10 @@ namespace {
 
 class ContourGenerationTest : public EditorTest {
 protected:
-    ContourGenerationTest() { ::setenv("MARLIN_DATA_DIR", m_Data.File("").c_str(), 1); }
+    ContourGenerationTest() {
+        std::filesystem::create_directory(m_Data.File("contours"));
+        ::setenv("MARLIN_DATA_DIR", m_Data.File("").c_str(), 1);
+    }
     ~ContourGenerationTest() override { ::unsetenv("MARLIN_DATA_DIR"); }
 
     const TemporaryFolder m_Data;

@@ -9,7 +9,10 @@ namespace {
 
 class ContourSavingTest : public EditorTest {
 protected:
-    ContourSavingTest() { ::setenv("MARLIN_DATA_DIR", m_Data.File("").c_str(), 1); }
+    ContourSavingTest() {
+        std::filesystem::create_directory(m_Data.File("contours"));
+        ::setenv("MARLIN_DATA_DIR", m_Data.File("").c_str(), 1);
+    }
     ~ContourSavingTest() override { ::unsetenv("MARLIN_DATA_DIR"); }
 
     const TemporaryFolder m_Data;

@@ -25,6 +25,7 @@ TEST(BadInput, EveryCommandNamesTheFileAndTheCause) {
     };
     const std::vector<std::pair<Program::Words, Program::Words>> commands = {
         {{"settings", "check"}, {}},
+        {{"settings", "show"}, {}},
         {{"settings", "seal"}, {}},
         {{"settings", "get"}, {"A", "k"}},
         {{"settings", "set"}, {"A", "k", "v"}},

@@ -100,6 +100,7 @@ TEST_F(ListKeywordsTest, AreFoundByNameAndPosition) {
 TEST_F(ListKeywordsTest, AreReadOnceATable) {
     CListKeywords early;
     CListKeywords unread = early;
+    Write("");
     EXPECT_EQ(early.GetListKeyword("n"), nullptr);
     Write("[n]\na\n");
     EXPECT_EQ(early.GetListKeyword("n"), nullptr);

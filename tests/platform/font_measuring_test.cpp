@@ -4,6 +4,7 @@
 
 #include <clocale>
 #include <cmath>
+#include <ostream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -21,6 +22,10 @@ struct Face {
     const char* Name;
     int Weight;
     bool Italic;
+
+    friend std::ostream& operator<<(std::ostream& stream, const Face& face) {
+        return stream << face.Name << ' ' << face.Weight << (face.Italic ? " italic" : "");
+    }
 };
 
 constexpr Face Faces[] = {{"Liberation Sans", 400, false},

@@ -37,10 +37,10 @@ TEST_P(ContourGenerationTest, ReplacesTheListByTheLevelsOfARange) {
 
 TEST_P(ContourGenerationTest, LeavesTheListEmptyForARangeThatIsNone) {
     const char* ranges[][3] = {{"10", "0", "1"}, {"5", "5", "1"}, {"0", "10", "0"}};
-    for (const auto& [lowest, highest, interval] : ranges) {
+    for (const auto& range : ranges) {
         const size_t before = Messages().size();
         EditThree([&](Screen& screen) {
-            ConfirmRange(lowest, highest, interval);
+            ConfirmRange(range[0], range[1], range[2]);
             screen.User.Click(CONTROL_RANGE);
             EXPECT_EQ(screen.Rows(), Texts());
         });

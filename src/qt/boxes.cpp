@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/platform/windowing/c_file_dialog.h>
+#include <marlin/platform/windowing/window_messages.h>
+#include <marlin/qt/detail/qt_text.h>
+#include <marlin/qt/window_system.h>
+
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace PLATFORM {
+
+namespace {
+
+QMessageBox::Icon IconOf(UINT type) noexcept {
+    switch (type & 0xF0U) {
+        case MB_ICONERROR:
+            return QMessageBox::Critical;
+        case MB_ICONQUESTION:
+            return QMessageBox::Question;
+        case MB_ICONEXCLAMATION:
+            return QMessageBox::Warning;
+        default:
+            return QMessageBox::NoIcon;
+    }
+}
+
+// "Description (*.ext)" a line, from pairs that end in null characters.
+QStringList FiltersOf(const std::string& pairs) {
+    QStringList filters;
+    const QStringList parts = QtText(pairs).split(QChar(0));
+    for (qsizetype i = 0; i + 1 < parts.size() && !parts[i].isEmpty(); i += 2) {
+        const bool namesPattern = parts[i].contains('(');
+        filters.append(namesPattern ? parts[i] : parts[i] + " (" + parts[i + 1] + ")");
+    }
+    return filters;
+}
+
+}  // namespace
+
+int QtWindowSystem::ShowMessage(HWND parent, const MessageRequest& request) {
+    QMessageBox box(Widget(parent));
+    box.setWindowTitle(QtText(request.Caption.View()));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QtText(request.Text.View()));
+    box.setIcon(IconOf(request.Type));
+    if ((request.Type & 0x0FU) != MB_YESNO) {
+        box.exec();
+        return IDOK;
+    }
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes ? IDYES : IDNO;
+}
+
+bool QtWindowSystem::ChooseFile(HWND parent, const FileRequest& request, CString& path) {
+    QFileDialog dialog(Widget(parent));
+    // The toolkit's own dialog looks and works the same everywhere.
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    const bool asksBefore = (request.Flags & OFN_OVERWRITEPROMPT) != 0;
+    dialog.setAcceptMode(request.Open && !asksBefore ? QFileDialog::AcceptOpen
+                                                     : QFileDialog::AcceptSave);
+    dialog.setNameFilters(FiltersOf(request.Filter));
+    dialog.setDefaultSuffix(QtText(request.DefaultExtension.View()));
+    dialog.setDirectory(QtPath(request.InitialFolder));
+    if (!request.FileName.IsEmpty()) {
+        dialog.selectFile(QtPath(request.FileName));
+    }
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return false;
+    }
+    path = WithExtension(PathOf(dialog.selectedFiles().first()), request.DefaultExtension);
+    return true;
+}
+
+bool QtWindowSystem::ChooseColor(HWND parent, const ColorRequest& request, COLORREF& color) {
+    QColorDialog dialog(QtColor(request.Color), Widget(parent));
+    dialog.setOption(QColorDialog::DontUseNativeDialog);
+    if (dialog.exec() != QDialog::Accepted) {
+        return false;
+    }
+    color = ColorOf(dialog.currentColor());
+    return true;
+}
+
+}  // namespace PLATFORM

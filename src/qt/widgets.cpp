@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/platform/windowing/window_messages.h>
+#include <marlin/qt/detail/events.h>
+#include <marlin/qt/detail/list_widget.h>
+#include <marlin/qt/detail/make.h>
+#include <marlin/qt/detail/owner_button.h>
+#include <marlin/qt/detail/qt_text.h>
+#include <marlin/qt/detail/spin_arrows.h>
+#include <marlin/qt/detail/widgets.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace PLATFORM {
+
+namespace {
+
+template <typename Button>
+Button* MakeButton(HWND handle, const QString& text) {
+    auto* button = Make<Button>();
+    button->setText(text);
+    QObject::connect(button, &QAbstractButton::clicked, button,
+                     [handle] { QtWindowSystem::Events::Command(handle, BN_CLICKED); });
+    return button;
+}
+
+QWidget* MakeOwnerButton(HWND handle, const QString& text) {
+    auto* const button = Make<OwnerButton>(handle);
+    button->setText(text);
+    button->setAutoDefault(false);
+    QObject::connect(button, &QAbstractButton::clicked, button,
+                     [handle] { QtWindowSystem::Events::Command(handle, BN_CLICKED); });
+    return button;
+}
+
+QWidget* MakePushButton(HWND handle, const QString& text, bool isDefault) {
+    auto* const button = MakeButton<QPushButton>(handle, text);
+    button->setDefault(isDefault);
+    return button;
+}
+
+// The text stands left of the box.
+QWidget* MakeCheckBox(HWND handle, const QString& text) {
+    auto* const box = MakeButton<QCheckBox>(handle, text);
+    box->setLayoutDirection(Qt::RightToLeft);
+    return box;
+}
+
+QWidget* MakeDropDown(const ControlTemplate& control) {
+    auto* const combo = Make<QComboBox>();
+    for (const std::string_view item : control.Items) {
+        combo->addItem(QtText(item));
+    }
+    combo->setCurrentIndex(-1);
+    return combo;
+}
+
+QWidget* MakeWidget(const ControlTemplate& control, HWND handle, QWidget* before) {
+    const QString text = QtText(control.Text);
+    switch (control.Kind) {
+        case CONTROL::LABEL:
+            return Make<QLabel>(text);
+        case CONTROL::EDIT:
+            return Make<QLineEdit>(text);
+        case CONTROL::PUSH_BUTTON:
+        case CONTROL::DEFAULT_BUTTON:
+            return MakePushButton(handle, text, control.Kind == CONTROL::DEFAULT_BUTTON);
+        case CONTROL::OWNER_BUTTON:
+            return MakeOwnerButton(handle, text);
+        case CONTROL::CHECK_BOX:
+            return MakeCheckBox(handle, text);
+        case CONTROL::DROP_DOWN_LIST:
+            return MakeDropDown(control);
+        case CONTROL::SPIN:
+            return Make<SpinArrows>(qobject_cast<QLineEdit*>(before));
+        case CONTROL::REPORT_LIST:
+            return Make<ListWidget>(handle);
+    }
+    return Make<QWidget>();
+}
+
+// Without the mark of the mnemonic and the colon.
+QString Spoken(std::string_view text) {
+    QString spoken = QtText(text);
+    spoken.remove('&');
+    return spoken.endsWith(':') ? spoken.chopped(1) : spoken;
+}
+
+QString SpokenName(const ControlTemplate& control, const ControlTemplate* before) {
+    if (!control.SpokenName.empty()) {
+        return QtText(control.SpokenName);
+    }
+    const bool isNamed = control.Text.empty() && before && before->Kind == CONTROL::LABEL;
+    return Spoken(isNamed ? before->Text : control.Text);
+}
+
+void Name(const DialogTemplate& form, std::span<QWidget* const> widgets) {
+    for (std::size_t i = 0; i < widgets.size(); ++i) {
+        const ControlTemplate* const before = i > 0 ? &form.Controls[i - 1] : nullptr;
+        widgets[i]->setAccessibleName(SpokenName(form.Controls[i], before));
+        auto* const label = i > 0 ? qobject_cast<QLabel*>(widgets[i - 1]) : nullptr;
+        if (label && widgets[i]->focusPolicy() != Qt::NoFocus) {
+            label->setBuddy(widgets[i]);
+        }
+    }
+}
+
+void SetTabOrder(std::span<QWidget* const> widgets) {
+    QWidget* before = nullptr;
+    for (QWidget* const widget : widgets) {
+        if (widget->focusPolicy() == Qt::NoFocus) {
+            continue;
+        }
+        if (before) {
+            QWidget::setTabOrder(before, widget);
+        }
+        before = widget;
+    }
+}
+
+}  // namespace
+
+std::vector<QWidget*> MakeWidgets(const DialogTemplate& form, std::span<const HWND> handles,
+                                  QDialog& dialog) {
+    std::vector<QWidget*> widgets;
+    for (std::size_t i = 0; i < handles.size(); ++i) {
+        const ControlTemplate& control = form.Controls[i];
+        QWidget* const widget =
+            MakeWidget(control, handles[i], widgets.empty() ? nullptr : widgets.back());
+        widget->setParent(&dialog);
+        widget->setEnabled(!control.Disabled);
+        widgets.push_back(widget);
+    }
+    Name(form, widgets);
+    SetTabOrder(widgets);
+    return widgets;
+}
+
+}  // namespace PLATFORM

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "qt_user.h"
+
+#include <marlin/platform/windowing/c_wnd.h>
+#include <marlin/platform/windowing/window_messages.h>
+#include <marlin/qt/detail/spin_arrows.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <algorithm>
+
+namespace {
+
+Qt::Key KeyOf(int key) {
+    switch (key) {
+        case VK_RETURN:
+            return Qt::Key_Return;
+        case VK_ESCAPE:
+            return Qt::Key_Escape;
+        case VK_UP:
+            return Qt::Key_Up;
+        case VK_DOWN:
+            return Qt::Key_Down;
+        case VK_INSERT:
+            return Qt::Key_Insert;
+        case VK_DELETE:
+            return Qt::Key_Delete;
+        case VK_F1:
+            return Qt::Key_F1;
+        case VK_F2:
+            return Qt::Key_F2;
+        default:
+            return Qt::Key_unknown;
+    }
+}
+
+QPoint PlaceOf(QTreeWidget& list, int row) {
+    QTreeWidgetItem* const item = list.topLevelItem(row);
+    list.scrollToItem(item);
+    return list.visualItemRect(item).center();
+}
+
+QPoint EmptyPlace(const QTreeWidget& list) {
+    return list.viewport()->rect().bottomRight() - QPoint(2, 2);
+}
+
+}  // namespace
+
+bool QtUser::IsOnTop() const {
+    return QApplication::activeModalWidget() == m_Windows.Widget(m_Dialog);
+}
+
+template <typename Kind>
+Kind* QtUser::Reach(int id) const {
+    const CWnd* const window = IsOnTop() ? CWnd::FromHandle(m_Dialog)->GetDlgItem(id) : nullptr;
+    auto* const widget =
+        window ? dynamic_cast<Kind*>(m_Windows.Widget(window->GetSafeHwnd())) : nullptr;
+    return widget && widget->isEnabled() && widget->isVisible() ? widget : nullptr;
+}
+
+bool QtUser::Click(int control) {
+    if (auto* const box = Reach<QCheckBox>(control)) {
+        box->setFocus();
+        QTest::keyClick(box, Qt::Key_Space);
+        return true;
+    }
+    auto* const button = Reach<QAbstractButton>(control);
+    if (button) {
+        QTest::mouseClick(button, Qt::LeftButton);
+    }
+    return button != nullptr;
+}
+
+bool QtUser::Type(int edit, const CString& text) {
+    auto* const found = Reach<QLineEdit>(edit);
+    if (!found) {
+        return false;
+    }
+    QTest::mouseClick(found, Qt::LeftButton);
+    QTest::keyClick(found, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(found, Qt::Key_Delete);
+    QTest::keyClicks(found, QString::fromLatin1(text.GetString()));
+    return true;
+}
+
+bool QtUser::Spin(int spin, int steps) {
+    auto* const arrows = Reach<PLATFORM::SpinArrows>(spin);
+    for (int i = 0; arrows && i < std::abs(steps); ++i) {
+        QTest::mouseClick(arrows->Arrow(steps > 0), Qt::LeftButton);
+    }
+    return arrows != nullptr;
+}
+
+bool QtUser::Choose(int combo, int item) {
+    auto* const found = Reach<QComboBox>(combo);
+    if (!found || item < 0 || item >= found->count()) {
+        return false;
+    }
+    found->setFocus();
+    QTest::keyClick(found, Qt::Key_Home);
+    for (int i = 0; i < item; ++i) {
+        QTest::keyClick(found, Qt::Key_Down);
+    }
+    return found->currentIndex() == item;
+}
+
+bool QtUser::SelectRows(int list, const std::vector<int>& rows) {
+    auto* const found = Reach<QTreeWidget>(list);
+    const auto isThere = [&](int row) { return found->topLevelItem(row) != nullptr; };
+    if (!found || !std::ranges::all_of(rows, isThere)) {
+        return false;
+    }
+    Qt::KeyboardModifiers held = Qt::NoModifier;
+    for (const int row : rows) {
+        QTest::mouseClick(found->viewport(), Qt::LeftButton, held, PlaceOf(*found, row));
+        held = Qt::ControlModifier;
+    }
+    if (rows.empty()) {
+        QTest::mouseClick(found->viewport(), Qt::LeftButton, held, EmptyPlace(*found));
+    }
+    return true;
+}
+
+bool QtUser::DoubleClick(int list, int row) {
+    if (!SelectRows(list, {row})) {
+        return false;
+    }
+    auto* const found = Reach<QTreeWidget>(list);
+    QTest::mouseDClick(found->viewport(), Qt::LeftButton, Qt::NoModifier, PlaceOf(*found, row));
+    return true;
+}
+
+bool QtUser::Press(int key) {
+    if (!IsOnTop()) {
+        return false;
+    }
+    QWidget* const dialog = m_Windows.Widget(m_Dialog);
+    QWidget* const focus = dialog->focusWidget();
+    QTest::keyClick(focus ? focus : dialog, KeyOf(key));
+    return true;
+}
+
+bool QtUser::CloseFrame() {
+    const bool onTop = IsOnTop();
+    if (onTop) {
+        m_Windows.Widget(m_Dialog)->close();
+    }
+    return onTop;
+}

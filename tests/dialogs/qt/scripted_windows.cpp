@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "scripted_windows.h"
+
+#include "qt_user.h"
+#include <marlin/platform/windowing/window_messages.h>
+#include <marlin/qt/detail/qt_text.h>
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Does something with the box that is going to be shown.
+template <typename Box, typename Act>
+void InNext(Act act) {
+    QTimer::singleShot(0, qApp, [act] {
+        auto* const box = qobject_cast<Box*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr) << "another window is on top";
+        act(*box);
+    });
+}
+
+QMessageBox::StandardButton ButtonOf(int number) {
+    return number == IDYES ? QMessageBox::Yes : number == IDNO ? QMessageBox::No : QMessageBox::Ok;
+}
+
+}  // namespace
+
+int ScriptedWindows::RunDialog(HWND dialog) {
+    const PLATFORM::UserScript::DialogAct act = m_Script.NextAct();
+    QTimer::singleShot(0, Widget(dialog), [this, dialog, act] {
+        QtUser user(*this, dialog);
+        if (act) {
+            act(user);
+        }
+        user.CloseFrame();
+    });
+    return QtWindowSystem::RunDialog(dialog);
+}
+
+int ScriptedWindows::ShowMessage(HWND parent, const PLATFORM::MessageRequest& request) {
+    const int button = m_Script.NextMessage(request);
+    InNext<QMessageBox>([&](QMessageBox& box) {
+        EXPECT_EQ(box.text(), PLATFORM::QtText(request.Text.View()));
+        QTest::mouseClick(box.button(ButtonOf(button)), Qt::LeftButton);
+    });
+    const int result = QtWindowSystem::ShowMessage(parent, request);
+    EXPECT_EQ(result, button);
+    return result;
+}
+
+bool ScriptedWindows::ChooseFile(HWND parent, const PLATFORM::FileRequest& request, CString& path) {
+    const std::optional<CString> chosen = m_Script.NextFile(request);
+    InNext<QFileDialog>([&](QFileDialog& box) {
+        if (!chosen) {
+            box.reject();
+            return;
+        }
+        auto* const name = box.findChild<QLineEdit*>("fileNameEdit");
+        name->setText(PLATFORM::QtPath(*chosen));
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    return QtWindowSystem::ChooseFile(parent, request, path);
+}
+
+bool ScriptedWindows::ChooseColor(HWND parent, const PLATFORM::ColorRequest& request,
+                                  COLORREF& color) {
+    const std::optional<COLORREF> chosen = m_Script.NextColor(request);
+    InNext<QColorDialog>([&](QColorDialog& box) {
+        EXPECT_EQ(PLATFORM::ColorOf(box.currentColor()), request.Color);
+        if (!chosen) {
+            QTest::keyClick(&box, Qt::Key_Escape);
+            return;
+        }
+        box.setCurrentColor(PLATFORM::QtColor(*chosen));
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    return QtWindowSystem::ChooseColor(parent, request, color);
+}

@@ -102,6 +102,10 @@ void CommandLine::AddContours() {
     AddText(command, "FILE", m_Arguments.File, "Contour definition file")->required();
     AddJson(command);
 
+    command = AddCommand(family, "edit", "Edit a file in a window",
+                         [this] { return EditContours(m_Arguments.File); });
+    AddText(command, "FILE", m_Arguments.File, "Contour definition file")->required();
+
     GenerateArguments& generate = m_Arguments.Generate;
     command = AddCommand(family, "generate", "Make a file from a range or from a color table",
                          [this] { return GenerateContours(m_Arguments.Generate, m_Output); });

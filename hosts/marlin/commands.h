@@ -29,6 +29,8 @@ struct ContourArguments {
 };
 
 int ListContours(const std::string& path, Output& output);
+/// Becomes the contour editor; only returns where that cannot be started.
+int EditContours(const std::string& path);
 int GenerateContours(const GenerateArguments& arguments, Output& output);
 int SetContours(const ContourArguments& arguments, Output& output);
 int AddContours(const ContourArguments& arguments, Output& output);

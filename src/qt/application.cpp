@@ -36,13 +36,19 @@ bool HasDisplay() {
     return !platform.isEmpty() || HasWaylandServer() || HasXServer();
 }
 
-// As long as the process, and after every static object that windows are made of.
 struct OwnApplication {
     int Count = 1;
     std::array<char, 7> Name = {"marlin"};
     std::array<char*, 2> Arguments = {Name.data(), nullptr};
     QApplication Application{Count, Arguments.data()};
 };
+
+// Lives until the process has ended. The statics of Qt, which come and go in an order of their own,
+// and dialogs that are static objects are then destroyed while it still stands.
+template <typename Object>
+Object* MakeForever() {
+    return std::make_unique<Object>().release();
+}
 
 }  // namespace
 
@@ -51,12 +57,12 @@ bool MARLINSUITE::UseQtWindows() {
         if (!HasDisplay()) {
             return false;
         }
-        static OwnApplication application;
+        [[maybe_unused]] static OwnApplication* const application = MakeForever<OwnApplication>();
     }
     if (!qobject_cast<QApplication*>(QCoreApplication::instance())) {
         return false;
     }
-    static PLATFORM::QtWindowSystem windows;
-    PLATFORM::WindowSystem::SetCurrent(&windows);
+    static PLATFORM::QtWindowSystem* const windows = MakeForever<PLATFORM::QtWindowSystem>();
+    PLATFORM::WindowSystem::SetCurrent(windows);
     return true;
 }

@@ -83,7 +83,7 @@ std::vector<int> LinesOf(const Places& places, Axis axis) {
         lines.push_back((place.*axis).To);
     }
     std::ranges::sort(lines);
-    lines.erase(std::ranges::unique(lines).begin(), lines.end());
+    lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
     return lines;
 }
 

@@ -186,7 +186,7 @@ void CContourEditor::OnOK() {
     if (!m_FileName.IsEmpty()) {
         ::FileName path(m_FileName);
         path.SetExtension("cdf");
-        m_Definitions.Save(path.c_str());
+        m_HasSaveFailed = !m_Definitions.Save(path.c_str());
         CDialog::OnOK();
         return;
     }
@@ -201,6 +201,6 @@ void CContourEditor::OnOK() {
 void CContourEditor::SaveUnderChosenName() {
     CString path;
     if (AskForFile("cdf", MESSAGE::CONTOUR_FILES, OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, path)) {
-        m_Definitions.Save(path);
+        m_HasSaveFailed = !m_Definitions.Save(path);
     }
 }

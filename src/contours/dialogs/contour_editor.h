@@ -27,6 +27,10 @@ public:
         return m_Definitions;
     }
 
+    /// Whether OK could not save the list, which nothing tells the user. `ErrorString::LastError`
+    /// then has the cause.
+    [[nodiscard]] bool HasSaveFailed() const noexcept { return m_HasSaveFailed; }
+
 protected:
     void DoDataExchange(CDataExchange* exchange) override;
     BOOL OnInitDialog() override;
@@ -69,5 +73,6 @@ private:
     CEditContourDlg m_Properties;
     CImageList m_Images;
     CString m_FileName;
+    bool m_HasSaveFailed = false;
     CListCtrl m_List;
 };

@@ -5,6 +5,7 @@
 #include <marlin/qt/detail/owner_button.h>
 #include <marlin/qt/detail/qt_text.h>
 
+#include <QByteArray>
 #include <cstdio>
 
 #include <dialogs/stage.h>
@@ -53,8 +54,11 @@ std::vector<StageKind> StageKinds() {
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     if (!MARLINSUITE::UseQtWindows()) {
-        std::fputs("no display: set QT_QPA_PLATFORM=offscreen\n", stderr);
+        std::fputs("no display\n", stderr);
         return 2;
     }
     return RUN_ALL_TESTS();

@@ -56,3 +56,15 @@ run_tests() {
     ctest --preset "$preset" --no-tests=error -j "$jobs" "$@" |
         grep -vE '^ *(Start +[0-9]+:|[0-9]+/[0-9]+ Test .*[. ]Passed )|^Test project|^$'
 }
+
+# with_display COMMAND...: runs it on an X display of its own, which ends with it.
+with_display() {
+    local status=0 display
+    coproc XSERVER { exec Xvfb -displayfd 1 -screen 0 1600x1200x24 -nolisten tcp 2>/dev/null; }
+    local server=$XSERVER_PID
+    read -r display <&"${XSERVER[0]}" || fail "Xvfb does not start"
+    DISPLAY=:$display "$@" || status=$?
+    kill "$server"
+    wait "$server" 2>/dev/null || true
+    return "$status"
+}

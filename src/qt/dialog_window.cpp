@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/windowing/window_messages.h>
 #include <marlin/qt/detail/dialog_window.h>
+#include <marlin/qt/detail/list_widget.h>
 
 #include <QKeyEvent>
 
 namespace PLATFORM {
 
 int DialogWindow::Run() {
+    for (QObject* const child : children()) {
+        if (auto* const list = dynamic_cast<ListWidget*>(child)) {
+            list->FitColumns();
+        }
+    }
     if (!m_HasEnded) {
         exec();
     }

@@ -7,6 +7,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <algorithm>
 
 namespace PLATFORM {
@@ -73,6 +74,17 @@ void ListWidget::AddColumn(int column, const QString& heading, int width) {
     }
 }
 
+void ListWidget::FitColumns() {
+    int total = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    for (int i = 0; i < columnCount(); ++i) {
+        const int wanted =
+            std::max({WidthOf(i), header()->sectionSizeHint(i), sizeHintForColumn(i)});
+        header()->resizeSection(i, std::max(header()->sectionSize(i), wanted));
+        total += wanted;
+    }
+    setMinimumWidth(total);
+}
+
 QString ListWidget::Heading(int column) const {
     const bool isThere = column >= 0 && static_cast<std::size_t>(column) < m_Columns.size();
     return isThere ? m_Columns[static_cast<std::size_t>(column)].Heading : QString();
@@ -96,6 +108,11 @@ void ListWidget::SetImages(const CImageList& images) {
 
 void ListWidget::AddRow(int row, const QString& text, int image) {
     const Act act(*this);
+    if (topLevelItemCount() == 0) {
+        // Once the cells have their texts.
+        QMetaObject::invokeMethod(
+            this, [this] { FitColumns(); }, Qt::QueuedConnection);
+    }
     auto* const item = Make<QTreeWidgetItem>();
     item->setText(0, text);
     item->setData(0, imageRole, image);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/windowing/window_messages.h>
 #include <marlin/qt/detail/events.h>
+#include <marlin/qt/detail/left_text_box.h>
 #include <marlin/qt/detail/list_widget.h>
 #include <marlin/qt/detail/make.h>
 #include <marlin/qt/detail/owner_button.h>
@@ -8,7 +9,6 @@
 #include <marlin/qt/detail/spin_arrows.h>
 #include <marlin/qt/detail/widgets.h>
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
@@ -42,13 +42,6 @@ QWidget* MakePushButton(HWND handle, const QString& text, bool isDefault) {
     return button;
 }
 
-// The text stands left of the box.
-QWidget* MakeCheckBox(HWND handle, const QString& text) {
-    auto* const box = MakeButton<QCheckBox>(handle, text);
-    box->setLayoutDirection(Qt::RightToLeft);
-    return box;
-}
-
 QWidget* MakeDropDown(const ControlTemplate& control) {
     auto* const combo = Make<QComboBox>();
     for (const std::string_view item : control.Items) {
@@ -71,7 +64,7 @@ QWidget* MakeWidget(const ControlTemplate& control, HWND handle, QWidget* before
         case CONTROL::OWNER_BUTTON:
             return MakeOwnerButton(handle, text);
         case CONTROL::CHECK_BOX:
-            return MakeCheckBox(handle, text);
+            return MakeButton<LeftTextBox>(handle, text);
         case CONTROL::DROP_DOWN_LIST:
             return MakeDropDown(control);
         case CONTROL::SPIN:

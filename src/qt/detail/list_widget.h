@@ -32,6 +32,10 @@ public:
     /// As it was given; 0 for none.
     [[nodiscard]] int WidthOf(int column) const noexcept;
 
+    /// Makes columns at least as wide as they were asked to be, their headings and the rows in
+    /// view, and the list wide enough for all of them.
+    void FitColumns();
+
     void SetImages(const CImageList& images);
     void AddRow(int row, const QString& text, int image);
     /// -1 for none.

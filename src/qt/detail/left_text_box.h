@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCheckBox>
+
+namespace PLATFORM {
+
+/// A check box whose text begins at its left edge, as labels do; the box stands at the right edge.
+class LeftTextBox final : public QCheckBox {
+public:
+    LeftTextBox() { setLayoutDirection(Qt::RightToLeft); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace PLATFORM

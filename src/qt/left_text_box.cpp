@@ -1,10 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/qt/detail/left_text_box.h>
 
+#include <QShortcutEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
 namespace PLATFORM {
+
+bool LeftTextBox::event(QEvent* event) {
+    if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
+        return QCheckBox::event(event);
+    }
+    setFocus(Qt::ShortcutFocusReason);
+    click();
+    return true;
+}
 
 void LeftTextBox::paintEvent(QPaintEvent*) {
     QStylePainter painter(this);

@@ -95,7 +95,8 @@ void Name(const DialogTemplate& form, std::span<QWidget* const> widgets) {
         const ControlTemplate* const before = i > 0 ? &form.Controls[i - 1] : nullptr;
         widgets[i]->setAccessibleName(SpokenName(form.Controls[i], before));
         auto* const label = i > 0 ? qobject_cast<QLabel*>(widgets[i - 1]) : nullptr;
-        if (label && widgets[i]->focusPolicy() != Qt::NoFocus) {
+        // A label without a mnemonic is a heading of several controls.
+        if (label && before->Text.find('&') != std::string_view::npos) {
             label->setBuddy(widgets[i]);
         }
     }

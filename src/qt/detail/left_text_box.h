@@ -11,6 +11,8 @@ public:
     LeftTextBox() { setLayoutDirection(Qt::RightToLeft); }
 
 protected:
+    /// Its mnemonic counts at once, so that a confirmation typed right after it finds it done.
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 };
 

@@ -63,6 +63,12 @@ configure_file(${PROJECT_SOURCE_DIR}/cmake/marlinshared.pc.in
   ${PROJECT_BINARY_DIR}/marlinshared.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/marlinshared.pc
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+if(TARGET marlinshared_qt)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/marlinshared_qt.pc.in
+    ${PROJECT_BINARY_DIR}/marlinshared_qt.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/marlinshared_qt.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endif()
 
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/share/marlin/ DESTINATION ${CMAKE_INSTALL_DATADIR}/marlin)
 install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/marlinshared)

@@ -1,8 +1,21 @@
 // SPDX-License-Identifier: MIT
-// Adds a section to a settings file, saves it under the path given, opens it again and prints it.
+// Adds a section to a settings file, saves it under the path given, opens it again and prints it
+// with the size of the color table that is installed.
 #include <marlin/shared.h>
 
 #include <cstdio>
+
+namespace {
+
+int InstalledColors() {
+    CString path("shelf.col");
+    DataSearch::GetDataSearch().GetFullPath(4, path);
+    FileObject file;
+    ColorTable table;
+    return file.FileOpen(path, 0x20) && table.FileOpen(file) ? table.NumEntries() : -1;
+}
+
+}  // namespace
 
 int main(int argc, char* argv[]) {
     if (argc != 2) {
@@ -28,7 +41,7 @@ int main(int argc, char* argv[]) {
     const Section& survey = stored["SURVEY"];
     int lines = 0;
     survey["lines"] >> lines;
-    std::printf("%s sailed %d lines, %s\n", survey["Vessel"].GetValue().c_str(), lines,
-                survey.IsModified() ? "modified" : "unmodified");
+    std::printf("%s sailed %d lines, %s, in %d colors\n", survey["Vessel"].GetValue().c_str(),
+                lines, survey.IsModified() ? "modified" : "unmodified", InstalledColors());
     return 0;
 }

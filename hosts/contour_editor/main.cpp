@@ -4,6 +4,7 @@
 #include <marlin/contours/dialogs/contour_editor.h>
 #include <marlin/platform/windowing/window_messages.h>
 #include <marlin/qt/window_system.h>
+#include <marlin/settings/ini_file.h>
 
 #include <cstdio>
 #include <filesystem>
@@ -29,30 +30,33 @@ std::string CauseOf(const ErrorString& error) {
     return error.Cause().empty() ? error.Text() : error.Cause();
 }
 
-// What reads well but holds no contours leaves no error behind.
-std::string ReasonNotToEdit(const std::string& path) {
-    const std::string cause = CauseOf(ErrorString::LastError());
-    if (cause.empty()) {
-        return path + ": not a contour definition file";
-    }
-    return cause.find(path) == std::string::npos ? path + ": " + cause : cause;
-}
-
 // A file that cannot be read would be overwritten by the list that the editor shows in its place.
-bool IsReadable(const std::string& path) {
+// Empty where nothing is lost.
+std::string ReasonNotToEdit(const std::string& path) {
     std::error_code error;
     ContourDefinitionList list;
-    return path.empty() || !std::filesystem::exists(path, error) || list.Load(path.c_str());
+    if (path.empty() || !std::filesystem::exists(path, error) || list.Load(path.c_str())) {
+        return {};
+    }
+    IniFile file;
+    const ErrorString failure = file.Open(path.c_str());
+    return failure.Empty() ? path + ": no section [Contour(0)]: not a contour definition file"
+                           : CauseOf(failure);
+}
+
+std::string ReasonNotSaved(const CContourEditor& editor) {
+    return editor.Definitions().NumContours() == 0 ? "an empty list makes no file"
+                                                   : CauseOf(ErrorString::LastError());
 }
 
 int Edit(const std::string& path) {
-    if (!IsReadable(path)) {
-        return Refuse(ReasonNotToEdit(path));
+    if (const std::string reason = ReasonNotToEdit(path); !reason.empty()) {
+        return Refuse(reason);
     }
     CContourEditor editor;
     editor.FileName(CString(path));
     if (editor.DoModal() == IDOK && editor.HasSaveFailed()) {
-        return Refuse("not saved: " + CauseOf(ErrorString::LastError()));
+        return Refuse("not saved: " + ReasonNotSaved(editor));
     }
     return DONE;
 }

@@ -222,6 +222,9 @@ TEST_P(ContourEditorTest, SelectsWhatCameIntoTheRemovedRowsPlace) {
         EXPECT_EQ(screen.Column(0), Texts{"20.00"});
         EXPECT_EQ(screen.SelectedRows(), std::vector<int>());
         EXPECT_FALSE(screen.IsEnabled(CONTROL_REMOVE));
+        screen.User.Press(VK_DELETE);
+        EXPECT_EQ(screen.Column(0), Texts{"20.00"});
+        EXPECT_TRUE(screen.IsThePlace(0)) << "nothing was selected";
     });
 }
 

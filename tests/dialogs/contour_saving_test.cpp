@@ -55,13 +55,16 @@ TEST_P(ContourSavingTest, GivesTheFileTheExtensionCdf) {
 
 TEST_P(ContourSavingTest, IsNotReportedWhenItFails) {
     const std::string path = m_Folder.File("no folder/sheet.cdf");
-    const int result = Run(path, [this](Screen& screen) {
+    CContourEditor editor;
+    editor.FileName(path.c_str());
+    InDialog([this](Screen& screen) {
         Confirm("7");
         screen.User.Click(CONTROL_ADD);
         screen.User.Click(IDOK);
     });
-    EXPECT_EQ(result, IDOK);
+    EXPECT_EQ(editor.DoModal(), IDOK);
     EXPECT_EQ(Messages(), Texts());
+    EXPECT_TRUE(editor.HasSaveFailed()) << "the host can ask";
     EXPECT_FALSE(std::filesystem::exists(path));
 }
 

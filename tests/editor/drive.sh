@@ -28,7 +28,7 @@ cat >"$work/manager.xml" <<END
   <keyboard><keybind key="A-F4"><action name="Close"/></keybind></keyboard>
 </openbox_config>
 END
-openbox --config-file "$work/manager.xml" >/dev/null 2>&1 &
+openbox --config-file "$work/manager.xml" --startup "touch $work/managed" >/dev/null 2>&1 &
 manager=$!
 trap 'kill "$manager" 2>/dev/null; rm -rf "$work"' EXIT
 
@@ -47,14 +47,17 @@ within() {
     done
 }
 
-title() { xdotool getactivewindow getwindowname 2>/dev/null; }
+# Keys go to the window that has the focus.
+active() { xdotool getwindowfocus -f 2>/dev/null; }
+title() { xdotool getwindowfocus -f getwindowname 2>/dev/null; }
 has_title() { [ "$(title)" = "$1" ]; }
 has_ended() { ! kill -0 "$process" 2>/dev/null; }
 
-# The window that has the focus.
-await() { within 20 has_title "$1" || fail_here "wanted the window '$1', have '$(title)'"; }
+await() {
+    within 20 has_title "$1" ||
+        fail_here "wanted the window '$1', have '$(title)'; the program said: $(cat "$work/said")"
+}
 
-active() { xdotool getactivewindow 2>/dev/null; }
 is_active() { [ "$(active)" = "$1" ]; }
 is_other() { local now && now=$(active) && [ "$now" != "$1" ]; }
 
@@ -76,7 +79,7 @@ enter() { text "$1" && keys Return; }
 # at PER_MILLE_OF_WIDTH PER_MILLE_OF_HEIGHT: puts the pointer there in the window.
 at() {
     local window WIDTH HEIGHT
-    window=$(xdotool getactivewindow)
+    window=$(active)
     eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(WIDTH|HEIGHT)=')"
     xdotool mousemove --window "$window" $((WIDTH * $1 / 1000)) $((HEIGHT * $2 / 1000))
 }
@@ -98,6 +101,13 @@ ends() {
     within 20 has_ended || fail_here "the program still runs; before it '$(title)'"
     wait "$process" || status=$?
     [ "$status" -eq "$1" ] || fail_here "wanted status $1, got $status: $(cat "$work/said")"
+}
+
+# complains TEXT: the program says so in a box and on standard error, and ends with 1.
+complains() {
+    await "Contours" && keys Return
+    ends 1
+    [ "$(grep -v '^QStandardPaths' "$work/said")" = "$1" ] || fail_here "unclear: $(cat "$work/said")"
 }
 
 # holds FILE LINE...: level, line type, width and labels of each definition, or color where asked.
@@ -223,11 +233,11 @@ saves_under_a_new_name() {
 }
 
 refuses() {
-    printf 'no contours\n' >"$work/letter.cdf"
+    printf '[Letter]\n' >"$work/letter.cdf"
     start "$work/letter.cdf"
-    await "Contours" && keys Return
-    ends 1
-    grep -q "letter.cdf" "$work/said" || fail_here "unclear: $(cat "$work/said")"
+    complains "marlin-contour-editor: $work/letter.cdf: no section [Contour(0)]: not a contour definition file"
+    start "$work"
+    complains "marlin-contour-editor: $work: Is a directory"
 
     mkdir "$work/gone"
     make gone/lost 5
@@ -235,9 +245,15 @@ refuses() {
     await "Contours - lost"
     rm -r "$work/gone"
     press_ok
-    await "Contours" && keys Return
-    ends 1
-    grep -q "not saved: " "$work/said" || fail_here "unclear: $(cat "$work/said")"
+    complains "marlin-contour-editor: not saved: $file: No such file or directory"
+
+    make emptied 5
+    cp "$file" "$work/before"
+    start "$file"
+    await "Contours - emptied"
+    top_row && xdotool click 1 && keys Delete && press_ok
+    complains "marlin-contour-editor: not saved: an empty list makes no file"
+    cmp "$work/before" "$file" || fail_here "the old file has changed"
 }
 
 opens_many() {
@@ -254,8 +270,7 @@ opens_many() {
     [ "$lowest" = -1 ] || fail_here "wanted -1 as the lowest level, got $lowest"
 }
 
-manages() { xdotool get_desktop >/dev/null 2>&1; }
-within 20 manages || fail_here "openbox does not start"
+within 20 test -f "$work/managed" || fail_here "openbox does not start"
 
 for road in works_on_the_list generates keeps_the_file saves_under_a_new_name refuses opens_many; do
     begin=$SECONDS

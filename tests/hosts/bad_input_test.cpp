@@ -23,23 +23,23 @@ TEST(BadInput, EveryCommandNamesTheFileAndTheCause) {
         {"line", ":2: a line longer than 1 MiB: not a settings file"},
         {"binary", ":2: a null character: a binary file, not a settings file"},
     };
-    const std::vector<std::pair<Program::Words, Program::Words>> commands = {
-        {{"settings", "check"}, {}},
-        {{"settings", "show"}, {}},
-        {{"settings", "seal"}, {}},
-        {{"settings", "get"}, {"A", "k"}},
-        {{"settings", "set"}, {"A", "k", "v"}},
-        {{"settings", "diff"}, {"folder"}},
-        {{"contours", "list"}, {}},
-        {{"contours", "set"}, {"1", "--width", "1"}},
-        {{"contours", "remove"}, {"1"}},
-        {{"colors", "show"}, {}},
-        {{"colors", "convert"}, {"out.col"}},
+    const std::vector<std::pair<Words, Words>> commands = {
+        {"settings check", {}},
+        {"settings show", {}},
+        {"settings seal", {}},
+        {"settings get", {"A", "k"}},
+        {"settings set", {"A", "k", "v"}},
+        {"settings diff", {"folder"}},
+        {"contours list", {}},
+        {"contours set", {"1", "--width", "1"}},
+        {"contours remove", {"1"}},
+        {"colors show", {}},
+        {"colors convert", {"out.col"}},
     };
     for (const auto& [name, cause] : causes) {
         for (const auto& [command, rest] : commands) {
             SCOPED_TRACE(command[0] + " " + command[1] + " " + name);
-            Program::Words words = command;
+            Words words = command;
             words.push_back(name);
             words.insert(words.end(), rest.begin(), rest.end());
             const ProgramResult result = program.Run(words);
@@ -56,30 +56,30 @@ TEST(BadInput, EveryCommandNamesTheFileAndTheCause) {
 
 TEST(BadInput, UsageThatIsWrongIsAnErrorAndHelpIsNot) {
     const Program program;
-    const std::vector<Program::Words> wrong = {
+    const std::vector<Words> wrong = {
         {},
-        {"contours"},
-        {"nothing"},
-        {"contours", "list"},
-        {"contours", "list", "a", "b"},
-        {"contours", "generate", "--range", "1", "2", "-o", "f"},
-        {"contours", "generate", "--range", "1", "2", "1"},
-        {"contours", "generate", "--range", "1", "2", "1", "--invert", "-o", "f"},
-        {"contours", "generate", "--range", "1", "2", "1", "--table", "t", "-o", "f"},
-        {"settings", "set", "f", "A", "k"},
-        {"file", "check", "--fix", "f"},
+        "contours",
+        "nothing",
+        "contours list",
+        "contours list a b",
+        "contours generate --range 1 2 -o f",
+        "contours generate --range 1 2 1",
+        "contours generate --range 1 2 1 --invert -o f",
+        "contours generate --range 1 2 1 --table t -o f",
+        "settings set f A k",
+        "file check --fix f",
     };
-    for (const Program::Words& words : wrong) {
+    for (const Words& words : wrong) {
         const ProgramResult result = program.Run(words);
         EXPECT_EQ(result.Code, 2);
         EXPECT_EQ(result.Out, "");
         EXPECT_NE(result.Err.find(" --help\" tells more\n"), std::string::npos) << result.Err;
     }
-    const std::vector<std::pair<Program::Words, std::string>> helps = {
-        {{"--help"}, "Usage: marlin [OPTIONS] SUBCOMMAND"},
-        {{"settings", "--help"}, "Usage: marlin settings [OPTIONS] SUBCOMMAND"},
-        {{"settings", "set", "-h"}, "Usage: marlin settings set [OPTIONS] FILE SECTION KEY VALUE"},
-        {{"--version"}, "marlin 4.1.0.7\n"},
+    const std::vector<std::pair<Words, std::string>> helps = {
+        {"--help", "Usage: marlin [OPTIONS] SUBCOMMAND"},
+        {"settings --help", "Usage: marlin settings [OPTIONS] SUBCOMMAND"},
+        {"settings set -h", "Usage: marlin settings set [OPTIONS] FILE SECTION KEY VALUE"},
+        {"--version", "marlin 4.1.0.7\n"},
     };
     for (const auto& [words, text] : helps) {
         const ProgramResult result = program.Run(words);
@@ -93,7 +93,7 @@ TEST(BadInput, OutputThatCannotBeWrittenIsAnError) {
     Program program;
     program.Write("f", "[A]\nk=1\n");
     program.SetStandardOutput("/dev/full");
-    const ProgramResult result = program.Run({"settings", "get", "f", "A", "k"});
+    const ProgramResult result = program.Run("settings get f A k");
     EXPECT_EQ(result.Code, 2);
     EXPECT_EQ(result.Err, "marlin: standard output: No space left on device\n");
 }
@@ -114,21 +114,21 @@ TEST(BadInput, AFullDiskLeavesEveryOldFileWhole) {
     Program program;
     const std::string settings = BigSettings("1");
     program.Write("s.ini", settings);
-    ASSERT_EQ(program.Run({"contours", "generate", "--range", "0", "500", "1", "-o", "c"}).Code, 0);
+    ASSERT_EQ(program.Run("contours generate --range 0 500 1 -o c").Code, 0);
     const std::string contours = program.Read("c");
     program.Write("raw", settings);
     program.Write("p.cpt", "0 black 1 white\n");
     program.Write("t.col", "old");
     program.SetLargestFile(250);
-    const std::vector<std::pair<Program::Words, std::string>> commands = {
-        {{"settings", "set", "s.ini", "Last", "Value", "2"}, "s.ini"},
-        {{"settings", "seal", "s.ini"}, "s.ini"},
-        {{"contours", "set", "c", "5", "--width", "1"}, "c"},
-        {{"contours", "add", "c", "0.5"}, "c"},
-        {{"contours", "remove", "c", "5"}, "c"},
-        {{"contours", "generate", "--range", "0", "9", "1", "-o", "c"}, "c"},
-        {{"colors", "convert", "p.cpt", "t.col"}, "t.col"},
-        {{"file", "seal", "raw"}, "raw"},
+    const std::vector<std::pair<Words, std::string>> commands = {
+        {"settings set s.ini Last Value 2", "s.ini"},
+        {"settings seal s.ini", "s.ini"},
+        {"contours set c 5 --width 1", "c"},
+        {"contours add c 0.5", "c"},
+        {"contours remove c 5", "c"},
+        {"contours generate --range 0 9 1 -o c", "c"},
+        {"colors convert p.cpt t.col", "t.col"},
+        {"file seal raw", "raw"},
     };
     for (const auto& [words, name] : commands) {
         SCOPED_TRACE(words[0] + " " + words[1]);
@@ -162,7 +162,7 @@ TEST(BadInput, AProgramKilledWhileItSavesLeavesAWholeFile) {
     const Program program;
     program.Write("s.ini", BigSettings("100000"));
     const auto start = std::chrono::steady_clock::now();
-    ASSERT_EQ(program.Run({"settings", "set", "s.ini", "Last", "Value", "100001"}).Code, 0);
+    ASSERT_EQ(program.Run("settings set s.ini Last Value 100001").Code, 0);
     const std::chrono::duration<double, std::micro> once = std::chrono::steady_clock::now() - start;
     std::mt19937 random(20);
     std::uniform_real_distribution<double> moment(0.0, 3.0 * once.count());

@@ -8,17 +8,15 @@ const std::string sealed = "123456789\x26\x39\xF4\xCB";  // the check value of t
 TEST(FileCommands, SealingAppendsTheTrailerOnce) {
     const Program program;
     program.Write("f", "123456789");
-    ExpectSteps(
-        program,
-        {
-            {{"file", "seal", "f"}, 0, "f: sealed, checksum CBF43926\n", ""},
-            {{"file", "check", "f"}, 0, "f: whole: 9 bytes, checksum CBF43926\n", ""},
-            {{"file", "seal", "f"}, 1, "", "f: sealed already; --force adds a second trailer"},
-        });
+    ExpectSteps(program,
+                {
+                    {"file seal f", 0, "f: sealed, checksum CBF43926\n"},
+                    {"file check f", 0, "f: whole: 9 bytes, checksum CBF43926\n"},
+                    {"file seal f", 1, "", "f: sealed already; --force adds a second trailer"},
+                });
     EXPECT_EQ(program.Read("f"), sealed);
     // The CRC of any bytes and their own CRC is one constant.
-    ExpectSteps(program,
-                {{{"file", "seal", "--force", "f"}, 0, "f: sealed, checksum 2144DF1C\n", ""}});
+    ExpectSteps(program, {{"file seal --force f", 0, "f: sealed, checksum 2144DF1C\n"}});
     EXPECT_EQ(program.Read("f"), sealed + "\x1C\xDF\x44\x21");
 }
 
@@ -39,19 +37,17 @@ TEST(FileCommands, CheckTellsTruncatedExtraBytesAndAWrongSumApart) {
     };
     for (const Case& c : cases) {
         program.Write("f", c.Bytes);
-        ExpectSteps(program, {{{"file", "check", "f"}, 1, "", "f: " + c.Finding}});
+        ExpectSteps(program, {{"file check f", 1, "", "f: " + c.Finding}});
         EXPECT_EQ(program.Read("f"), c.Bytes);
     }
     program.Write("f", "123456780\x26\x39\xF4\xCB");
-    const ProgramResult result = program.Run({"file", "check", "f"});
+    const ProgramResult result = program.Run("file check f");
     EXPECT_EQ(result.Code, 1);
     EXPECT_EQ(result.Err.find("marlin: f: wrong checksum: the trailer says CBF43926, "), 0U);
     program.Write("f", std::string(4, '\0'));  // an empty payload
-    ExpectSteps(program, {{{"file", "check", "--json", "f"},
-                           0,
+    ExpectSteps(program, {{"file check --json f", 0,
                            "{\n  \"file\": \"f\",\n  \"state\": \"whole\",\n"
-                           "  \"explanation\": \"whole: 0 bytes, checksum 00000000\"\n}\n",
-                           ""}});
+                           "  \"explanation\": \"whole: 0 bytes, checksum 00000000\"\n}\n"}});
 }
 
 }  // namespace

@@ -5,6 +5,9 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <initializer_list>
+#include <iterator>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,11 +26,18 @@ struct ProgramResult {
     std::string Err;
 };
 
+/// The arguments of a command line; one text is split at its blanks.
+struct Words : std::vector<std::string> {
+    Words(std::initializer_list<std::string> words) : vector(words) {}
+    Words(const char* line) {
+        std::istringstream words(line);
+        assign(std::istream_iterator<std::string>(words), {});
+    }
+};
+
 /// Runs the command line in a folder of its own, removed with it.
 class Program {
 public:
-    using Words = std::vector<std::string>;
-
     ProgramResult Run(const Words& arguments) const {
         const pid_t child = ::fork();
         if (child == 0) {
@@ -92,10 +102,10 @@ private:
 
 /// One command line and all that it must do. `Err` is what follows "marlin: " on each line.
 struct Step {
-    Program::Words Arguments;
+    Words Arguments;
     int Code;
     std::string Out;
-    std::string Err;
+    std::string Err = {};
 };
 
 inline void ExpectSteps(const Program& program, const std::vector<Step>& steps) {

@@ -49,7 +49,7 @@ TEST(SettingsShow, RecordsThatTheLibraryWroteAreRecognisedAndNoOthers) {
     file["k"]["Pen"] << LineInfo().ToString();
     file["k"]["Other"] << "1,2,3,4,5";
     ASSERT_TRUE(file.Save(program.Path("all.ini")).Empty());
-    const ProgramResult result = program.Run({"settings", "show", "all.ini"});
+    const ProgramResult result = program.Run("settings show all.ini");
     EXPECT_EQ(result.Code, 0);
     EXPECT_EQ(Headings(result.Out),
               "[a] line\n[b] DXF pen\n[c] map\n[d] grid\n[e] geographic grid\n[f] paper grid\n"
@@ -64,8 +64,7 @@ TEST(SettingsShow, FilesByHandShowValuesTheirKeysAndDefaults) {
                   "[Border]\nlinecolor=1\nLINESTYLE=dot\n[Name]\nWidth=3\nEnable=1\n"
                   "[Contour(0)]\nLevel=-12.5\nTrueColor=255\nLineType=dashed\nAnnotate=1\n"
                   "[Grid]\nXInterval=100\nTickSize=2\nGridStyle=POINTS,X_LINES\n");
-    ExpectSteps(program, {{{"settings", "show", "hand.ini"},
-                           0,
+    ExpectSteps(program, {{"settings show hand.ini", 0,
                            "[Border] line\n"
                            "Key        Value    Meaning\n"
                            "(default)  yes      the line is drawn\n"
@@ -87,22 +86,19 @@ TEST(SettingsShow, FilesByHandShowValuesTheirKeysAndDefaults) {
                            "TickSize   2      length of the ticks\n"
                            "(default)  1      length of the minor ticks\n"
                            "(default)         text beside the eastings\n"
-                           "(default)         text beside the northings\n",
-                           ""}});
+                           "(default)         text beside the northings\n"}});
 }
 
 TEST(SettingsShow, JsonNamesSectionRecordAndFields) {
     const Program program;
     program.Write("s.ini", "[\xD8]\nNorth.BiasMode=2\n[B]\nk=1\n");
     ExpectSteps(program,
-                {{{"settings", "show", "--json", "s.ini"},
-                  0,
+                {{"settings show --json s.ini", 0,
                   "[\n  {\n    \"section\": \"Ø\",\n    \"record\": \"bias\",\n"
                   "    \"name\": \"North\",\n    \"fields\": [\n      {\n"
                   "        \"key\": \"North.BiasMode\",\n        \"value\": \"2\",\n"
-                  "        \"meaning\": \"bias mode\"\n      }\n    ]\n  }\n]\n",
-                  ""},
-                 {{"settings", "show", "none.ini"}, 2, "", "none.ini: No such file or directory"}});
+                  "        \"meaning\": \"bias mode\"\n      }\n    ]\n  }\n]\n"},
+                 {"settings show none.ini", 2, "", "none.ini: No such file or directory"}});
 }
 
 }  // namespace

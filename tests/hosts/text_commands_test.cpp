@@ -15,8 +15,7 @@ TEST(TextCommands, ATextIsMeasuredAboutItsJustifiedPoint) {
         {{{"text", "measure", "--font", "liberation sans", "--size", "10", "0000"},
           0,
           " Width  Height  Corners                                 Line height  Lines\n"
-          "29.397  14.763  0,0  29.397,0  29.397,14.763  0,14.763       14.763  0000\n",
-          ""},
+          "29.397  14.763  0,0  29.397,0  29.397,14.763  0,14.763       14.763  0000\n"},
          {{"text", "measure", "--font", "Liberation Sans", "--justify", "Middle-Center", "--rotate",
            "90", "0000", ""},
           0,
@@ -24,8 +23,7 @@ TEST(TextCommands, ATextIsMeasuredAboutItsJustifiedPoint) {
           "  Lines\n"
           "7.348    3.69  -1.845,3.674  -1.845,-3.674  1.845,-3.674  1.845,3.674         3.69"
           "  0000\n"
-          "    0       0  0,0  0,0  0,0  0,0                                                0\n",
-          ""}});
+          "    0       0  0,0  0,0  0,0  0,0                                                0\n"}});
 }
 
 // The bold face has an x of 1139 where the regular one has 1024.
@@ -55,15 +53,14 @@ TEST(TextCommands, AWrappedTextShowsItsLines) {
                            "        {\n          \"x\": 0,\n          \"y\": 11.07\n        }\n"
                            "      ],\n      \"lineHeight\": 3.69,\n"
                            "      \"lines\": [\n        \"00\",\n        \"00\",\n"
-                           "        \"\xC3\x86\"\n      ]\n    }\n  ]\n}\n",
-                           ""}});
+                           "        \"\xC3\x86\"\n      ]\n    }\n  ]\n}\n"}});
 }
 
 TEST(TextCommands, ADepthLabelIsShownInItsParts) {
     const Program program;
-    const Program::Words style = {"text", "depth", "--font", "Liberation Sans", "--presentation"};
-    const auto with = [&style](const Program::Words& more) {
-        Program::Words words = style;
+    const Words style = {"text", "depth", "--font", "Liberation Sans", "--presentation"};
+    const auto with = [&style](const Words& more) {
+        Words words = style;
         words.insert(words.end(), more.begin(), more.end());
         return words;
     };
@@ -72,12 +69,10 @@ TEST(TextCommands, ADepthLabelIsShownInItsParts) {
         {{with({"2", "7.25"}), 0,
           "Part      Text  Width  Height  Corners\n"
           "integers  7     1.837    3.69  0,-0.7  1.837,-0.7  1.837,2.99  0,2.99\n"
-          "decimals  25    2.452   2.463  2.212,0.53  4.664,0.53  4.664,2.993  2.212,2.993\n",
-          ""},
+          "decimals  25    2.452   2.463  2.212,0.53  4.664,0.53  4.664,2.993  2.212,2.993\n"},
          {with({"0", "--placement", "2", "--precision", "0", "--justify", "0", "1234"}), 0,
           "Part   Text  Width  Height  Corners\n"
-          "whole  1234  7.348    3.69  -3.674,-1.845  3.674,-1.845  3.674,1.845  -3.674,1.845\n",
-          ""}});
+          "whole  1234  7.348    3.69  -3.674,-1.845  3.674,-1.845  3.674,1.845  -3.674,1.845\n"}});
     const ProgramResult negative = program.Run(with({"4", "-.5"}));
     EXPECT_NE(negative.Out.find("integers  -0.  "), std::string::npos) << negative.Out;
     EXPECT_NE(negative.Out.find("decimals  50  "), std::string::npos) << negative.Out;
@@ -85,11 +80,10 @@ TEST(TextCommands, ADepthLabelIsShownInItsParts) {
 
 TEST(TextCommands, AMissingFaceIsToldWithTheOneThatStandsForIt) {
     const Program program;
-    const ProgramResult fonts = program.Run({"text", "fonts"});
+    const ProgramResult fonts = program.Run("text fonts");
     EXPECT_NE(("\n" + fonts.Out).find("\nLiberation Sans\n"), std::string::npos) << fonts.Out;
-    for (const Program::Words& words :
-         {Program::Words{"text", "measure", "--font", "No such face", "x"},
-          Program::Words{"text", "depth", "--font", "No such face", "1"}}) {
+    for (const Words& words : {Words{"text", "measure", "--font", "No such face", "x"},
+                               Words{"text", "depth", "--font", "No such face", "1"}}) {
         const std::string told = "No such face is missing; measured with ";
         const ProgramResult result = program.Run(words);
         EXPECT_EQ(result.Code, 0);
@@ -107,24 +101,16 @@ TEST(TextCommands, WhatCannotBeMeasuredIsRefusedWithItsReason) {
     const std::string code = " is not a whole number from 0 to ";
     ExpectSteps(
         program,
-        {{{"text", "measure", "--size", "0", "x"}, 2, "", "--size: \"0\" is not a number above 0"},
-         {{"text", "measure", "--wrap=-1", "x"}, 2, "", "--wrap: \"-1\" is not a number above 0"},
-         {{"text", "measure", "--rotate", "inf", "x"},
-          2,
-          "",
-          "--rotate: \"inf\" is not a number of degrees"},
-         {{"text", "measure", "--justify", "12", "x"},
-          2,
-          "",
+        {{"text measure --size 0 x", 2, "", "--size: \"0\" is not a number above 0"},
+         {"text measure --wrap=-1 x", 2, "", "--wrap: \"-1\" is not a number above 0"},
+         {"text measure --rotate inf x", 2, "", "--rotate: \"inf\" is not a number of degrees"},
+         {"text measure --justify 12 x", 2, "",
           "--justify: \"12\" is not 0 to 11 or bottom, middle, top or baseline, then -left, "
           "-center or -right"},
-         {{"text", "depth", "--presentation", "5", "1"},
-          2,
-          "",
-          "--presentation: \"5\"" + code + "4"},
-         {{"text", "depth", "--placement", "3", "1"}, 2, "", "--placement: \"3\"" + code + "2"},
-         {{"text", "depth", "--precision", "x", "1"}, 2, "", "--precision: \"x\"" + code + "1074"},
-         {{"text", "depth", "1", "two"}, 2, "", "\"two\" is no depth"},
+         {"text depth --presentation 5 1", 2, "", "--presentation: \"5\"" + code + "4"},
+         {"text depth --placement 3 1", 2, "", "--placement: \"3\"" + code + "2"},
+         {"text depth --precision x 1", 2, "", "--precision: \"x\"" + code + "1074"},
+         {"text depth 1 two", 2, "", "\"two\" is no depth"},
          {{"text", "measure", "--font", "Liberation Sans", "--size", "1e30", "x"},
           1,
           "",

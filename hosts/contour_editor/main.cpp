@@ -20,7 +20,7 @@ constexpr const char* programName = "marlin-contour-editor";
 
 // On standard error, and for who started the program from a desktop in a box.
 int Refuse(const std::string& message) {
-    std::fprintf(stderr, "%s: %s\n", programName, message.c_str());
+    static_cast<void>(std::fprintf(stderr, "%s: %s\n", programName, message.c_str()));
     PLATFORM::WindowSystem::Current().ShowMessage(
         nullptr, {CString(message), CString("Contours"), MB_OK | MB_ICONERROR});
     return FAILED;
@@ -39,7 +39,7 @@ std::string ReasonNotToEdit(const std::string& path) {
         return {};
     }
     IniFile file;
-    const ErrorString failure = file.Open(path.c_str());
+    const ErrorString failure = file.Open(path);
     return failure.Empty() ? path + ": no section [Contour(0)]: not a contour definition file"
                            : CauseOf(failure);
 }
@@ -75,7 +75,7 @@ int main(int argc, char** argv) {
         return app.exit(error) == 0 ? DONE : UNUSABLE;
     }
     if (!MARLINSUITE::UseQtWindows()) {
-        std::fprintf(stderr, "%s: no display to show windows on\n", programName);
+        static_cast<void>(std::fprintf(stderr, "%s: no display to show windows on\n", programName));
         return UNUSABLE;
     }
     return Edit(path);

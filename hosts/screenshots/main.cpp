@@ -38,7 +38,7 @@ bool Take(const Picture& picture, const QString& folder, const QString& ending) 
     QTimer::singleShot(0, qApp, [&] { TakeOnceShown(file, isTaken); });
     picture.Open();
     if (!isTaken) {
-        std::fprintf(stderr, "screenshots: cannot write %s\n", qPrintable(file));
+        static_cast<void>(std::fprintf(stderr, "screenshots: cannot write %s\n", qPrintable(file)));
     }
     return isTaken;
 }
@@ -59,11 +59,12 @@ void OpenProperties() {
 
 int main(int argc, char** argv) {
     if (argc != 3) {
-        std::fputs("usage: screenshots CONTOURS.cdf FOLDER\n", stderr);
+        static_cast<void>(std::fputs("usage: screenshots CONTOURS.cdf FOLDER\n", stderr));
         return 2;
     }
     if (!MARLINSUITE::UseQtWindows()) {
-        std::fputs("screenshots: no display; QT_QPA_PLATFORM=offscreen needs none\n", stderr);
+        static_cast<void>(
+            std::fputs("screenshots: no display; QT_QPA_PLATFORM=offscreen needs none\n", stderr));
         return 2;
     }
     const Picture pictures[] = {

@@ -57,12 +57,12 @@ bool MARLINSUITE::UseQtWindows() {
         if (!HasDisplay()) {
             return false;
         }
-        [[maybe_unused]] static OwnApplication* const application = MakeForever<OwnApplication>();
+        [[maybe_unused]] static auto* const application = MakeForever<OwnApplication>();
     }
     if (!qobject_cast<QApplication*>(QCoreApplication::instance())) {
         return false;
     }
-    static PLATFORM::QtWindowSystem* const windows = MakeForever<PLATFORM::QtWindowSystem>();
+    static auto* const windows = MakeForever<PLATFORM::QtWindowSystem>();
     PLATFORM::WindowSystem::SetCurrent(windows);
     return true;
 }

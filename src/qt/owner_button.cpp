@@ -1,17 +1,31 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/drawing/c_bitmap.h>
 #include <marlin/platform/drawing/c_dc.h>
+#include <marlin/platform/drawing/c_font.h>
 #include <marlin/platform/drawing/drawing_constants.h>
 #include <marlin/qt/detail/events.h>
 #include <marlin/qt/detail/owner_button.h>
 #include <marlin/qt/detail/qt_text.h>
 
+#include <QFontInfo>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
+#include <algorithm>
 
 namespace PLATFORM {
 
 namespace {
+
+// The dialog's own font, in the pixels of the screen.
+LOGFONTA LogFontOf(const QWidget& widget) {
+    const QFontInfo shown(widget.font());
+    LOGFONTA font;
+    font.lfHeight = -qRound(shown.pixelSize() * widget.devicePixelRatioF());
+    font.lfWeight = shown.weight();
+    const QByteArray face = shown.family().toLatin1().left(LF_FACESIZE - 1);
+    std::ranges::copy(face, font.lfFaceName);
+    return font;
+}
 
 QImage ImageOf(CDC& dc, const QSize& size) {
     QImage image(size, QImage::Format_RGB32);
@@ -26,17 +40,22 @@ QImage ImageOf(CDC& dc, const QSize& size) {
 }  // namespace
 
 void OwnerButton::DrawAnew() {
+    const QSize pixels = size() * devicePixelRatioF();
     CDC dc;
     CBitmap surface;
     if (!dc.CreateCompatibleDC(nullptr) ||
-        !surface.CreateCompatibleBitmap(&dc, width(), height())) {
+        !surface.CreateCompatibleBitmap(&dc, pixels.width(), pixels.height())) {
         return;
     }
-    CBitmap* const before = dc.SelectObject(&surface);
-    dc.SelectStockObject(DEFAULT_GUI_FONT);
-    QtWindowSystem::Events::Draw(m_Handle, dc.m_hDC, {0, 0, width(), height()});
-    m_Face = ImageOf(dc, size());
-    dc.SelectObject(before);
+    CFont font;
+    const LOGFONTA wanted = LogFontOf(*this);
+    font.CreateFontIndirectA(&wanted);
+    CBitmap* const surfaceBefore = dc.SelectObject(&surface);
+    CFont* const fontBefore = dc.SelectObject(&font);
+    QtWindowSystem::Events::Draw(m_Handle, dc.m_hDC, {0, 0, pixels.width(), pixels.height()});
+    m_Face = ImageOf(dc, pixels);
+    dc.SelectObject(fontBefore);
+    dc.SelectObject(surfaceBefore);
     update();
 }
 

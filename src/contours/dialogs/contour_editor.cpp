@@ -10,7 +10,11 @@
 #include <marlin/resources/dialogs.h>
 #include <marlin/resources/messages.h>
 
-using namespace MARLINSUITE;
+#include <algorithm>
+
+using MARLINSUITE::MESSAGE;
+using enum MARLINSUITE::DIALOG;
+using enum MARLINSUITE::CONTROL_ID;
 
 namespace {
 
@@ -109,16 +113,12 @@ void CContourEditor::ApplyToRows(const ContourDefInfo& edited, const std::vector
 
 void CContourEditor::OnRemoveContour() {
     const std::vector<int> rows = SelectedRows();
-    std::vector<int> indices;
-    for (const int row : rows) {
-        indices.push_back(DefinitionOfRow(row));
-    }
+    std::vector<int> indices(rows.size());
+    std::ranges::transform(rows, indices.begin(), [this](int row) { return DefinitionOfRow(row); });
     for (const int index : indices) {
         m_Definitions.Remove(index);
     }
-    for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
-        m_List.DeleteItem(*row);
-    }
+    std::for_each(rows.rbegin(), rows.rend(), [this](int row) { m_List.DeleteItem(row); });
     SelectCountourInList(rows.empty() ? 0 : rows.front());
     SetAddRemoveButtonState();
 }

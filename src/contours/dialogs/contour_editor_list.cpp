@@ -10,7 +10,11 @@
 #include <marlin/resources/dialogs.h>
 #include <marlin/resources/messages.h>
 
-using namespace MARLINSUITE;
+using MARLINSUITE::FixedNumber;
+using MARLINSUITE::LevelDecimals;
+using MARLINSUITE::MESSAGE;
+using MARLINSUITE::WidthDecimals;
+using enum MARLINSUITE::CONTROL_ID;
 
 namespace {
 
@@ -57,7 +61,7 @@ void CContourEditor::InsertRow(int index) {
     const ContourDefInfo& definition = m_Definitions[index];
     const int row = m_List.InsertItem(m_List.GetItemCount(),
                                       FixedNumber(definition.Level, LevelDecimals), index);
-    const double width = static_cast<double>(definition.LineWidth);
+    const auto width = static_cast<double>(definition.LineWidth);
     m_List.SetItemText(row, ANNOTATION, definition.Annotate ? "Yes" : "No");
     m_List.SetItemText(row, WIDTH, FixedNumber(width, WidthDecimals));
     CString type;

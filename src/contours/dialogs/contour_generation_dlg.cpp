@@ -4,7 +4,8 @@
 #include <marlin/platform/windowing/c_data_exchange.h>
 #include <marlin/resources/dialogs.h>
 
-using namespace MARLINSUITE;
+using enum MARLINSUITE::DIALOG;
+using enum MARLINSUITE::CONTROL_ID;
 
 BEGIN_MESSAGE_MAP(CContourGenerationDlg, CDialog)
 ON_WM_HELPINFO()

@@ -5,7 +5,10 @@
 #include <marlin/platform/windowing/c_data_exchange.h>
 #include <marlin/resources/dialogs.h>
 
-using namespace MARLINSUITE;
+using MARLINSUITE::FixedNumber;
+using MARLINSUITE::LevelDecimals;
+using enum MARLINSUITE::DIALOG;
+using enum MARLINSUITE::CONTROL_ID;
 
 namespace {
 

@@ -6,7 +6,6 @@
 #include <span>
 
 using PLATFORM::WindowSystem;
-using PLATFORM::WindowTable;
 
 /// A message as the entries of message maps tell them apart.
 struct CWnd::Notice {

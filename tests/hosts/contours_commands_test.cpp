@@ -30,22 +30,20 @@ TEST(ContourCommands, ARangeThatGivesNoFileIsRefused) {
     const Program program;
     const std::string bounds =
         "--range: LOW must be below HIGH and INTERVAL above 0, for at most 10000000 levels";
-    const auto range = [](const char* low, const char* high, const char* interval) {
-        return Words{"contours", "generate", "--range", low, high, interval, "-o", "f"};
-    };
+    const std::string into = "contours generate -o f --range ";
     ExpectSteps(program, {
-                             {range("5", "5", "1"), 2, "", bounds},
-                             {range("0", "10", "0"), 2, "", bounds},
-                             {range("0", "1", "1e-9"), 2, "", bounds},
-                             {range("0", "x", "1"), 2, "", "--range: \"x\" is no number"},
-                             {range("1", "2", "5"), 1, "",
+                             {into + "5 5 1", 2, "", bounds},
+                             {into + "0 10 0", 2, "", bounds},
+                             {into + "0 1 1e-9", 2, "", bounds},
+                             {into + "0 x 1", 2, "", "--range: \"x\" is no number"},
+                             {into + "1 2 5", 1, "",
                               "no multiple of the interval lies in the range; nothing written"},
                              {"contours generate -o f", 2, "", "--range or --table is required"},
                          });
     EXPECT_EQ(program.NumFiles(), 0);
     // Levels that six decimals cannot tell apart would be one level twice.
     ExpectSteps(program,
-                {{range("0", "0.000001", "0.0000005"), 0,
+                {{into + "0 0.000001 0.0000005", 0,
                   "f: 2 levels\n1 left out: the next has the same level in six decimals\n"}});
 }
 

@@ -29,7 +29,8 @@ struct ProgramResult {
 /// The arguments of a command line; one text is split at its blanks.
 struct Words : std::vector<std::string> {
     Words(std::initializer_list<std::string> words) : vector(words) {}
-    Words(const char* line) {
+    Words(const char* line) : Words(std::string(line)) {}
+    Words(const std::string& line) {
         std::istringstream words(line);
         assign(std::istream_iterator<std::string>(words), {});
     }

@@ -102,16 +102,6 @@ TEST_P(DialogTemplates, AreInReadingOrder) {
     }
 }
 
-TEST_P(DialogTemplates, HaveWordsForEveryControl) {
-    const ControlTemplate* before = nullptr;
-    for (const ControlTemplate& control : m_Template.Controls) {
-        const bool isLabelled = before && before->Kind == CONTROL::LABEL;
-        EXPECT_TRUE(!control.Text.empty() || !control.SpokenName.empty() || isLabelled)
-            << control.Id;
-        before = &control;
-    }
-}
-
 INSTANTIATE_TEST_SUITE_P(Of, DialogTemplates, testing::Values(9010U, 9011U, 9012U));
 
 }  // namespace

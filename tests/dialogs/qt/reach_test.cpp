@@ -92,21 +92,6 @@ TEST_P(ReachTest, EveryControlHasANameToBeSpoken) {
     EXPECT_EQ(names, wanted);
 }
 
-TEST_P(ReachTest, EveryMnemonicIsThereOncePerDialog) {
-    LookAtAll([](const QWidget& dialog) {
-        std::string mnemonics;
-        for (const QWidget* const widget : dialog.findChildren<QWidget*>()) {
-            const QString caption = Caption(widget);
-            if (const auto mark = caption.indexOf('&'); mark >= 0) {
-                mnemonics += caption.at(mark + 1).toLower().toLatin1();
-            }
-        }
-        std::ranges::sort(mnemonics);
-        EXPECT_FALSE(mnemonics.empty());
-        EXPECT_EQ(std::ranges::adjacent_find(mnemonics), mnemonics.end()) << mnemonics;
-    });
-}
-
 TEST_P(ReachTest, NoCaptionIsCutOff) {
     LookAtAll([](const QWidget& dialog) {
         for (const QWidget* const widget : dialog.findChildren<QWidget*>()) {

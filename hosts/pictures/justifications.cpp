@@ -28,7 +28,7 @@ void DrawPlaced(Svg& svg, const TextInfo& style, const Svg::Point& at) {
 
 // All rotations of one justification, the top left corner of their field given.
 void DrawJustification(Svg& svg, std::size_t index, const Svg::Point& corner) {
-    constexpr double numRotations = static_cast<double>(rotations.size());
+    constexpr auto numRotations = static_cast<double>(rotations.size());
     const double line = corner.y + titleHeight;
     DrawCaption(svg, names[index], {corner.x, line - 0.8}, TextInfo::BASELINE_LEFT, 1.6);
     svg.Line({corner.x, line}, {corner.x + numRotations * cell, line}, {"#c0c8d0", 0.1, ""});
@@ -60,9 +60,10 @@ std::string DrawJustifications() {
     DrawRotations(svg, margin);
     DrawRotations(svg, margin + width);
     for (std::size_t i = 0; i < names.size(); ++i) {
+        const std::size_t row = i / 2;
         DrawJustification(svg, i,
                           {margin + static_cast<double>(i % 2) * width,
-                           header + static_cast<double>(i / 2) * rowHeight});
+                           header + static_cast<double>(row) * rowHeight});
     }
     return svg.Document();
 }

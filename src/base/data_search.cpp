@@ -31,7 +31,7 @@ std::string_view Environment(const char* name, std::string_view otherwise = {}) 
 }
 
 path PersonalFolder() {
-    const path folder = Environment("XDG_DATA_HOME");
+    path folder = Environment("XDG_DATA_HOME");
     const path home = Environment("HOME");
     if (folder.is_absolute()) {
         return folder;

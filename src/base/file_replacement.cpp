@@ -38,7 +38,7 @@ int FollowLinks(std::string& path) {
             return errno == EINVAL || errno == ENOENT ? 0 : errno;
         }
         const std::string next = target.substr(0, static_cast<std::size_t>(length));
-        path = next.starts_with('/') ? next : FolderOf(path) + next;
+        path = (next.starts_with('/') ? std::string() : FolderOf(path)).append(next);
     }
     return ELOOP;
 }

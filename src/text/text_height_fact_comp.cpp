@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -70,7 +71,7 @@ const TextHeightFactComp::Measures* TextHeightFactComp::Find(const TextInfo& ti)
     if (!IsUsable(ti.Size())) {
         return nullptr;
     }
-    Entries::const_iterator found = m_Entries.find(ti);
+    auto found = std::as_const(m_Entries).find(ti);
     if (found == m_Entries.end()) {
         found = AddEntry(ti);
     }

@@ -48,7 +48,7 @@ inline std::uint64_t FixedText::Scaled(std::uint64_t bits, int decimals) noexcep
 
 inline void FixedText::AppendScaled(std::string& text, bool negative, std::uint64_t scaled,
                                     int decimals) {
-    std::array<char, 32> buffer;
+    std::array<char, 32> buffer{};
     char* const end = buffer.data() + buffer.size();
     char* at = end;
     std::uint64_t whole = scaled;
@@ -74,7 +74,7 @@ inline void FixedText::AppendScaled(std::string& text, bool negative, std::uint6
 inline bool FixedText::Append(std::string& text, double value, int decimals) {
     constexpr double limit = 4611686018427387904.0;  // 2^62
     const auto bits = std::bit_cast<std::uint64_t>(value);
-    const double magnitude = std::bit_cast<double>(bits & ~(std::uint64_t{1} << 63));
+    const auto magnitude = std::bit_cast<double>(bits & ~(std::uint64_t{1} << 63));
     if (decimals > mostDecimals ||
         !(magnitude * static_cast<double>(powers[static_cast<std::size_t>(decimals)]) < limit)) {
         return false;

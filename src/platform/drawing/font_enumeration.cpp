@@ -65,6 +65,7 @@ std::vector<std::string> FontCatalog::Families() {
     std::vector<InstalledFont> fonts = FontStore::Installed("");
     KeepFamilies(fonts);
     std::vector<std::string> families;
+    families.reserve(fonts.size());
     for (InstalledFont& font : fonts) {
         families.push_back(std::move(font.Family));
     }

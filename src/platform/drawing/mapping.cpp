@@ -84,14 +84,14 @@ double Mapping::ScaleY() const noexcept {
     return std::fabs(static_cast<double>(ViewportExtent.cy) / WindowExtent.cy);
 }
 
-POINT Mapping::ToDevice(POINT p) const noexcept {
-    return {Map(p.x, WindowOrigin.x, WindowExtent.cx, ViewportOrigin.x, ViewportExtent.cx),
-            Map(p.y, WindowOrigin.y, WindowExtent.cy, ViewportOrigin.y, ViewportExtent.cy)};
+POINT Mapping::ToDevice(POINT logical) const noexcept {
+    return {Map(logical.x, WindowOrigin.x, WindowExtent.cx, ViewportOrigin.x, ViewportExtent.cx),
+            Map(logical.y, WindowOrigin.y, WindowExtent.cy, ViewportOrigin.y, ViewportExtent.cy)};
 }
 
-POINT Mapping::ToLogical(POINT p) const noexcept {
-    return {Map(p.x, ViewportOrigin.x, ViewportExtent.cx, WindowOrigin.x, WindowExtent.cx),
-            Map(p.y, ViewportOrigin.y, ViewportExtent.cy, WindowOrigin.y, WindowExtent.cy)};
+POINT Mapping::ToLogical(POINT device) const noexcept {
+    return {Map(device.x, ViewportOrigin.x, ViewportExtent.cx, WindowOrigin.x, WindowExtent.cx),
+            Map(device.y, ViewportOrigin.y, ViewportExtent.cy, WindowOrigin.y, WindowExtent.cy)};
 }
 
 }  // namespace PLATFORM

@@ -100,7 +100,7 @@ BOOL TextOutA(HDC dc, int x, int y, const char* text, int count) {
     const POINT device = context->Map.ToDevice({x, y});
     at.X = device.x;
     at.Y = device.y;
-    const double advance = static_cast<double>(face.Advance(bytes));
+    const auto advance = static_cast<double>(face.Advance(bytes));
     at = Moved(at, -ReferenceX(context->Alignment, advance),
                -ReferenceY(context->Alignment, face.Metrics()));
     const std::vector<Piece> pieces = PiecesOf(dc, bytes, at);

@@ -5,10 +5,9 @@
 
 #include <algorithm>
 #include <cassert>
+#include <clocale>
 #include <cstdarg>
 #include <cstdio>
-
-#include <locale.h>
 
 namespace {
 

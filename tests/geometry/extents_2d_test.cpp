@@ -1,151 +1,116 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/geometry/extents_2d.h>
+#include <marlin/geometry/extents_3d.h>
 #include <marlin/geometry/transformation_2d.h>
 
+#include <array>
+#include <cmath>
 #include <limits>
-#include <vector>
+#include <utility>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-namespace CLS = GTL::CLS;
+using enum GTL::CLS::CLASSIFICATION;
+using Point = GTL::Point2D<double>;
+using Extents = GTL::Extents2D<double>;
 
-template <class T>
-GTL::Extents2D<T> Box(T minX, T minY, T maxX, T maxY) {
-    GTL::Extents2D<T> box;
-    box.min = {minX, minY};
-    box.max = {maxX, maxY};
+/// A box from its least and greatest x and y.
+template <class E>
+E Box(const std::array<double, 4>& sides) {
+    E box;
+    static_cast<Point&>(box.min) = {sides[0], sides[1]};
+    static_cast<Point&>(box.max) = {sides[2], sides[3]};
     return box;
 }
 
-TEST(Extents2D, StartsEmpty) {
-    GTL::Extents2D<double> box;
-    EXPECT_FALSE(box.IsValid());
-    EXPECT_EQ(box, Box<double>(1, 1, 0, 0));
-    EXPECT_EQ(box.ExtentX() + box.ExtentY(), 0.0);
-    EXPECT_EQ(box.Center(), GTL::Point2D<double>(0.5, 0.5));
-    box.Update(2, 3);
-    box.Reset();
-    EXPECT_EQ(box, Box<double>(1, 1, 0, 0));
-}
+// A box of space follows the rules of the plane in x and y.
+template <class E>
+class EveryExtents : public testing::Test {};
 
-TEST(Extents2D, GrowsToEachPoint) {
-    GTL::Extents2D<float> box;
-    box.Update(3, 4);
-    EXPECT_EQ(box, Box<float>(3, 4, 3, 4));
+using ExtentsTypes = testing::Types<Extents, GTL::Extents3D<double>>;
+TYPED_TEST_SUITE(EveryExtents, ExtentsTypes);
+
+TYPED_TEST(EveryExtents, IsEmptyUnlessMaxReachesMinOnBothAxes) {
+    TypeParam box = Box<TypeParam>({1, 1, 1, 1});
     EXPECT_TRUE(box.IsValid());
-    box.Update(GTL::Point2D<float>(1, 10));
-    box.Update(8, -2);
-    box.Update(5, 5);
-    EXPECT_EQ(box, Box<float>(1, -2, 8, 10));
-    EXPECT_EQ(GTL::Point2D<float>(box.MinX(), box.MinY()), box.MinPnt());
-    EXPECT_EQ(GTL::Point2D<float>(box.MaxX(), box.MaxY()), box.MaxPnt());
-    EXPECT_EQ(GTL::Point2D<float>(box.ExtentX(), box.ExtentY()), GTL::Point2D<float>(7, 12));
-    EXPECT_EQ(box.Center(), GTL::Point2D<float>(4.5, 4));
+    box.Reset();
+    EXPECT_EQ(box, Box<TypeParam>({1, 1, 0, 0}));
+    EXPECT_EQ(Point(box.Center()), Point(0.5, 0.5));
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    for (const auto& sides :
+         {std::array<double, 4>{1, 1, 0, 0}, {1, 1, 0, 5}, {1, 1, 5, 0}, {0, 0, nan, 1}}) {
+        const TypeParam empty = Box<TypeParam>(sides);
+        EXPECT_FALSE(empty.IsValid()) << sides[2] << ' ' << sides[3];
+        EXPECT_EQ(Point(empty.ExtentX(), empty.ExtentY()), Point()) << sides[2] << ' ' << sides[3];
+        EXPECT_EQ(empty.Classify(box), NONE) << sides[2] << ' ' << sides[3];
+        EXPECT_EQ(empty.Classify(box.max), NONE) << sides[2] << ' ' << sides[3];
+    }
 }
 
-TEST(Extents2D, UnitesWithOtherBoxes) {
-    const auto box = Box<double>(0, 0, 2, 2);
-    const GTL::Extents2D<double> empty;
-    EXPECT_EQ(box + empty, box);
-    EXPECT_EQ(empty + box, box);
-    EXPECT_EQ(empty + empty, empty);
-    auto grown = box;
-    EXPECT_EQ(&(grown += Box<double>(1, -3, 5, 1)), &grown);
-    grown.Update(empty);
-    grown.Update(grown);
-    EXPECT_EQ(grown, Box<double>(0, -3, 5, 2));
-    GTL::Extents2D<double> itsOwnCorner;
-    itsOwnCorner.Update(itsOwnCorner.max);
-    EXPECT_EQ(itsOwnCorner, Box<double>(0, 0, 0, 0));
+TYPED_TEST(EveryExtents, UnitesWithPointsAndOtherBoxes) {
+    TypeParam box;
+    box.Update(box.max);
+    EXPECT_EQ(box, Box<TypeParam>({0, 0, 0, 0}));
+    box.Update(Box<TypeParam>({2, 2, 2, 2}).min);
+    box.Update(Box<TypeParam>({1, -3, 1, -3}).min);
+    box += Box<TypeParam>({1, -1, 5, 1});
+    box.Update(TypeParam());
+    box.Update(box);
+    EXPECT_EQ(box, Box<TypeParam>({0, -3, 5, 2}));
+    EXPECT_EQ(TypeParam() + box, box);
+    EXPECT_EQ(Point(box.ExtentX(), box.ExtentY()), Point(5, 5));
+    EXPECT_EQ(Point(box.Center()), Point(2.5, -0.5));
 }
 
-TEST(Extents2D, IsValidWhenMaxReachesMinOnBothAxes) {
-    EXPECT_TRUE(Box<double>(1, 1, 1, 1).IsValid());
-    EXPECT_FALSE(Box<double>(1, 1, 0, 1).IsValid());
-    EXPECT_FALSE(Box<double>(1, 1, 1, 0).IsValid());
-    EXPECT_FALSE(Box<double>(0, 0, std::numeric_limits<double>::quiet_NaN(), 1).IsValid());
-    EXPECT_EQ(Box<double>(1, 1, 5, 0).ExtentX(), 0.0);
-    EXPECT_EQ(Box<double>(1, 0, 0, 5).ExtentY(), 0.0);
-}
-
-TEST(Extents2D, ClassifiesPoints) {
-    const auto box = Box<double>(0, 0, 10, 10);
+TYPED_TEST(EveryExtents, ClassifiesPointsAndBoxes) {
+    const TypeParam box = Box<TypeParam>({0, 0, 10, 10});
     const double above = std::nextafter(10.0, 11.0);
     const double below = -std::numeric_limits<double>::denorm_min();
-    const struct {
-        GTL::Point2D<double> point;
-        CLS::CLASSIFICATION expected;
-    } cases[] = {{{10, 10}, CLS::INSIDE},    {{0, 0}, CLS::INSIDE},      {{5, 5}, CLS::INSIDE},
-                 {{10.5, 5}, CLS::OUTSIDE},  {{above, 5}, CLS::OUTSIDE}, {{below, 5}, CLS::OUTSIDE},
-                 {{5, above}, CLS::OUTSIDE}, {{5, below}, CLS::OUTSIDE}};
-    for (const auto& [point, expected] : cases) {
-        EXPECT_EQ(box.Classify(point), expected) << point.x << ' ' << point.y;
+    const std::pair<Point, GTL::CLS::CLASSIFICATION> points[] = {
+        {{10, 10}, INSIDE},    {{0, 0}, INSIDE},      {{5, 5}, INSIDE},      {{10.5, 5}, OUTSIDE},
+        {{above, 5}, OUTSIDE}, {{below, 5}, OUTSIDE}, {{5, above}, OUTSIDE}, {{5, below}, OUTSIDE},
+    };
+    for (const auto& [point, expected] : points) {
+        const TypeParam single = Box<TypeParam>({point.x, point.y, point.x, point.y});
+        EXPECT_EQ(box.Classify(single.min), expected) << point.x << ' ' << point.y;
     }
-    EXPECT_EQ(GTL::Extents2D<double>().Classify(GTL::Point2D<double>(0, 0)), CLS::NONE);
-}
-
-TEST(Extents2D, ClassifiesBoxes) {
-    const auto box = Box<double>(0, 0, 10, 10);
-    const struct {
-        GTL::Extents2D<double> other;
-        CLS::CLASSIFICATION expected;
-    } cases[] = {
-        {Box<double>(10, 10, 20, 20), CLS::OVERLAP}, {Box<double>(2, 2, 8, 8), CLS::INSIDE},
-        {Box<double>(0, 0, 10, 10), CLS::INSIDE},    {Box<double>(-5, -5, 15, 15), CLS::OVERLAP},
-        {Box<double>(11, 0, 12, 1), CLS::OUTSIDE},   {Box<double>(-2, 0, -1, 1), CLS::OUTSIDE},
-        {Box<double>(0, 11, 1, 12), CLS::OUTSIDE},   {Box<double>(0, -2, 1, -1), CLS::OUTSIDE},
-        {Box<double>(-5, 0, 0, 1), CLS::OVERLAP},    {Box<double>(2, -1, 8, 8), CLS::OVERLAP},
-        {Box<double>(2, 2, 11, 8), CLS::OVERLAP},    {Box<double>(2, 2, 8, 11), CLS::OVERLAP},
-        {Box<double>(-1, 2, 8, 8), CLS::OVERLAP},    {GTL::Extents2D<double>(), CLS::NONE}};
-    for (const auto& [other, expected] : cases) {
-        EXPECT_EQ(box.Classify(other), expected) << other.min.x << ' ' << other.min.y;
+    const std::pair<std::array<double, 4>, GTL::CLS::CLASSIFICATION> boxes[] = {
+        {{10, 10, 20, 20}, OVERLAP}, {{2, 2, 8, 8}, INSIDE},    {{0, 0, 10, 10}, INSIDE},
+        {{-5, -5, 15, 15}, OVERLAP}, {{11, 0, 12, 1}, OUTSIDE}, {{-2, 0, -1, 1}, OUTSIDE},
+        {{0, 11, 1, 12}, OUTSIDE},   {{0, -2, 1, -1}, OUTSIDE}, {{-5, 0, 0, 1}, OVERLAP},
+        {{2, -1, 8, 8}, OVERLAP},    {{2, 2, 11, 8}, OVERLAP},  {{2, 2, 8, 11}, OVERLAP},
+        {{-1, 2, 8, 8}, OVERLAP},    {{1, 1, 0, 0}, NONE},
+    };
+    for (const auto& [sides, expected] : boxes) {
+        const TypeParam other = Box<TypeParam>(sides);
+        EXPECT_EQ(box.Classify(other), expected) << sides[0] << ' ' << sides[1];
+        EXPECT_TRUE(expected == NONE || (box + other).Classify(other) == INSIDE) << sides[0];
+        EXPECT_EQ((box + other).Classify(box), INSIDE) << sides[0] << ' ' << sides[1];
+        EXPECT_EQ(box + other, other + box) << sides[0] << ' ' << sides[1];
     }
-    EXPECT_EQ(GTL::Extents2D<double>().Classify(box), CLS::NONE);
-    EXPECT_EQ(CLS::OVERLAP, 10);
-}
-
-TEST(Extents2D, AUnionContainsBothBoxes) {
-    const std::vector<GTL::Extents2D<float>> boxes{Box<float>(0, 0, 1, 1), Box<float>(-5, 2, -4, 9),
-                                                   Box<float>(3, 3, 3, 3),
-                                                   Box<float>(-1e6F, -1, 1e6F, 1)};
-    for (const auto& a : boxes) {
-        for (const auto& b : boxes) {
-            EXPECT_EQ((a + b).Classify(a), CLS::INSIDE);
-            EXPECT_EQ((a + b).Classify(b), CLS::INSIDE);
-            EXPECT_EQ(a + b, b + a);
-        }
-    }
+    EXPECT_EQ(OVERLAP, 10);
 }
 
 TEST(Extents2D, BoundsItsTransformedCorners) {
-    using Point = GTL::Point2D<double>;
     GTL::Transformation2D<Point> turn;
     turn.Rotate(45);
-    auto box = Box<double>(-1, -1, 1, 1);
+    Extents box = Box<Extents>({1, 2, 5, 3});
     box.Transform(turn);
-    const double root = 1.4142135623730951;
-    EXPECT_EQ(box, Box<double>(-root, -root, root, root));
-
-    GTL::Transformation2D<Point> quarter;
-    quarter.Rotate(90);
-    auto wide = Box<double>(1, 2, 5, 3);
-    wide.Transform(quarter);
-    EXPECT_EQ(wide, Box<double>(2, -5, 3, -1));
-
-    GTL::Extents2D<double> empty;
-    empty.Transform(quarter);
-    EXPECT_EQ(empty.MinX(), 1.0);
-    EXPECT_EQ(empty.MaxY(), 0.0);
+    // (x, y) comes to ((x + y) / sqrt 2, (y - x) / sqrt 2).
+    const double part = 0.7071067811865476;
+    EXPECT_EQ(box, Box<Extents>({3 * part, -3 * part, 8 * part, 2 * part}));
+    Extents empty;
+    empty.Transform(turn);
+    EXPECT_EQ(empty, Extents());
 }
 
 TEST(Extents2D, IsEqualWithinTheToleranceOfItsStoredCorners) {
-    const auto box = Box<double>(0, 0, 10, 10);
-    EXPECT_EQ(box, Box<double>(1e-10, 0, 10, 10 + 1e-10));
-    EXPECT_NE(box, Box<double>(1e-8, 0, 10, 10));
-    EXPECT_NE(box, Box<double>(0, 0, 10, 10.1));
-    EXPECT_NE(GTL::Extents2D<double>(), Box<double>(2, 2, 0, 0));
+    const Extents box = Box<Extents>({0, 0, 10, 10});
+    EXPECT_EQ(box, Box<Extents>({1e-10, 0, 10, 10 + 1e-10}));
+    EXPECT_FALSE(box == Box<Extents>({1e-8, 0, 10, 10}));
+    EXPECT_FALSE(box == Box<Extents>({0, 0, 10, 10.1}));
+    EXPECT_FALSE(Extents() == Box<Extents>({2, 2, 0, 0}));
 }
 
 }  // namespace

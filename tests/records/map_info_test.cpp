@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/records/map_info.h>
-#include <marlin/settings/section.h>
 
 #include <gtest/gtest.h>
 #include <support/section_keys.h>
@@ -8,17 +7,14 @@
 namespace {
 
 TEST(CMapInfo, WritesItsDefaults) {
-    Section section("Map");
-    EXPECT_TRUE(CMapInfo().Write(section));
-    EXPECT_EQ(KeysOf(section),
+    EXPECT_EQ(WrittenKeys(CMapInfo()),
               "SymbolizationType=0\nScaleLevel=0\nDisplayType=2\nShowTextGeneric=1\n"
               "ShowTextOther=0\nShowChartContour=1\nShowLightsInfo=0\nAntiCluttering=1\n"
               "ShowBoundaries=1\n");
 }
 
-// One change after the other, so that a field stored under another's key shows.
 TEST(CMapInfo, ReadsBackEveryField) {
-    void (*const changes[])(CMapInfo&) = {
+    ExpectEachChangeKept<CMapInfo>({
         [](CMapInfo& map) { map.SetSymbolizationType(-5); },
         [](CMapInfo& map) { map.SetScaleLevel(6); },
         [](CMapInfo& map) { map.SetDisplayType(7); },
@@ -28,32 +24,15 @@ TEST(CMapInfo, ReadsBackEveryField) {
         [](CMapInfo& map) { map.SetLightsInfo(true); },
         [](CMapInfo& map) { map.SetAntiCluttering(false); },
         [](CMapInfo& map) { map.SetBoundaries(false); },
-    };
-    CMapInfo map;
-    CMapInfo before;
-    for (const auto change : changes) {
-        change(map);
-        EXPECT_FALSE(map == before);
-        Section section("Map");
-        map.Write(section);
-        CMapInfo read;
-        EXPECT_TRUE(read.Read(section));
-        EXPECT_EQ(read, map) << KeysOf(section);
-        before = map;
-    }
+    });
 }
 
 TEST(CMapInfo, KeepsFieldsOfMissingAndUnreadableKeys) {
-    Section section("Map");
-    section["ScaleLevel"] << "large";
-    section["ShowBoundaries"] << "true";
-    section["DisplayType"] << 4;
     CMapInfo map;
     map.SetScaleLevel(3);
-    CMapInfo expected = map;
-    expected.SetDisplayType(4);
-    EXPECT_TRUE(map.Read(section));
-    EXPECT_EQ(map, expected);
+    EXPECT_EQ(ReadFrom(map, "ScaleLevel", "large"), map);
+    map.SetBoundaries(false);
+    EXPECT_EQ(ReadFrom(map, "ShowBoundaries", "true"), map);
 }
 
 }  // namespace

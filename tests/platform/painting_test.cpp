@@ -68,7 +68,7 @@ struct Surface {
     }
 };
 
-TEST(Painting, FillsWithoutTheRightAndBottomEdge) {
+TEST(Painting, FillsAndFramesWithoutTheRightAndBottomEdge) {
     Surface surface(5, 4);
     surface.DC.FillRect(CRect(1, 1, 4, 3), &surface.RedBrush);
     EXPECT_EQ(surface.Picture(), ".....\n.###.\n.###.\n.....\n");
@@ -80,12 +80,9 @@ TEST(Painting, FillsWithoutTheRightAndBottomEdge) {
     EXPECT_EQ(std::vector<unsigned char>(bytes.begin() + 24, bytes.begin() + 28),
               (std::vector<unsigned char>{0, 0, 255, 0}));
     EXPECT_EQ(bytes.back(), 7);
-}
-
-TEST(Painting, FramesOneUnitWithinTheRectangle) {
-    Surface surface(6, 5);
-    surface.DC.FrameRect(CRect(1, 0, 5, 5), &surface.RedBrush);
-    EXPECT_EQ(surface.Picture(), ".####.\n.#..#.\n.#..#.\n.#..#.\n.####.\n");
+    Surface framed(6, 5);
+    framed.DC.FrameRect(CRect(1, 0, 5, 5), &framed.RedBrush);
+    EXPECT_EQ(framed.Picture(), ".####.\n.#..#.\n.#..#.\n.#..#.\n.####.\n");
 }
 
 TEST(Painting, FollowsTheMapping) {

@@ -6,15 +6,12 @@
 #include <cstdlib>
 #include <string>
 #include <tuple>
-#include <utility>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using PLATFORM::FromUtf8;
-using PLATFORM::IsUtf8;
-using PLATFORM::ToUtf8;
+using namespace PLATFORM;
 
 TEST(CString, IsMadeFromTextsAndCutsPartsToItsLength) {
     EXPECT_TRUE(CString(nullptr).IsEmpty());
@@ -74,12 +71,12 @@ TEST(CodePage, BytesStandForTheCharactersOfWindows1252AndComeBack) {
     const std::pair<const char*, const char*> cases[] = {
         {"A", "A"},
         {"\x7F", "\x7F"},
-        {"\x80", "\xE2\x82\xAC"},  // euro sign
-        {"\x96", "\xE2\x80\x93"},  // en dash
-        {"\x9F", "\xC5\xB8"},      // Y with diaeresis
         {"\xA0", "\xC2\xA0"},
         {"\xFF", "\xC3\xBF"},
-    };
+        // The euro sign, the en dash and a Y with diaeresis.
+        {"\x80", "\xE2\x82\xAC"},
+        {"\x96", "\xE2\x80\x93"},
+        {"\x9F", "\xC5\xB8"}};
     for (const auto& [byte, utf8] : cases) {
         EXPECT_EQ(ToUtf8(byte), utf8);
         EXPECT_EQ(FromUtf8(utf8), byte);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/gdi/gdi_mapper.h>
 
-#include <cmath>
 #include <limits>
 
 #include <gtest/gtest.h>
@@ -10,86 +9,66 @@ namespace {
 
 using Point = GTL::Point2D<double>;
 
-GTL::Extents2D<double> Area(double minX, double minY, double maxX, double maxY) {
+GDIMapper Mapper(const Point& min, const Point& max, const CRect& device) {
     GTL::Extents2D<double> area;
-    area.Update(minX, minY);
-    area.Update(maxX, maxY);
-    return area;
-}
-
-GDIMapper Mapper(const GTL::Extents2D<double>& area, const CRect& device) {
+    area.Update(min);
+    area.Update(max);
     GDIMapper mapper;
     mapper.Create(area, device);
     return mapper;
 }
 
-TEST(GDIMapper, FitsTheAreaIntoTheRectangle) {
-    const GDIMapper mapper = Mapper(Area(0, 0, 100, 50), CRect(0, 0, 200, 200));
-    EXPECT_EQ(mapper.GetScale(), 0.5);
-    EXPECT_EQ(mapper << Point(50, 25), CPoint(100, 100));
-    EXPECT_EQ(mapper << Point(0, 25), CPoint(0, 100));
-    EXPECT_EQ(mapper << Point(50, 50), CPoint(100, 50));
-    EXPECT_EQ(mapper.PixelDist(1.2), 2);
-    EXPECT_EQ(mapper.WorldDist(3), 1.5);
-    const Point back = mapper << CPoint(100, 100);
-    EXPECT_EQ(back.x, 50.25);
-    EXPECT_EQ(back.y, 24.75);
-}
-
-TEST(GDIMapper, TakesTheLargerRatio) {
-    EXPECT_EQ(Mapper(Area(0, 0, 100, 300), CRect(0, 0, 100, 100)).GetScale(), 3.0);
-    EXPECT_EQ(Mapper(Area(0, 0, 300, 100), CRect(10, 10, 110, 110)).GetScale(), 3.0);
-}
-
-TEST(GDIMapper, ATopOffZeroLiftsTheCenterTwiceAsFar) {
-    const GDIMapper mapper = Mapper(Area(0, 0, 100, 100), CRect(20, 30, 120, 130));
-    // H - (top + bottom) / 2 = 100 - 80; the rectangle's own centre is at 80.
-    EXPECT_EQ(mapper << Point(50, 50), CPoint(70, 20));
-}
-
-TEST(GDIMapper, CutsTowardsZero) {
-    const GDIMapper mapper = Mapper(Area(-10, -10, 10, 10), CRect(-10, -10, 10, 10));
-    EXPECT_EQ(mapper << Point(2.9, 2.9), CPoint(2, 18));
-    EXPECT_EQ(mapper << Point(-2.9, -2.9), CPoint(-2, 22));
-}
-
-TEST(GDIMapper, HalvesTheDeviceCenterTowardsZero) {
-    const GDIMapper mapper = Mapper(Area(0, 0, 10, 10), CRect(-6, 0, 1, 7));
-    EXPECT_EQ(mapper << Point(5, 5), CPoint(-2, 4));
-}
-
-// Back in the world stands half a unit right of the pixel's left edge, and half a unit below its
-// lower one.
-TEST(GDIMapper, ComesBackNearby) {
-    const GDIMapper mapper = Mapper(Area(-500, 20, 1234, 777), CRect(0, 0, 640, 480));
-    const double unit = mapper.GetScale();
-    for (double x = -500; x <= 1234; x += 97.3) {
-        for (double y = 20; y <= 777; y += 55.1) {
-            const Point back = mapper << (mapper << Point(x, y));
-            EXPECT_LE(std::fabs(back.x - x), 0.5 * unit);
-            EXPECT_GE(y - back.y, 0.5 * unit - 1e-9);
-            EXPECT_LE(y - back.y, 1.5 * unit);
-        }
+TEST(GDIMapper, FitsTheAreaIntoTheRectangleAndComesBackToMiddlesOfPixels) {
+    struct Case {
+        const char* Name;
+        Point Min;
+        Point Max;
+        CRect Device;
+        Point World;
+        CPoint Pixel;
+        Point Back;
+    };
+    // Back stands half a unit right of the pixel's left edge, and half a unit below its lower one.
+    const Case cases[] = {
+        {"centre", {0, 0}, {100, 50}, {0, 0, 200, 200}, {50, 25}, {100, 100}, {50.25, 24.75}},
+        {"left edge", {0, 0}, {100, 50}, {0, 0, 200, 200}, {0, 25}, {0, 100}, {0.25, 24.75}},
+        {"upper edge", {0, 0}, {100, 50}, {0, 0, 200, 200}, {50, 50}, {100, 50}, {50.25, 49.75}},
+        {"by height", {}, {100, 300}, {0, 0, 100, 100}, {50, 150}, {50, 50}, {51.5, 148.5}},
+        {"by width", {}, {300, 100}, {10, 10, 110, 110}, {150, 50}, {60, 40}, {151.5, 48.5}},
+        // H - (top + bottom) / 2 = 100 - 80; the rectangle's own centre is at 80.
+        {"top off 0", {}, {100, 100}, {20, 30, 120, 130}, {50, 50}, {70, 20}, {50.5, 49.5}},
+        {"cut to 0", {-10, -10}, {10, 10}, {-10, -10, 10, 10}, {2.9, 2.9}, {2, 18}, {2.5, 1.5}},
+        {"below 0", {-10, -10}, {10, 10}, {-10, -10, 10, 10}, {-2.9, -2.9}, {-2, 22}, {-1.5, -2.5}},
+        {"a half", {}, {10, 10}, {-6, 0, 1, 7}, {5, 5}, {-2, 4}, {40.0 / 7, 30.0 / 7}},
+    };
+    for (const Case& c : cases) {
+        const GDIMapper mapper = Mapper(c.Min, c.Max, c.Device);
+        EXPECT_EQ(mapper << c.World, c.Pixel) << c.Name;
+        const Point back = mapper << c.Pixel;
+        EXPECT_DOUBLE_EQ(back.x, c.Back.x) << c.Name;
+        EXPECT_DOUBLE_EQ(back.y, c.Back.y) << c.Name;
     }
 }
 
-TEST(GDIMapper, AnEmptyAreaKeepsItsStoredCenter) {
-    const GDIMapper mapper = Mapper({}, CRect(0, 0, 10, 10));
-    EXPECT_EQ(mapper.GetScale(), 0.0);
-    const Point center = mapper << CPoint(7, 7);
-    EXPECT_EQ(center.x, 0.5);
-    EXPECT_EQ(center.y, 0.5);
+TEST(GDIMapper, MeasuresDistances) {
+    const GDIMapper mapper = Mapper({0, 0}, {100, 50}, {0, 0, 200, 200});
+    EXPECT_EQ(mapper.GetScale(), 0.5);
+    EXPECT_EQ(mapper.PixelDist(1.2), 2);
+    EXPECT_EQ(mapper.WorldDist(3), 1.5);
 }
 
 TEST(GDIMapper, MeaninglessMappingsDoNoHarm) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const int most = std::numeric_limits<int>::max();
-    const GDIMapper none;
-    EXPECT_EQ(none << Point(0, 0), CPoint(0, 0));
-    const GDIMapper flat = Mapper(Area(0, 0, 1, 1), CRect(5, 5, 5, 5));
-    EXPECT_EQ((flat << Point(nan, nan)).x, 0);
-    const GDIMapper huge = Mapper(Area(0, 0, 1, 1), CRect(-most - 1, -most - 1, most, most));
+    GDIMapper mapper;
+    EXPECT_EQ(mapper << Point(0, 0), CPoint(0, 0));
+    EXPECT_EQ((Mapper({0, 0}, {1, 1}, {5, 5, 5, 5}) << Point(nan, nan)).x, 0);
+    const GDIMapper huge = Mapper({0, 0}, {1, 1}, {-most - 1, -most - 1, most, most});
     EXPECT_EQ((huge << Point(1e300, -1e300)).x, most);
+    mapper.Create({}, {0, 0, 10, 10});
+    const Point keptCenter = mapper << CPoint(7, 7);
+    EXPECT_EQ(keptCenter.x, 0.5);
+    EXPECT_EQ(keptCenter.y, 0.5);
 }
 
 }  // namespace

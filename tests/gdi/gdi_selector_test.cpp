@@ -14,55 +14,35 @@ protected:
     [[nodiscard]] HGDIOBJ Brush() const { return GetCurrentObject(m_DC, OBJ_BRUSH); }
 
     CBrush m_Red{0x0000FF};
-    CBrush m_Blue{0xFF0000};
     CDC m_DC;
 };
 
 TEST_F(GDISelectorOnDisplay, PutsTheObjectBeforeBack) {
-    const HGDIOBJ before = Brush();
+    const HBRUSH raw = CreateSolidBrush(0x00FF00);
     {
         const GDISelector outer(&m_DC, m_Red);
-        EXPECT_EQ(Brush(), m_Red.m_hObject);
         EXPECT_TRUE(!outer);
         {
-            const GDISelector inner(&m_DC, m_Blue);
-            EXPECT_EQ(Brush(), m_Blue.m_hObject);
+            const GDISelector inner(&m_DC, raw);
+            EXPECT_EQ(Brush(), raw);
+            EXPECT_TRUE(!inner);
         }
         EXPECT_EQ(Brush(), m_Red.m_hObject);
     }
-    EXPECT_EQ(Brush(), before);
-}
-
-TEST_F(GDISelectorOnDisplay, TakesRawHandles) {
-    const HGDIOBJ before = Brush();
-    const HBRUSH raw = CreateSolidBrush(0x00FF00);
-    {
-        const GDISelector selector(&m_DC, raw);
-        EXPECT_EQ(Brush(), raw);
-        EXPECT_TRUE(!selector);
-    }
-    EXPECT_EQ(Brush(), before);
+    EXPECT_EQ(Brush(), GetStockObject(WHITE_BRUSH));
     EXPECT_NE(DeleteObject(raw), 0);
 }
 
-TEST_F(GDISelectorOnDisplay, StockObjectsStaySelected) {
-    {
-        const GDISelector selector(&m_DC, BLACK_BRUSH);
-        EXPECT_EQ(Brush(), GetStockObject(BLACK_BRUSH));
-        EXPECT_FALSE(!selector);
-    }
-    EXPECT_EQ(Brush(), GetStockObject(BLACK_BRUSH));
-}
-
-TEST_F(GDISelectorOnDisplay, SelectsNothingWithoutObjectOrContext) {
-    const HGDIOBJ before = Brush();
+TEST_F(GDISelectorOnDisplay, SelectsNothingWithoutObjectOrContextAndLeavesStockObjects) {
     CBrush none;
     EXPECT_FALSE(!GDISelector(&m_DC, none));
     EXPECT_FALSE(!GDISelector(&m_DC, nullptr));
     EXPECT_FALSE(!GDISelector(&m_DC, static_cast<void*>(&none)));
     EXPECT_FALSE(!GDISelector(nullptr, m_Red));
     EXPECT_FALSE(!GDISelector(nullptr, BLACK_BRUSH));
-    EXPECT_EQ(Brush(), before);
+    EXPECT_EQ(Brush(), GetStockObject(WHITE_BRUSH));
+    EXPECT_FALSE(!GDISelector(&m_DC, BLACK_BRUSH));
+    EXPECT_EQ(Brush(), GetStockObject(BLACK_BRUSH));
 }
 
 }  // namespace

@@ -126,9 +126,10 @@ TEST(FontFaults, DamagedTablesNeverBringTheProgramDown) {
 TEST(FontFaults, ABitmapFontIsNotMeasured) {
     const FolderFonts folder(
         "STARTFONT 2.1\nFONT -misc-Dots-Medium-R-Normal--8-80-75-75-C-80-ISO10646-1\n"
-        "SIZE 8 75 75\nFONTBOUNDINGBOX 8 8 0 0\nSTARTPROPERTIES 4\nFAMILY_NAME \"Dots\"\n"
-        "PIXEL_SIZE 8\nFONT_ASCENT 8\nFONT_DESCENT 0\nENDPROPERTIES\nCHARS 1\nSTARTCHAR A\n"
-        "ENCODING 65\nSWIDTH 1000 0\nDWIDTH 8 0\nBBX 8 8 0 0\nBITMAP\n"
+        "SIZE 8 75 75\nFONTBOUNDINGBOX 8 8 0 0\nSTARTPROPERTIES 6\nFAMILY_NAME \"Dots\"\n"
+        "CHARSET_REGISTRY \"ISO10646\"\nCHARSET_ENCODING \"1\"\nPIXEL_SIZE 8\n"
+        "FONT_ASCENT 8\nFONT_DESCENT 0\nENDPROPERTIES\nCHARS 1\nSTARTCHAR A\nENCODING 65\nSWIDTH "
+        "1000 0\nDWIDTH 8 0\nBBX 8 8 0 0\nBITMAP\n"
         "FF\n81\n81\n81\n81\n81\n81\nFF\nENDCHAR\nENDFONT\n");
     ExpectNothing({"Dots", 100});
     EXPECT_TRUE(FontCatalog::Families().empty());

@@ -13,21 +13,31 @@
 
 namespace {
 
-TEST(Thread, TheWorksResultsDecideOnTheRun) {
+class ThreadTest : public testing::Test {
+protected:
+    ThreadTest() { thread.SetCaller(&caller); }
+
+    /// Lets the work run to its end; what the caller is told then.
+    MSG Run(ThreadObject& work) {
+        EXPECT_TRUE(thread.Start(&work));
+        return caller.AwaitMessage();
+    }
+
+    Caller caller;
+    Thread thread;
+};
+
+TEST_F(ThreadTest, TheWorksResultsDecideOnTheRun) {
     const struct {
         std::vector<int> Results;
         int Calls;
         unsigned int ExitCode;
     } cases[] = {
         {{0}, 1, 0}, {{2}, 1, 1}, {{1, 0}, 2, 0}, {{1, 3, -1, 7, 0}, 5, 0}, {{-2, 2}, 2, 1}};
-    Caller caller;
-    Thread thread;
-    thread.SetCaller(&caller);
     EXPECT_EQ(thread.ExitCode(), 0U);
     for (const auto& run : cases) {
         ScriptedWork work(run.Results);
-        EXPECT_TRUE(thread.Start(&work));
-        caller.AwaitMessage();
+        Run(work);
         EXPECT_FALSE(thread.IsRunning());
         EXPECT_EQ(work.Calls, run.Calls);
         EXPECT_EQ(thread.ExitCode(), run.ExitCode);
@@ -35,13 +45,9 @@ TEST(Thread, TheWorksResultsDecideOnTheRun) {
     EXPECT_FALSE(caller.HasMessage());
 }
 
-TEST(Thread, TheEndIsPostedToTheCallersThreadAfterTheRun) {
-    Caller caller;
-    Thread thread;
-    thread.SetCaller(&caller);
+TEST_F(ThreadTest, TheEndIsPostedToTheCallersThreadAfterTheRun) {
     ScriptedWork work({2});
-    EXPECT_TRUE(thread.Start(&work));
-    const MSG message = caller.AwaitMessage();
+    const MSG message = Run(work);
     EXPECT_EQ(message.message, 2029U);
     EXPECT_EQ(message.wParam, 0U);
     EXPECT_EQ(message.lParam, 0);
@@ -49,10 +55,7 @@ TEST(Thread, TheEndIsPostedToTheCallersThreadAfterTheRun) {
     EXPECT_NE(work.CalledOn.load(), std::this_thread::get_id());
 }
 
-TEST(Thread, OnlyOneRunAtATime) {
-    Caller caller;
-    Thread thread;
-    thread.SetCaller(&caller);
+TEST_F(ThreadTest, OnlyOneRunAtATime) {
     PollingWork work;
     ScriptedWork other({0});
     EXPECT_FALSE(thread.Start(nullptr));
@@ -62,15 +65,11 @@ TEST(Thread, OnlyOneRunAtATime) {
     EXPECT_TRUE(thread.IsRunning());
     thread.Stop();
     caller.AwaitMessage();
-    EXPECT_TRUE(thread.Start(&other));
-    caller.AwaitMessage();
+    Run(other);
     EXPECT_EQ(other.Calls, 1);
 }
 
-TEST(Thread, OfManyStartsAtOnceOneSucceeds) {
-    Caller caller;
-    Thread thread;
-    thread.SetCaller(&caller);
+TEST_F(ThreadTest, OfManyStartsAtOnceOneSucceeds) {
     PollingWork work;
     std::vector<std::future<bool>> starts;
     for (int count = 0; count < 8; ++count) {
@@ -86,10 +85,7 @@ TEST(Thread, OfManyStartsAtOnceOneSucceeds) {
     EXPECT_FALSE(caller.HasMessage());
 }
 
-TEST(Thread, AStoppedRunEndsAfterItsStep) {
-    Caller caller;
-    Thread thread;
-    thread.SetCaller(&caller);
+TEST_F(ThreadTest, AStoppedRunEndsAfterItsStep) {
     EndlessWork work;
     EXPECT_FALSE(thread.KeepRunning());
     EXPECT_TRUE(thread.Start(&work));
@@ -102,10 +98,7 @@ TEST(Thread, AStoppedRunEndsAfterItsStep) {
     EXPECT_EQ(thread.ExitCode(), 1U);
 }
 
-TEST(Thread, ARunStoppedBeforeItsFirstStepCallsNothing) {
-    Caller caller;
-    Thread thread;
-    thread.SetCaller(&caller);
+TEST_F(ThreadTest, ARunStoppedBeforeItsFirstStepCallsNothing) {
     ScriptedWork work({0});
     PLATFORM::HoldWorkers(true);
     EXPECT_TRUE(thread.Start(&work));
@@ -117,10 +110,7 @@ TEST(Thread, ARunStoppedBeforeItsFirstStepCallsNothing) {
     EXPECT_FALSE(thread.IsRunning());
 }
 
-TEST(Thread, AThousandStartsAndStopsInARow) {
-    Caller caller;
-    Thread thread;
-    thread.SetCaller(&caller);
+TEST_F(ThreadTest, AThousandStartsAndStopsInARow) {
     EndlessWork work;
     for (int count = 0; count < 1000; ++count) {
         ASSERT_TRUE(thread.Start(&work));
@@ -131,26 +121,17 @@ TEST(Thread, AThousandStartsAndStopsInARow) {
     EXPECT_FALSE(caller.HasMessage());
 }
 
-TEST(Thread, WorkThatThrowsEndsTheRunAsStopped) {
-    Caller caller;
-    Thread thread;
-    thread.SetCaller(&caller);
+TEST_F(ThreadTest, WorkThatThrowsEndsTheRunAsStopped) {
     ScriptedWork fine({0, 0});
-    EXPECT_TRUE(thread.Start(&fine));
-    caller.AwaitMessage();
+    Run(fine);
     FunctionWork work([](const bool&) -> int { throw std::runtime_error("from the work"); });
-    EXPECT_TRUE(thread.Start(&work));
-    EXPECT_EQ(caller.AwaitMessage().message, 2029U);
+    EXPECT_EQ(Run(work).message, 2029U);
     EXPECT_EQ(thread.ExitCode(), 1U);
-    EXPECT_TRUE(thread.Start(&fine)) << "the mutex was released";
-    caller.AwaitMessage();
+    Run(fine);  // the mutex was released
     EXPECT_EQ(thread.ExitCode(), 0U);
 }
 
-TEST(Thread, WithoutACallerNobodyIsTold) {
-    Caller caller;
-    Thread thread;
-    thread.SetCaller(&caller);
+TEST_F(ThreadTest, WithoutACallerNobodyIsTold) {
     thread.SetCaller(nullptr);
     ScriptedWork work({0});
     EXPECT_TRUE(thread.Start(&work));
@@ -164,28 +145,22 @@ TEST(Thread, WithoutACallerNobodyIsTold) {
     EXPECT_FALSE(caller.HasMessage());
 }
 
-TEST(Thread, AnIdleThreadThatIsResetOnlyTellsTheCaller) {
-    Caller caller;
-    Thread thread;
-    thread.SetCaller(&caller);
+TEST_F(ThreadTest, AnIdleThreadThatIsResetOnlyTellsTheCaller) {
     ScriptedWork work({2});
-    EXPECT_TRUE(thread.Start(&work));
-    caller.AwaitMessage();
+    Run(work);
     thread.HandleEndThread();
     EXPECT_EQ(caller.AwaitMessage().message, 2029U);
     EXPECT_EQ(thread.ExitCode(), 1U);
 }
 
-TEST(Thread, TheMutexIsNamedAfterTheThreadsAddress) {
-    const Thread thread;
+TEST_F(ThreadTest, TheMutexIsNamedAfterTheThreadsAddress) {
     std::ostringstream name;
     name << "Thread[" << std::uppercase << std::hex << reinterpret_cast<std::uintptr_t>(&thread)
          << "]";
     EXPECT_EQ(thread.MutexName(), name.str());
 }
 
-TEST(Thread, TheWorkerOwnsTheMutexDuringItsRun) {
-    Thread thread;
+TEST_F(ThreadTest, TheWorkerOwnsTheMutexDuringItsRun) {
     EndlessWork work;
     EXPECT_EQ(OpenMutexA(SYNCHRONIZE, 0, "Thread[0]"), nullptr);
     const HANDLE mutex = OpenMutexA(SYNCHRONIZE, 0, thread.MutexName().c_str());
@@ -198,10 +173,7 @@ TEST(Thread, TheWorkerOwnsTheMutexDuringItsRun) {
     CloseHandle(mutex);
 }
 
-TEST(Thread, AMutexOfAnotherPartyEndsTheWorkerSilently) {
-    Caller caller;
-    Thread thread;
-    thread.SetCaller(&caller);
+TEST_F(ThreadTest, AMutexOfAnotherPartyEndsTheWorkerSilently) {
     ScriptedWork work({0});
     const HANDLE mutex = OpenMutexA(SYNCHRONIZE, 0, thread.MutexName().c_str());
     ASSERT_EQ(WaitForSingleObject(mutex, 0), WAIT_OBJECT_0);
@@ -216,13 +188,11 @@ TEST(Thread, AMutexOfAnotherPartyEndsTheWorkerSilently) {
     thread.HandleEndThread();
     EXPECT_FALSE(thread.IsRunning());
     caller.AwaitMessage();
-    EXPECT_TRUE(thread.Start(&work));
-    caller.AwaitMessage();
+    Run(work);
     EXPECT_EQ(work.Calls, 1);
 }
 
-TEST(Thread, AStartWithoutAWorkerFailsUntilReset) {
-    Thread thread;
+TEST_F(ThreadTest, AStartWithoutAWorkerFailsUntilReset) {
     ScriptedWork work({0});
     PLATFORM::SetWorkerLimit(0);
     EXPECT_FALSE(thread.Start(&work));
@@ -230,16 +200,16 @@ TEST(Thread, AStartWithoutAWorkerFailsUntilReset) {
     EXPECT_FALSE(thread.IsRunning());
     EXPECT_FALSE(thread.Start(&work)) << "the object stays recorded";
     thread.HandleEndThread();
-    EXPECT_TRUE(thread.Start(&work));
-    AwaitNoWorkers();
+    caller.AwaitMessage();
+    Run(work);
     EXPECT_EQ(work.Calls, 1);
 }
 
-TEST(Thread, DestructionStopsAndWaits) {
+TEST_F(ThreadTest, DestructionStopsAndWaits) {
     PollingWork work;
     {
-        Thread thread;
-        EXPECT_TRUE(thread.Start(&work));
+        Thread ended;
+        EXPECT_TRUE(ended.Start(&work));
         work.Called.acquire();
     }
     EXPECT_TRUE(work.Ended);
@@ -253,44 +223,36 @@ TEST(Thread, DestructionStopsAndWaits) {
     EXPECT_EQ(never.Calls, 0);
 }
 
-TEST(Thread, AForgottenWorkerIsWaitedForAndDisturbsNoLaterRun) {
-    Caller caller;
+TEST_F(ThreadTest, AForgottenWorkerIsWaitedForAndDisturbsNoLaterRun) {
     PollingWork forgotten;
     ScriptedWork later({0});
     {
-        Thread thread;
-        thread.SetCaller(&caller);
-        EXPECT_TRUE(thread.Start(&forgotten));
+        Thread ended;
+        ended.SetCaller(&caller);
+        EXPECT_TRUE(ended.Start(&forgotten));
         forgotten.Called.acquire();
-        thread.HandleEndThread();
+        ended.HandleEndThread();
         caller.AwaitMessage();
-        EXPECT_FALSE(thread.IsRunning());
-        EXPECT_TRUE(thread.Start(&later));
-        thread.Stop();
+        EXPECT_FALSE(ended.IsRunning());
+        EXPECT_TRUE(ended.Start(&later));
+        ended.Stop();
         caller.AwaitMessage();  // of the forgotten worker, the only one that owned the mutex
         EXPECT_TRUE(forgotten.Ended);
     }
     EXPECT_EQ(later.Calls, 0) << "its worker found the mutex owned, or its run stopped";
 }
 
-TEST(Thread, TheWorkerGivesWayToTheOwnersThread) {
-    Caller caller;
-    Thread thread;
-    thread.SetCaller(&caller);
+TEST_F(ThreadTest, TheWorkerGivesWayToTheOwnersThread) {
     int nice = 0;
     FunctionWork work([&nice](const bool&) {
         nice = ::getpriority(PRIO_PROCESS, 0);
         return 0;
     });
-    EXPECT_TRUE(thread.Start(&work));
-    caller.AwaitMessage();
+    Run(work);
     EXPECT_EQ(nice, std::min(::getpriority(PRIO_PROCESS, 0) + 5, 19));
 }
 
-TEST(Thread, TheWorkMayStopItsOwnRun) {
-    Caller caller;
-    Thread thread;
-    thread.SetCaller(&caller);
+TEST_F(ThreadTest, TheWorkMayStopItsOwnRun) {
     int calls = 0;
     FunctionWork work([&](const bool& keepRunning) {
         EXPECT_TRUE(ThreadObject::ShallGoOn(keepRunning));
@@ -298,8 +260,7 @@ TEST(Thread, TheWorkMayStopItsOwnRun) {
         EXPECT_FALSE(ThreadObject::ShallGoOn(keepRunning));
         return ++calls;
     });
-    EXPECT_TRUE(thread.Start(&work));
-    caller.AwaitMessage();
+    Run(work);
     EXPECT_EQ(calls, 1);
     EXPECT_EQ(thread.ExitCode(), 1U);
 }

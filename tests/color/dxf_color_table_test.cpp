@@ -49,14 +49,14 @@ TEST(DXFColorTable, AnswersWithTheLastEntryAtOrBelowTheValue) {
     DXFColorTable table = RedToBlue();
     table.AddEntry(30.0, red);
     table.AddEntry(30.0, green);
+    table.AddEntry(40.0, blue);
     table.Unique();
     const struct {
         double value;
         DXFColor color;
     } cases[] = {
-        {-1.0, dxfGreen},  {nan, dxfGreen},      {-0.0, dxfRed},  {15.0, dxfRed},
-        {below20, dxfRed}, {20.0, dxfBlue},      {25.0, dxfBlue}, {30.0, dxfGreen},
-        {1e300, dxfGreen}, {infinity, dxfGreen},
+        {-1.0, dxfGreen}, {nan, dxfGreen}, {-0.0, dxfRed},   {15.0, dxfRed},   {below20, dxfRed},
+        {20.0, dxfBlue},  {25.0, dxfBlue}, {30.0, dxfGreen}, {1e300, dxfBlue}, {infinity, dxfBlue},
     };
     for (const auto& [value, color] : cases) {
         EXPECT_EQ(table[value].Index(), color.Index()) << value;

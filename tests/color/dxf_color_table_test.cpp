@@ -36,52 +36,31 @@ TEST(DXFColorTable, KeepsTheFirstOfNeighborsOfOneColor) {
     EXPECT_EQ(table.EntryDxfColor(1), dxfBlue);
 }
 
+// The default color outside the entries, the last one of equal values.
 TEST(DXFColorTable, AnswersWithTheLastEntryAtOrBelowTheValue) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    const double below20 = std::nextafter(20.0, 0.0);
+    EXPECT_EQ(DXFColorTable()[3.0], DXFColor::_BLACK);
+    DXFColorTable none;
+    none.SetBelowColor(blue);
+    none.Unique();
+    EXPECT_EQ(none[3.0], dxfBlue);
     DXFColorTable table = RedToBlue();
+    table.AddEntry(30.0, red);
     table.AddEntry(30.0, green);
+    table.AddEntry(40.0, blue);
     table.Unique();
     const struct {
         double value;
         DXFColor color;
     } cases[] = {
-        {-1.0, dxfGreen},
-        {-0.0, dxfRed},
-        {15.0, dxfRed},
-        {std::nextafter(20.0, 0.0), dxfRed},
-        {20.0, dxfBlue},
-        {25.0, dxfBlue},
-        {30.0, dxfGreen},
-        {1e300, dxfGreen},
-        {std::numeric_limits<double>::infinity(), dxfGreen},
+        {-1.0, dxfGreen}, {nan, dxfGreen}, {-0.0, dxfRed},   {15.0, dxfRed},   {below20, dxfRed},
+        {20.0, dxfBlue},  {25.0, dxfBlue}, {30.0, dxfGreen}, {1e300, dxfBlue}, {infinity, dxfBlue},
     };
     for (const auto& [value, color] : cases) {
         EXPECT_EQ(table[value].Index(), color.Index()) << value;
     }
-}
-
-TEST(DXFColorTable, AnswersWithTheDefaultColorOutsideItsEntries) {
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    EXPECT_EQ(DXFColorTable()[3.0], DXFColor::_BLACK);
-    DXFColorTable table;
-    table.SetBelowColor(blue);
-    table.Unique();
-    EXPECT_EQ(table[3.0], dxfBlue);
-    table.AddEntry(5.0, red);
-    table.Unique();
-    EXPECT_EQ(table[4.9], dxfBlue);
-    EXPECT_EQ(table[nan], dxfBlue);
-    EXPECT_EQ(table[5.0], dxfRed);
-    EXPECT_EQ(table[6.0], dxfRed);
-}
-
-TEST(DXFColorTable, AnswersWithTheLastOfEqualValues) {
-    DXFColorTable table;
-    table.AddEntry(0.0, red);
-    table.AddEntry(5.0, green);
-    table.AddEntry(5.0, blue);
-    table.Unique();
-    EXPECT_EQ(table[5.0], dxfBlue);
-    EXPECT_EQ(table[4.0], dxfRed);
 }
 
 TEST(DXFColorTable, FallsBackToTheDefaultColorWhileOutOfStep) {
@@ -132,13 +111,9 @@ TEST(DXFColorTable, GoesThroughAFile) {
     EXPECT_EQ(loaded.BelowColor(), green);
     loaded.Unique();
     EXPECT_EQ(loaded[15.0], dxfRed);
-}
-
-TEST(DXFColorTable, ReportsFilesThatCannotBeReadOrWritten) {
-    DXFColorTable table = RedToBlue();
-    EXPECT_FALSE(table.FileSave("/nowhere/at/all.col"));
-    EXPECT_FALSE(table.FileOpen("/nowhere/at/all.col"));
-    EXPECT_EQ(table.NumEntries(), 0);
+    EXPECT_FALSE(loaded.FileSave("/nowhere/at/all.col"));
+    EXPECT_FALSE(loaded.FileOpen("/nowhere/at/all.col"));
+    EXPECT_EQ(loaded.NumEntries(), 0);
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/number_text.h>
 #include <marlin/contours/contour_definition_list.h>
-#include <marlin/settings/ini_file.h>
 
 #include <string>
 
@@ -9,18 +8,6 @@
 #include <support/temporary_file.h>
 
 namespace {
-
-using Definition = ContourDefinitionList::ContourDefInfo;
-
-Definition Defined(double level, unsigned long color, int type, float width, bool annotate) {
-    Definition definition;
-    definition.Level = level;
-    definition.Color = color;
-    definition.LineType = type;
-    definition.LineWidth = width;
-    definition.Annotate = annotate;
-    return definition;
-}
 
 // "level/color/type/width/annotate " for each definition.
 std::string TextOf(const ContourDefinitionList& list) {
@@ -36,9 +23,9 @@ std::string TextOf(const ContourDefinitionList& list) {
 }
 
 ContourDefinitionList FiveAndTen() {
-    ContourDefinitionList list;
-    list.Add(Defined(10.0, 0x0201FF, 1, 0.25F, true));
-    list.Add(Defined(5.0, 0xFF0000, 0, 1.0F, false));
+    ContourDefinitionList list;  // of width, line type, level, color and annotation
+    list.Add({0.25F, 1, 10.0, 0x0201FF, true});
+    list.Add({1.0F, 0, 5.0, 0xFF0000, false});
     return list;
 }
 
@@ -64,16 +51,6 @@ TEST(ContourDefinitionFile, HasASectionForEachDefinition) {
               "\r\n");
 }
 
-TEST(ContourDefinitionFile, IsWrittenAsASettingsFileIs) {
-    const TemporaryFile file;
-    ASSERT_TRUE(FiveAndTen().Save(file.Path()));
-    const std::string bytes = file.Bytes();
-    IniFile settings(file.Path());
-    EXPECT_EQ(settings.NumSections(), 2);
-    ASSERT_TRUE(settings.Save(std::string(file.Path())).Empty());
-    EXPECT_EQ(file.Bytes(), bytes);
-}
-
 TEST(ContourDefinitionFile, LoadsBehindWhatTheListHolds) {
     const TemporaryFile file;
     const ContourDefinitionList saved = FiveAndTen();
@@ -82,7 +59,7 @@ TEST(ContourDefinitionFile, LoadsBehindWhatTheListHolds) {
     EXPECT_TRUE(loaded.Load(file.Path()));
     EXPECT_EQ(TextOf(loaded), TextOf(saved));
     ContourDefinitionList more;
-    more.Add(Defined(99.0, 1, 2, 3.0F, true));
+    more.Add({3.0F, 2, 99.0, 1, true});
     EXPECT_TRUE(more.Load(file.Path()));
     EXPECT_EQ(TextOf(more), "99/1/2/3/1 " + TextOf(saved));
 }
@@ -141,11 +118,11 @@ TEST(ContourDefinitionFile, LeavesTheListWhenThereIsNothingToRead) {
         EXPECT_FALSE(list.Load(file.Path())) << bytes;
         EXPECT_EQ(TextOf(list), TextOf(FiveAndTen())) << bytes;
     }
-    ContourDefinitionList list = FiveAndTen();
     for (const char* path : {static_cast<const char*>(nullptr), "", "/", "/nowhere/at/all.cdf"}) {
+        ContourDefinitionList list = FiveAndTen();
         EXPECT_FALSE(list.Load(path));
+        EXPECT_EQ(TextOf(list), TextOf(FiveAndTen()));
     }
-    EXPECT_EQ(TextOf(list), TextOf(FiveAndTen()));
 }
 
 TEST(ContourDefinitionFile, YieldsNoDefinitionFromSectionsOfOtherNames) {
@@ -184,42 +161,32 @@ TEST(ContourDefinitionFile, IsSearchedByHalvesThoughItsLevelsDoNotAscend) {
         std::string("[Contour(0)]\nLevel=10\n[Contour(1)]\nLevel=30\n[Contour(2)]\nLevel=5\n")};
     ContourDefinitionList list;
     ASSERT_TRUE(list.Load(file.Path()));
-    EXPECT_EQ(list.Add(Defined(30.0, 0, 0, 0.0F, false)), -1);
-    EXPECT_EQ(list.Add(Defined(20.0, 0, 0, 0.0F, false)), 1);
+    EXPECT_EQ(list.Add({0.0F, 0, 30.0, 0, false}), -1);
+    EXPECT_EQ(list.Add({0.0F, 0, 20.0, 0, false}), 1);
     EXPECT_EQ(TextOf(list), "10/0/0/0/0 20/0/0/0/0 30/0/0/0/0 5/0/0/0/0 ");
 }
 
-TEST(ContourDefinitionFile, IsLeftAloneByAnEmptyList) {
+TEST(ContourDefinitionFile, IsLeftAloneByAnEmptyListAndByPathsThatCannotBeWritten) {
     const TemporaryFile file;
     EXPECT_FALSE(ContourDefinitionList().Save(file.Path()));
     EXPECT_FALSE(file.Exists());
     file.Write("old");
     EXPECT_FALSE(ContourDefinitionList().Save(file.Path()));
     EXPECT_EQ(file.Bytes(), "old");
-}
-
-TEST(ContourDefinitionFile, ReportsAPathThatCannotBeWritten) {
     for (const char* path : {static_cast<const char*>(nullptr), "", "/nowhere/at/all.cdf"}) {
         EXPECT_FALSE(FiveAndTen().Save(path));
     }
 }
 
-TEST(ContourDefinitionFile, NamesAnUnknownLineTypeContinuous) {
-    for (const int type : {-1, 3}) {
-        const TemporaryFile file;
-        ContourDefinitionList list;
-        list.Add(Defined(1.0, 0, type, 0.0F, false));
-        ASSERT_TRUE(list.Save(file.Path()));
-        EXPECT_NE(file.Bytes().find("LineType  = CONTINUOUS\r\n"), std::string::npos);
-    }
-}
-
-TEST(ContourDefinitionFile, KeepsSixDecimalsOfALevel) {
+TEST(ContourDefinitionFile, KeepsSixDecimalsOfALevelAndNamesUnknownLineTypesContinuous) {
     const TemporaryFile file;
     ContourDefinitionList list;
-    list.Add(Defined(0.1234567, 0, 0, 0.0F, false));
-    list.Add(Defined(1e15 + 0.5, 0, 0, 0.0F, false));
+    list.Add({0.0F, -1, 0.1234567, 0, false});
+    list.Add({0.0F, 3, 1e15 + 0.5, 0, false});
     ASSERT_TRUE(list.Save(file.Path()));
+    const std::string bytes = file.Bytes();
+    const char* const line = "LineType  = CONTINUOUS\r\n";
+    EXPECT_NE(bytes.find(line), bytes.rfind(line)) << bytes;
     ContourDefinitionList loaded;
     ASSERT_TRUE(loaded.Load(file.Path()));
     EXPECT_EQ(TextOf(loaded), "0.123457/0/0/0/0 1000000000000000.5/0/0/0/0 ");

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/keywords/keywords.h>
 #include <marlin/keywords/predefined_keywords.h>
-#include <marlin/settings/ini_file.h>
 #include <marlin/settings/section.h>
 
 #include <limits>
@@ -13,30 +12,32 @@
 
 namespace {
 
+using namespace std::string_literals;
+
 // What another object's constructor finds before main.
 const bool staticPredefined = CKeywords::IsPredefinedKeyword("project contractor");
 
-CKeyword Keyword(const std::string& name, const std::string& value, int count) {
-    CKeyword keyword;
-    keyword.m_Key = name;
-    keyword.m_Value = value;
-    keyword.m_RefCount = count;
-    return keyword;
-}
+struct Row {
+    std::string Name;
+    std::string Value;
+    int Count;
+};
 
 // As `Read` makes them, so that names may stand there more than once.
-CKeywords Table(const std::vector<CKeyword>& rows) {
+CKeywords Table(const std::vector<Row>& rows) {
     Section section("Keywords");
-    for (const CKeyword& row : rows) {
-        section += SectionKey(row.m_Key, row.m_Value);
+    for (const Row& row : rows) {
+        section += SectionKey(row.Name, row.Value);
     }
     CKeywords table;
     table.Read(section);
     for (int i = 0; i < table.GetSize(); ++i) {
-        table.GetKeyword(i)->m_RefCount = rows[static_cast<std::size_t>(i)].m_RefCount;
+        table.GetKeyword(i)->m_RefCount = rows[static_cast<std::size_t>(i)].Count;
     }
     return table;
 }
+
+const std::vector<Row> aba = {{"a", "1", 1}, {"b", "2", 2}, {"a", "3", 3}};
 
 // Each keyword as "name=value*count ".
 std::string Rows(const CKeywords& table) {
@@ -60,17 +61,15 @@ CKeywords Numbered(int first, int count) {
 }
 
 TEST(Keywords, AreFoundByNameAndPosition) {
-    CKeywords table = Table({Keyword("A", "1", 0), Keyword("b", "2", 0), Keyword("A", "3", 0)});
+    CKeywords table = Table({{"A", "1", 0}, {"b", "2", 0}, {"A", "3", 0}});
     EXPECT_EQ(table.GetKeyword("A"), table.GetKeyword(0));
     EXPECT_EQ(table.GetKeywordConst("b"), table.GetKeywordConst(1));
     EXPECT_EQ(table.GetKeyword(2)->m_Value, "3");
     for (const char* const name : {"a", "B", "", "A "}) {
         EXPECT_EQ(table.GetKeyword(name), nullptr) << name;
-        EXPECT_EQ(table.GetKeywordConst(name), nullptr) << name;
     }
     for (const int position : {-1, 3, std::numeric_limits<int>::min()}) {
         EXPECT_EQ(table.GetKeyword(position), nullptr) << position;
-        EXPECT_EQ(table.GetKeywordConst(position), nullptr) << position;
     }
 }
 
@@ -91,39 +90,30 @@ TEST(Keywords, KnowThePredefinedNames) {
 }
 
 TEST(Keywords, MergeByNameWhenAdded) {
-    CKeyword c = Keyword("c", "3", 7);
-    c.m_Extra1 = 11;
-    c.m_Extra2 = 12;
-    CKeywords table = Table({Keyword("a", "1", 1), Keyword("b", "2", 2)});
-    table.AddKeyword(&c);
-    const CKeyword a = Keyword("a", "new", 10);
-    table.AddKeyword(&a);
-    table.AddKeywordToFront(&a);
-    const CKeyword front = Keyword("front", "0", -1);
-    table.AddKeywordToFront(&front);
-    table.AddKeyword(nullptr);
-    table.AddKeywordToFront(nullptr);
+    const CKeyword a = {10, 0, 0, "new", "a"};
+    const CKeyword c = {7, 11, 12, "3", "c"};
+    const CKeyword front = {-1, 0, 0, "0", "front"};
+    CKeywords table = Table({{"a", "1", 1}, {"b", "2", 2}});
+    CKeyword* const first = table.GetKeyword("a");
+    for (const CKeyword* const keyword : {&c, &a, static_cast<const CKeyword*>(nullptr)}) {
+        table.AddKeyword(keyword);
+    }
+    for (const CKeyword* const keyword : {&a, &front, static_cast<const CKeyword*>(nullptr)}) {
+        table.AddKeywordToFront(keyword);
+    }
     EXPECT_EQ(Rows(table), "front=0*-1 a=1*21 b=2*2 c=3*7 ");
     EXPECT_EQ(table.GetKeyword("c")->m_Extra1, 11);
     EXPECT_EQ(table.GetKeyword("c")->m_Extra2, 12);
     EXPECT_EQ(table.GetKeyword("a")->m_Extra1, 0);
-}
-
-TEST(Keywords, PointersStayGoodWhileKeywordsAreAdded) {
-    CKeywords table = Table({Keyword("a", "1", 1)});
-    CKeyword* const a = table.GetKeyword("a");
     table.AddKeywords(Numbered(0, 1000));
-    const CKeyword front = Keyword("front", "", 0);
-    table.AddKeywordToFront(&front);
-    EXPECT_EQ(table.GetKeyword("a"), a);
-    table.AddKeyword(a);
-    EXPECT_EQ(a->m_RefCount, 2);
+    EXPECT_EQ(table.GetKeyword("a"), first) << "pointers stay good while keywords are added";
+    table.AddKeyword(first);
+    EXPECT_EQ(first->m_RefCount, 42);
 }
 
 TEST(Keywords, MergeWholeTables) {
-    CKeywords table = Table({Keyword("a", "1", 1), Keyword("b", "2", 2), Keyword("a", "3", 3)});
-    const CKeywords other = Table(
-        {Keyword("c", "x", 4), Keyword("a", "y", 5), Keyword("c", "z", 6), Keyword("a", "w", 7)});
+    CKeywords table = Table(aba);
+    const CKeywords other = Table({{"c", "x", 4}, {"a", "y", 5}, {"c", "z", 6}, {"a", "w", 7}});
     table.AddKeywords(other);
     EXPECT_EQ(Rows(table), "a=1*13 b=2*2 a=3*3 c=x*10 ");
     table.AddKeywords(table);  // the first a: 13 + 13, then 3 of the second one
@@ -131,10 +121,13 @@ TEST(Keywords, MergeWholeTables) {
 }
 
 TEST(Keywords, OfOneNameTheFirstCountsInLargeTablesToo) {
-    std::vector<CKeyword> rows;
+    std::vector<Row> rows;
     for (int i = 0; i < 100; ++i) {
-        rows.push_back(Keyword(std::to_string(i % 50), std::to_string(i), 0));
+        rows.push_back({std::to_string(i % 50), std::to_string(i), 0});
     }
+    CKeywords added;
+    added.AddKeywords(Table(rows));
+    EXPECT_EQ(added.GetSize(), 50);
     CKeywords table = Table(rows);
     table.AddKeywords(Numbered(0, 50));
     table.SetValues(Table(rows));
@@ -147,62 +140,42 @@ TEST(Keywords, OfOneNameTheFirstCountsInLargeTablesToo) {
 TEST(Keywords, CountsStopAtTheLargestNumber) {
     constexpr int most = std::numeric_limits<int>::max();
     constexpr int least = std::numeric_limits<int>::min();
-    CKeywords table = Table({Keyword("a", "", most), Keyword("b", "", least)});
+    CKeywords table = Table({{"a", "", most}, {"b", "", least}});
     table.AddKeywords(table);
     EXPECT_EQ(table.GetKeyword("a")->m_RefCount, most);
     EXPECT_EQ(table.GetKeyword("b")->m_RefCount, least);
 }
 
-TEST(Keywords, LargeTablesMergeLikeSmallOnes) {
-    CKeywords table = Numbered(0, 10'000);
-    table.AddKeywords(Numbered(5'000, 10'000));
-    ASSERT_EQ(table.GetSize(), 15'000);
-    for (int i = 0; i < table.GetSize(); ++i) {
-        ASSERT_EQ(table.GetKeyword(i)->m_Key, std::to_string(i));
-        ASSERT_EQ(table.GetKeyword(i)->m_RefCount, i >= 5'000 && i < 10'000 ? 2 : 1);
-    }
-    CKeywords rest = Numbered(14'000, 2'000);
-    table.AddRefcountRemove(rest);
-    EXPECT_EQ(rest.GetSize(), 1'000);
-    table.ExcludeKeywords(Numbered(1, 14'998));
-    EXPECT_EQ(Rows(table), "0=0*1 14999=14999*2 ");
-}
-
 TEST(Keywords, TakeTheValuesOfAnotherTable) {
-    CKeywords table = Table({Keyword("a", "1", 1), Keyword("b", "2", 2), Keyword("a", "3", 3)});
-    table.SetValues(Table({Keyword("c", "x", 4), Keyword("a", "y", 5), Keyword("a", "z", 6)}));
+    CKeywords table = Table(aba);
+    table.SetValues(Table({{"c", "x", 4}, {"a", "y", 5}, {"a", "z", 6}}));
     EXPECT_EQ(Rows(table), "a=y*1 b=2*2 a=y*3 ");
 }
 
 TEST(Keywords, AreRemovedWhenUnusedOrAskedTo) {
-    CKeywords table = Table(
-        {Keyword("x", "1", 1), Keyword("y", "2", 0), Keyword("x", "3", 0), Keyword("z", "4", -1)});
+    CKeywords table = Table({{"x", "1", 1}, {"y", "2", 0}, {"x", "3", 0}, {"z", "4", -1}});
     table.RemoveKeyword("x", false);
     table.RemoveKeyword("z", false);
     table.RemoveKeyword("none", true);
-    EXPECT_EQ(table.GetSize(), 4);
+    EXPECT_EQ(Rows(table), "x=1*1 y=2*0 x=3*0 z=4*-1 ");
     table.RemoveKeyword("y", false);
     table.RemoveKeyword("x", true);
     EXPECT_EQ(Rows(table), "x=3*0 z=4*-1 ");
     table.ClearRefCount();
     EXPECT_EQ(Rows(table), "x=3*0 z=4*0 ");
-    table.Clear();
-    EXPECT_EQ(table.GetSize(), 0);
 }
 
 TEST(Keywords, AreExcludedOneForOne) {
-    CKeywords table = Table(
-        {Keyword("a", "1", 1), Keyword("b", "2", 2), Keyword("a", "3", 3), Keyword("a", "4", 4)});
-    table.ExcludeKeywords(Table({Keyword("a", "", 0), Keyword("c", "", 0), Keyword("a", "", 0)}));
+    CKeywords table = Table({{"a", "1", 1}, {"b", "2", 2}, {"a", "3", 3}, {"a", "4", 4}});
+    table.ExcludeKeywords(Table({{"a", "", 0}, {"c", "", 0}, {"a", "", 0}}));
     EXPECT_EQ(Rows(table), "b=2*2 a=4*4 ");
     table.ExcludeKeywords(table);
     EXPECT_EQ(table.GetSize(), 0);
 }
 
 TEST(Keywords, CountsMoveFromTableToTable) {
-    CKeywords table = Table({Keyword("a", "1", 1), Keyword("b", "2", 2), Keyword("a", "3", 3)});
-    CKeywords other = Table(
-        {Keyword("c", "x", 4), Keyword("a", "y", 5), Keyword("d", "z", 6), Keyword("a", "w", 7)});
+    CKeywords table = Table(aba);
+    CKeywords other = Table({{"c", "x", 4}, {"a", "y", 5}, {"d", "z", 6}, {"a", "w", 7}});
     table.AddRefcountRemove(other);
     EXPECT_EQ(Rows(table), "a=1*13 b=2*2 a=3*3 ");
     EXPECT_EQ(Rows(other), "c=x*4 d=z*6 ");
@@ -211,28 +184,25 @@ TEST(Keywords, CountsMoveFromTableToTable) {
 }
 
 TEST(Keywords, AreEqualInAnyOrderAndCount) {
-    const CKeywords table = Table({Keyword("a", "1", 1), Keyword("b", "2", 2)});
-    const CKeywords turned = Table({Keyword("b", "2", 9), Keyword("a", "1", 9)});
+    const CKeywords table = Table({{"a", "1", 1}, {"b", "2", 2}});
+    const CKeywords turned = Table({{"b", "2", 9}, {"a", "1", 9}});
     EXPECT_EQ(table, turned);
     EXPECT_NE(table.GetChecksum(), turned.GetChecksum());
-    EXPECT_EQ(table.GetChecksum(),
-              Table({Keyword("a", "1", 5), Keyword("b", "2", 5)}).GetChecksum());
-    EXPECT_FALSE(table == Table({Keyword("a", "1", 1), Keyword("b", "3", 2)}));
-    EXPECT_FALSE(table == Table({Keyword("a", "1", 1), Keyword("c", "2", 2)}));
-    EXPECT_FALSE(table == Table({Keyword("a", "1", 1)}));
-    EXPECT_FALSE(Table({Keyword("a", "1", 1)}) == table);
+    EXPECT_EQ(table.GetChecksum(), Table({{"a", "1", 5}, {"b", "2", 5}}).GetChecksum());
+    const CKeywords a = Table({{"a", "1", 1}});
+    for (const CKeywords& other :
+         {a, Table({{"a", "1", 1}, {"b", "3", 2}}), Table({{"a", "1", 1}, {"c", "2", 2}})}) {
+        EXPECT_FALSE(table == other) << Rows(other);
+        EXPECT_FALSE(other == table) << Rows(other);
+    }
 }
 
 TEST(Keywords, StandInASectionInTheirOrder) {
     Section section("Texts");
-    section.SetComments("kept");
-    section += SectionKey("Old", "key", "comment");
-    const CKeywords table =
-        Table({Keyword("b", "2", 2), Keyword("", "x", 0), Keyword("b", "1", 1)});
+    section += SectionKey("Old", "key");
+    const CKeywords table = Table({{"b", "2", 2}, {"", "x", 0}, {"b", "1", 1}});
     EXPECT_TRUE(table.Write(section).Empty());
     EXPECT_EQ(KeysOf(section), "b=2\n=x\nb=1\n");
-    EXPECT_EQ(*section.GetName(), "Texts");
-    EXPECT_EQ(section.GetComments(), "kept");
     EXPECT_EQ(table.GetChecksum(), section.ComputeChecksum());
     section.AddChecksum();
     CKeywords read = Numbered(0, 3);
@@ -241,33 +211,16 @@ TEST(Keywords, StandInASectionInTheirOrder) {
               "b=2*0 =x*0 b=1*0 $CHECKSUM$=" + std::to_string(table.GetChecksum()) + "*0 ");
 }
 
-TEST(Keywords, SurviveASettingsFile) {
-    const CKeywords table =
-        Table({Keyword("project name", "Harbour basin 4", 2), Keyword("Date", "2024-05-17", 1)});
-    IniFile written;
-    table.Write(written["PlotTexts"]);
-    EXPECT_EQ(written.Text(),
-              "[PlotTexts]\r\nproject name = Harbour basin 4\r\nDate         = 2024-05-17\r\n\r\n");
-    IniFile file;
-    EXPECT_TRUE(file.OpenText(written.Text()).Empty());
-    CKeywords read;
-    read.Read(file["PlotTexts"]);
-    EXPECT_EQ(Rows(read), "project name=Harbour basin 4*0 Date=2024-05-17*0 ");
-}
-
 TEST(Keywords, ReadOneLineLists) {
     const struct {
         std::string text;
         const char* rows;
-    } cases[] = {
-        {"", ""},
-        {"a", "a=*1 "},
-        {"a%b%a", "a=*2 b=*1 "},
-        {"%a%%b%", "a=*1 b=*1 "},
-        {" a ,b%\n", " a ,b=*1 \n=*1 "},
-    };
+    } cases[] = {{"", ""},
+                 {"a%b%a", "a=*2 b=*1 "},
+                 {"%a%%b%", "a=*1 b=*1 "},
+                 {" a ,b%\n", " a ,b=*1 \n=*1 "}};
     for (const auto& [text, rows] : cases) {
-        CKeywords table = Table({Keyword("old", "1", 1)});
+        CKeywords table = Table({{"old", "1", 1}});
         table.FromString(text);
         EXPECT_EQ(Rows(table), rows) << text;
     }
@@ -275,8 +228,7 @@ TEST(Keywords, ReadOneLineLists) {
 
 TEST(Keywords, NamesSurviveTheOneLineList) {
     const std::string odd("n\0ul", 4);
-    const CKeywords table =
-        Table({Keyword("project name", "1", 1), Keyword(odd, "2", 2), Keyword("Z", "3", 3)});
+    const CKeywords table = Table({{"project name", "1", 1}, {odd, "2", 2}, {"Z", "3", 3}});
     EXPECT_EQ(table.ToString(), "project name%" + odd + "%Z");
     EXPECT_EQ(CKeywords().ToString(), "");
     CKeywords read;
@@ -286,6 +238,111 @@ TEST(Keywords, NamesSurviveTheOneLineList) {
     read.FromString(many.ToString());
     EXPECT_EQ(read.ToString(), many.ToString());
     EXPECT_EQ(read.GetSize(), 20'000);
+}
+
+// Each keyword of a text as "name*count ".
+std::string Counted(const CKeywords& keywords) {
+    std::string text;
+    for (int i = 0; i < keywords.GetSize(); ++i) {
+        const CKeyword& keyword = *keywords.GetKeywordConst(i);
+        EXPECT_EQ(keyword.m_Value, keyword.m_Key);
+        text += keyword.m_Key + "*" + std::to_string(keyword.m_RefCount) + " ";
+    }
+    return text;
+}
+
+std::string KeywordsIn(const std::string& text) {
+    CKeywords keywords;
+    keywords.AddKeywordsInString(text);
+    return Counted(keywords);
+}
+
+TEST(KeywordScan, FindsTheNamesBetweenPercentSigns) {
+    const struct {
+        std::string text;
+        const char* keywords;
+    } cases[] = {{"Title %project name% on %current date%", "project name*1 current date*1 "},
+                 {"%%%a%", "a*1 "},
+                 {"%a%%b%", "a*1 b*1 "},
+                 {"%a%b%c%", "a*1 c*1 "},
+                 {"%a% %a%", "a*2 "},
+                 {"%Date%%date%", "Date*1 date*1 "},
+                 {"% a %", " a *1 "},
+                 {"%a%open", "a*1 "},
+                 {"50% of %depth%", " of *1 "},
+                 {"%ab\ncd%ef%", "ef*1 "},
+                 {"%ab\rcd%ef%", "ef*1 "},
+                 {"%ab\0cd%ef%"s, "ef*1 "},
+                 {"%\n%a%", "a*1 "},
+                 {"%a%\0%b%"s, "a*1 b*1 "},
+                 {"%\xE9t\xE9\x80\xFF%", "\xE9t\xE9\x80\xFF*1 "},
+                 {"%\x01\x09\x0B\x24\x26\x8A\x8D\xA5%", "\x01\x09\x0B\x24\x26\x8A\x8D\xA5*1 "}};
+    for (const auto& [text, keywords] : cases) {
+        EXPECT_EQ(KeywordsIn(text), keywords) << text;
+    }
+    for (const char* text : {"", "no keyword", "%", "%%", "%%%", "%%%%", "%%a%", "%open"}) {
+        EXPECT_EQ(KeywordsIn(text), "") << text;
+    }
+}
+
+TEST(KeywordScan, NamesOfEveryLengthEndWhereTheyShould) {
+    for (std::size_t length = 1; length < 40; ++length) {
+        const std::string name(length, 'n');
+        EXPECT_EQ(KeywordsIn("%" + name + "%"), name + "*1 ");
+        EXPECT_EQ(KeywordsIn("%" + name), "");
+        for (const char end : {'\n', '\r', '\0'}) {
+            EXPECT_EQ(KeywordsIn("%" + name + end + "%x%" + name + end + "%"), "x*1 ")
+                << length << ' ' << static_cast<int>(end);
+        }
+    }
+}
+
+TEST(KeywordScan, CountsGoOnFromTextToText) {
+    CKeywords keywords;
+    for (int i = 0; i < 20; ++i) {
+        keywords.AddKeywordsInString("Title %project name% on %current date%");
+    }
+    EXPECT_EQ(Counted(keywords), "project name*20 current date*20 ");
+    CKeyword* const date = keywords.GetKeyword("current date");
+    date->m_Value = "today";
+    keywords.AddKeywordsInString("%current date%%a%%b%%c%%d%");
+    EXPECT_EQ(date->m_Value, "today");
+    EXPECT_EQ(date->m_RefCount, 21);
+}
+
+TEST(KeywordScan, ANameChangedByTheHostIsAnotherOne) {
+    CKeywords keywords;
+    keywords.AddKeywordsInString("%a%%b%%c%%d%%e%%f%%g%%h%%i%%j%%k%");
+    keywords.GetKeyword("j")->m_Key = "z";
+    keywords.AddKeywordsInString("%a%%b%%c%%d%%e%%f%%g%%h%%i%%j%%z%");
+    EXPECT_EQ(keywords.GetKeyword("z")->m_RefCount, 2);
+    EXPECT_EQ(keywords.GetKeyword("j")->m_RefCount, 1);
+    EXPECT_EQ(keywords.GetSize(), 12);
+}
+
+// So many that some names share a 32-bit hash.
+TEST(KeywordScan, TakesAMillionKeywordsInOneText) {
+    std::string text;
+    for (int i = 0; i < 1'000'000; ++i) {
+        text += "%keyword " + std::to_string(i) + "%";
+    }
+    CKeywords keywords;
+    keywords.AddKeywordsInString(text + "%keyword 777777%");
+    ASSERT_EQ(keywords.GetSize(), 1'000'000);
+    EXPECT_EQ(keywords.GetKeyword(999'999)->m_Key, "keyword 999999");
+    EXPECT_EQ(keywords.GetKeyword(777'777)->m_RefCount, 2);
+    EXPECT_EQ(keywords.GetKeyword(777'776)->m_RefCount, 1);
+}
+
+TEST(KeywordScan, TakesALongTextWithoutAClosedKeyword) {
+    std::string text(100'000'000, 'x');
+    text.front() = '%';
+    EXPECT_EQ(KeywordsIn(text), "");
+    text.back() = '%';
+    CKeywords keywords;
+    keywords.AddKeywordsInString(text);
+    ASSERT_EQ(keywords.GetSize(), 1);
+    EXPECT_EQ(keywords.GetKeyword(0)->m_Key.size(), text.size() - 2);
 }
 
 }  // namespace

@@ -1,14 +1,72 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/runtime/observer.h>
+#include <marlin/runtime/subscriber.h>
 
+#include <functional>
 #include <memory>
+#include <stdexcept>
+#include <string>
+#include <utility>
 #include <vector>
 
-#include <runtime/observer_recorder.h>
+#include <gtest/gtest.h>
 
 namespace {
 
-// A subscriber that is destroyed after main, and after the observer's first use in a test.
+// Each test starts with an empty observer and an empty log.
+class ObserverTest : public testing::Test {
+protected:
+    // Writes "name:message " to the log, then acts once.
+    class Recorder : public UTL::Subscriber {
+    public:
+        Recorder(ObserverTest& test, std::string name) : m_Test(test), m_Name(std::move(name)) {}
+
+        std::function<void()> Action;
+
+        void OnNotify(int message) override {
+            m_Test.log += m_Name + ":" + std::to_string(message) + " ";
+            if (const auto action = std::exchange(Action, nullptr)) {
+                action();
+            }
+        }
+
+    private:
+        ObserverTest& m_Test;
+        std::string m_Name;
+    };
+
+    ObserverTest() { observer.Clear(); }
+
+    // They are called in the reverse order.
+    void Subscribe(const std::vector<Recorder*>& subscribers, const std::string& context) {
+        for (Recorder* const subscriber : subscribers) {
+            observer.Subscribe(subscriber, context);
+        }
+    }
+
+    // What is logged while a context is notified.
+    std::string Heard(const std::string& context, int message = 1) {
+        return HeardFrom(observer, context, message);
+    }
+    std::string HeardFrom(UTL::Observer& notifier, const std::string& context, int message = 1) {
+        log.clear();
+        notifier.Notify(context, message);
+        return std::exchange(log, std::string());
+    }
+
+    void ExpectNames(const std::string& previous, const std::string& current) const {
+        EXPECT_EQ(observer.GetPreviousContext(), previous);
+        EXPECT_EQ(observer.GetCurrentContext(), current);
+    }
+
+    UTL::Observer& observer = UTL::Observer::Get();
+    std::string log;
+    Recorder a{*this, "a"};
+    Recorder b{*this, "b"};
+    Recorder c{*this, "c"};
+};
+
+// Destroyed after main, and after the observer's first use in a test.
 class Idle : public UTL::Subscriber {
 public:
     void OnNotify(int) override { ++Calls; }
@@ -19,26 +77,18 @@ public:
 Idle lateToGo;
 
 TEST_F(ObserverTest, TheNewestSubscriberIsCalledFirstAndOnce) {
-    observer.Subscribe(&a, "X");
-    observer.Subscribe(&b, "X");
-    observer.Subscribe(&a, "X");
+    Subscribe({&a, &b, &a}, "X");
     EXPECT_EQ(Heard("X", 5), "b:5 a:5 ");
     EXPECT_EQ(Heard("X", -7), "b:-7 a:-7 ");
 }
 
-TEST_F(ObserverTest, NotifyingMakesAContextCurrentEvenWithoutSubscribers) {
-    EXPECT_EQ(Heard("nobody"), "");
-    EXPECT_EQ(observer.GetCurrentContext(), "nobody");
-    observer.Subscribe(&a, "");
-    EXPECT_EQ(Heard(""), "a:1 ");
-    EXPECT_EQ(observer.GetCurrentContext(), "");
-}
-
 TEST_F(ObserverTest, ContextsThatDifferInCaseOrLettersOrderAreApart) {
     // The first pairs share a chain of the hash table.
-    const std::vector<std::string> names = {"AB", "Ab", "BA", "ba", std::string("A\0B", 3), "\xE4"};
+    const std::vector<std::string> names = {"AB",   "Ab", "BA", "ba", std::string("A\0B", 3),
+                                            "\xE4", ""};
     for (const std::string& name : names) {
         EXPECT_EQ(Heard(name), "");
+        EXPECT_EQ(observer.GetCurrentContext(), name);
         observer.Subscribe(&a, name);
         EXPECT_EQ(Heard(name), "a:1 ");
     }
@@ -50,80 +100,59 @@ TEST_F(ObserverTest, ContextsThatDifferInCaseOrLettersOrderAreApart) {
 
 TEST_F(ObserverTest, UnsubscribingLeavesOtherContextsAndSubscribers) {
     for (const char* const context : {"X", "Y", "Z"}) {
-        observer.Subscribe(&a, context);
-        observer.Subscribe(&b, context);
+        Subscribe({&a, nullptr, &b}, context);
     }
-    observer.UnSubscribe(&a, "X");
-    observer.UnSubscribe(&a, "X");
-    observer.UnSubscribe(&c, "X");
+    for (Recorder* const subscriber : std::vector<Recorder*>{&a, &a, &c, nullptr}) {
+        observer.UnSubscribe(subscriber, "X");
+    }
     EXPECT_EQ(Heard("X") + "| " + Heard("Y"), "b:1 | b:1 a:1 ");
-    observer.UnSubscribe(&a);
-    observer.UnSubscribe(&c);
+    for (Recorder* const subscriber : std::vector<Recorder*>{&a, &c, nullptr}) {
+        observer.UnSubscribe(subscriber);
+    }
     EXPECT_EQ(Heard("Y") + "| " + Heard("Z"), "b:1 | b:1 ");
     observer.Subscribe(&a, "Y");
     EXPECT_EQ(Heard("Y"), "a:1 b:1 ") << "it is the newest again";
 }
 
-TEST_F(ObserverTest, NullIsNoSubscriber) {
-    observer.Subscribe(nullptr, "X");
-    observer.UnSubscribe(nullptr, "X");
-    observer.UnSubscribe(nullptr);
-    EXPECT_EQ(Heard("X"), "");
-}
-
 TEST_F(ObserverTest, DestroyedSubscribersAreInNoContextAndCopiesInNone) {
     {
-        const auto first = std::make_unique<Recorder>(*this, "first");
-        observer.Subscribe(first.get(), "X");
-        observer.Subscribe(first.get(), "Y");
-        Recorder copy = *first;
+        Recorder first(*this, "first");
+        observer.Subscribe(&first, "X");
+        observer.Subscribe(&first, "Y");
+        Recorder copy = first;
         EXPECT_EQ(Heard("X"), "first:1 ");
-        observer.UnSubscribe(first.get(), "X");
+        observer.UnSubscribe(&first, "X");
         observer.Subscribe(&copy, "X");
-        static_cast<UTL::Subscriber&>(copy) = *first;
+        static_cast<UTL::Subscriber&>(copy) = first;
         EXPECT_EQ(Heard("X") + Heard("Y"), "first:1 first:1 ");
     }
     EXPECT_EQ(Heard("X") + Heard("Y"), "");
 }
 
-TEST_F(ObserverTest, RenamingPutsTheMovedInFrontInReverseAndTellsAll) {
-    observer.Subscribe(&a, "A");
-    observer.Subscribe(&b, "A");
+TEST_F(ObserverTest, RenamingPutsTheMovedInFrontInReverseAndTellsEachOnce) {
+    Subscribe({&a, &b}, "A");
     observer.Subscribe(&c, "B");
     observer.RenameSubscribers("A", "B");
     EXPECT_EQ(log, "a:29 b:29 c:29 ");
-    EXPECT_EQ(observer.GetPreviousContext(), "A");
-    EXPECT_EQ(observer.GetCurrentContext(), "B");
-    EXPECT_EQ(Heard("A"), "");
-    EXPECT_EQ(Heard("B"), "a:1 b:1 c:1 ");
+    ExpectNames("A", "B");
+    EXPECT_EQ(Heard("A") + "| " + Heard("B"), "| a:1 b:1 c:1 ");
+    observer.Subscribe(&c, "C");
+    observer.RenameSubscribers("B", "C");
+    EXPECT_EQ(log, "b:29 a:29 c:29 ");
+    observer.UnSubscribe(&c);
+    EXPECT_EQ(Heard("C"), "b:1 a:1 ");
 }
 
-TEST_F(ObserverTest, ASubscriberOfBothNamesIsToldOnce) {
-    observer.Subscribe(&a, "A");
-    observer.Subscribe(&b, "A");
-    observer.Subscribe(&a, "B");
-    observer.RenameSubscribers("A", "B");
-    EXPECT_EQ(log, "b:29 a:29 ");
-    observer.UnSubscribe(&a);
-    EXPECT_EQ(Heard("B"), "b:1 ");
-}
-
-TEST_F(ObserverTest, RenamingToTheSameNameSetsTheNamesAlone) {
+TEST_F(ObserverTest, RenamingTakesTheSameNameAndTheStoredNamesThemselves) {
     observer.Subscribe(&a, "A");
     observer.Notify("before", 1);
     observer.RenameSubscribers("A", "A");
     EXPECT_EQ(log, "");
-    EXPECT_EQ(observer.GetPreviousContext(), "A");
-    EXPECT_EQ(observer.GetCurrentContext(), "A");
+    ExpectNames("A", "A");
     EXPECT_EQ(Heard("A"), "a:1 ");
-}
-
-TEST_F(ObserverTest, RenamingTakesTheStoredNamesThemselves) {
-    observer.Subscribe(&a, "A");
     observer.RenameSubscribers("A", "B");
     observer.RenameSubscribers(observer.GetCurrentContext(), observer.GetPreviousContext());
-    EXPECT_EQ(observer.GetPreviousContext(), "B");
-    EXPECT_EQ(observer.GetCurrentContext(), "A");
+    ExpectNames("B", "A");
     EXPECT_EQ(Heard(observer.GetCurrentContext()), "a:1 ");
     observer.RenameSubscribers("unknown", "A");
     EXPECT_EQ(log, "a:29 ");
@@ -131,21 +160,18 @@ TEST_F(ObserverTest, RenamingTakesTheStoredNamesThemselves) {
 
 TEST_F(ObserverTest, ClearingKeepsTheNames) {
     observer.Subscribe(&a, "X");
-    observer.Subscribe(&a, "Y");
-    observer.Subscribe(&b, "Y");
+    Subscribe({&a, &b}, "Y");
     observer.RenameSubscribers("X", "Z");
     observer.Clear("Y");
     observer.Clear("unknown");
     EXPECT_EQ(Heard("Z"), "a:1 ");
     observer.Clear();
-    EXPECT_EQ(observer.GetPreviousContext(), "X");
-    EXPECT_EQ(observer.GetCurrentContext(), "Z");
+    ExpectNames("X", "Z");
     EXPECT_EQ(Heard("Y") + Heard("Z"), "");
 }
 
 TEST_F(ObserverTest, ACopyNotifiesTheSameAndGoesItsOwnWay) {
-    observer.Subscribe(&a, "X");
-    observer.Subscribe(&b, "X");
+    Subscribe({&a, &b}, "X");
     observer.RenameSubscribers("X", "Y");
     UTL::Observer copy = observer;
     EXPECT_EQ(copy.GetPreviousContext() + copy.GetCurrentContext(), "XY");
@@ -184,6 +210,112 @@ TEST_F(ObserverTest, ManyContextsAndManySubscribersOfOne) {
     EXPECT_EQ(lateToGo.Calls, Contexts + 2);
     observer.Clear();
     observer.Subscribe(&lateToGo, "at the end of the program");
+}
+
+TEST_F(ObserverTest, HandlersMayChangeWhoIsNotified) {
+    Subscribe({&a, &b, &c}, "X");
+    const UTL::Observer saved = observer;
+    std::unique_ptr<UTL::Observer> copy;
+    Recorder d(*this, "d");
+    std::vector<Idle> fresh(100);
+    const struct {
+        const char* Name;
+        std::function<void()> Action;  // of b, which is called between c and a
+        const char* Now;
+        const char* Next;
+    } cases[] = {
+        {"whoever unsubscribes itself is not called again",
+         [this] { observer.UnSubscribe(&b, "X"); }, "c:1 b:1 a:1 ", "c:1 a:1 "},
+        {"whoever was unsubscribed before its turn is not called",
+         [this] { observer.UnSubscribe(&a); }, "c:1 b:1 ", "c:1 b:1 "},
+        {"whoever was called already may be unsubscribed", [this] { observer.UnSubscribe(&c); },
+         "c:1 b:1 a:1 ", "b:1 a:1 "},
+        {"whoever comes back is new and waits for the next notification",
+         [this] {
+             observer.UnSubscribe(&a, "X");
+             observer.Subscribe(&a, "X");
+         },
+         "c:1 b:1 ", "a:1 c:1 b:1 "},
+        {"many new subscribers wait for the next notification",
+         [&] {
+             for (Idle& subscriber : fresh) {
+                 observer.Subscribe(&subscriber, "X");
+             }
+         },
+         "c:1 b:1 a:1 ", "c:1 b:1 a:1 "},
+        {"clearing the context ends its notification", [this] { observer.Clear("X"); }, "c:1 b:1 ",
+         ""},
+        {"clearing everything ends the notification", [this] { observer.Clear(); }, "c:1 b:1 ", ""},
+        {"a cleared context may be filled anew",
+         [this] {
+             observer.Clear("X");
+             observer.Subscribe(&a, "X");
+             observer.Notify("X", 2);
+         },
+         "c:1 b:1 a:2 ", "a:1 "},
+        {"notifications nest",
+         [this] {
+             observer.UnSubscribe(&c, "X");
+             observer.Notify("X", 2);
+             observer.Notify("Y", 3);
+             EXPECT_EQ(observer.GetCurrentContext(), "Y");
+         },
+         "c:1 b:1 b:2 a:2 a:1 ", "b:1 a:1 "},
+        {"the observer may be assigned to", [&] { observer = saved; }, "c:1 b:1 ", "c:1 b:1 a:1 "},
+        {"a copy has those who are there",
+         [&] {
+             observer.UnSubscribe(&a, "X");
+             copy = std::make_unique<UTL::Observer>(observer);
+         },
+         "c:1 b:1 ", "c:1 b:1 "},
+        {"those who are moved in are told the new name alone",
+         [&] {
+             observer.Subscribe(&d, "Y");
+             observer.RenameSubscribers("Y", "X");
+         },
+         "c:1 b:1 d:29 c:29 b:29 a:29 a:1 ", "d:1 c:1 b:1 a:1 "},
+        {"renaming the context ends its notification",
+         [this] { observer.RenameSubscribers("X", "Y"); }, "c:1 b:1 a:29 b:29 c:29 ", ""},
+    };
+    for (const auto& test : cases) {
+        observer.Clear();
+        Subscribe({&a, &b, &c}, "X");
+        b.Action = test.Action;
+        EXPECT_EQ(Heard("X"), test.Now) << test.Name;
+        EXPECT_EQ(Heard("X"), test.Next) << test.Name;
+    }
+    EXPECT_EQ(Heard("Y"), "a:1 b:1 c:1 ") << "they were renamed last";
+    EXPECT_EQ(HeardFrom(*copy, "X"), "c:1 b:1 ");
+    for (const Idle& subscriber : fresh) {
+        EXPECT_EQ(subscriber.Calls, 1);
+    }
+}
+
+TEST_F(ObserverTest, ASubscriberMayDestroyItselfAndAllOthers) {
+    auto d = std::make_unique<Recorder>(*this, "d");
+    Subscribe({&a, d.get()}, "X");
+    observer.Subscribe(d.get(), "Y");
+    d->Action = [&d] { d.reset(); };
+    EXPECT_EQ(Heard("X"), "d:1 a:1 ");
+    EXPECT_EQ(Heard("X") + Heard("Y"), "a:1 ");
+    std::vector<Idle> others(100);
+    for (Idle& other : others) {
+        observer.Subscribe(&other, "Z");
+    }
+    observer.Subscribe(&a, "Z");
+    a.Action = [&others] { others.clear(); };
+    EXPECT_EQ(Heard("Z"), "a:1 ");
+    EXPECT_EQ(Heard("Z"), "a:1 ");
+}
+
+TEST_F(ObserverTest, WhatAHandlerThrowsReachesTheNotifier) {
+    Subscribe({&a, &b, &c}, "X");
+    b.Action = [this] {
+        observer.UnSubscribe(&b, "X");
+        throw std::runtime_error("from the handler");
+    };
+    EXPECT_THROW(observer.Notify("X", 1), std::runtime_error);
+    EXPECT_EQ(Heard("X"), "c:1 a:1 ");
 }
 
 }  // namespace

@@ -1,30 +1,94 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/kernel/mutex.h>
+#include <marlin/platform/windowing/c_wnd.h>
 #include <marlin/runtime/thread.h>
 
+#include <atomic>
+#include <functional>
 #include <future>
+#include <semaphore>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
-#include <runtime/thread_test_work.h>
 #include <support/workers.h>
 #include <sys/resource.h>
 
 namespace {
 
+class FunctionWork : public ThreadObject {
+public:
+    explicit FunctionWork(std::function<int(const bool&)> step) : m_Step(std::move(step)) {}
+
+    int Execute(const bool& keepRunning) override { return m_Step(keepRunning); }
+
+private:
+    std::function<int(const bool&)> m_Step;
+};
+
+// Returns one result after the other; the last must end the run.
+class ScriptedWork : public ThreadObject {
+public:
+    explicit ScriptedWork(std::vector<int> results) : m_Results(std::move(results)) {}
+
+    std::atomic<int> Calls{0};
+
+    int Execute(const bool&) override { return m_Results.at(static_cast<std::size_t>(Calls++)); }
+
+private:
+    std::vector<int> m_Results;
+};
+
+// One long step, which ends when it shall.
+class PollingWork : public ThreadObject {
+public:
+    std::binary_semaphore Called{0};
+    std::atomic<bool> Ended{false};
+
+    int Execute(const bool& keepRunning) override {
+        Called.release();
+        while (ShallGoOn(keepRunning)) {
+            std::this_thread::yield();
+        }
+        Ended = true;
+        return 1;
+    }
+};
+
+// A window of the test's thread.
+class Caller : public CWnd {
+public:
+    Caller() { Create(); }
+
+    // Waits for the message of an end.
+    void AwaitEnd() {
+        MSG message;
+        GetMessageA(&message, GetSafeHwnd(), 0, 0);
+        EXPECT_EQ(message.message, 2029U);
+        EXPECT_EQ(message.wParam, 0U);
+        EXPECT_EQ(message.lParam, 0);
+    }
+
+    [[nodiscard]] bool HasMessage() const {
+        MSG message;
+        return PeekMessageA(&message, GetSafeHwnd(), 0, 0, PM_NOREMOVE) != 0;
+    }
+};
+
 class ThreadTest : public testing::Test {
 protected:
     ThreadTest() { thread.SetCaller(&caller); }
 
-    /// Lets the work run to its end; what the caller is told then.
-    MSG Run(ThreadObject& work) {
-        EXPECT_TRUE(thread.Start(&work));
-        return caller.AwaitMessage();
+    void RunToTheEnd(ThreadObject& work) {
+        ASSERT_TRUE(thread.Start(&work));
+        caller.AwaitEnd();
     }
 
     Caller caller;
     Thread thread;
+    ScriptedWork once{{0}};
 };
 
 TEST_F(ThreadTest, TheWorksResultsDecideOnTheRun) {
@@ -37,36 +101,28 @@ TEST_F(ThreadTest, TheWorksResultsDecideOnTheRun) {
     EXPECT_EQ(thread.ExitCode(), 0U);
     for (const auto& run : cases) {
         ScriptedWork work(run.Results);
-        Run(work);
+        RunToTheEnd(work);
         EXPECT_FALSE(thread.IsRunning());
         EXPECT_EQ(work.Calls, run.Calls);
-        EXPECT_EQ(thread.ExitCode(), run.ExitCode);
+        EXPECT_EQ(thread.ExitCode(), run.ExitCode) << testing::PrintToString(run.Results);
     }
     EXPECT_FALSE(caller.HasMessage());
-}
-
-TEST_F(ThreadTest, TheEndIsPostedToTheCallersThreadAfterTheRun) {
-    ScriptedWork work({2});
-    const MSG message = Run(work);
-    EXPECT_EQ(message.message, 2029U);
-    EXPECT_EQ(message.wParam, 0U);
-    EXPECT_EQ(message.lParam, 0);
-    EXPECT_EQ(caller.HandledOn, std::this_thread::get_id());
-    EXPECT_NE(work.CalledOn.load(), std::this_thread::get_id());
+    thread.HandleEndThread();
+    caller.AwaitEnd();
+    EXPECT_EQ(thread.ExitCode(), 1U) << "an idle thread that is reset only tells the caller";
 }
 
 TEST_F(ThreadTest, OnlyOneRunAtATime) {
     PollingWork work;
-    ScriptedWork other({0});
     EXPECT_FALSE(thread.Start(nullptr));
     EXPECT_TRUE(thread.Start(&work));
     EXPECT_FALSE(thread.Start(&work));
-    EXPECT_FALSE(thread.Start(&other));
+    EXPECT_FALSE(thread.Start(&once));
     EXPECT_TRUE(thread.IsRunning());
     thread.Stop();
-    caller.AwaitMessage();
-    Run(other);
-    EXPECT_EQ(other.Calls, 1);
+    caller.AwaitEnd();
+    RunToTheEnd(once);
+    EXPECT_EQ(once.Calls, 1);
 }
 
 TEST_F(ThreadTest, OfManyStartsAtOnceOneSucceeds) {
@@ -81,60 +137,57 @@ TEST_F(ThreadTest, OfManyStartsAtOnceOneSucceeds) {
     }
     EXPECT_EQ(succeeded, 1);
     thread.Stop();
-    caller.AwaitMessage();
+    caller.AwaitEnd();
     EXPECT_FALSE(caller.HasMessage());
 }
 
 TEST_F(ThreadTest, AStoppedRunEndsAfterItsStep) {
-    EndlessWork work;
+    std::counting_semaphore<> called{0};
+    FunctionWork endless([&called](const bool&) {
+        called.release();
+        return 1;
+    });
     EXPECT_FALSE(thread.KeepRunning());
-    EXPECT_TRUE(thread.Start(&work));
-    work.Called.acquire();
+    EXPECT_TRUE(thread.Start(&endless));
+    called.acquire();
     EXPECT_TRUE(thread.KeepRunning());
     EXPECT_TRUE(thread.IsRunning());
     thread.Stop();
     EXPECT_FALSE(thread.KeepRunning());
-    caller.AwaitMessage();
+    caller.AwaitEnd();
     EXPECT_EQ(thread.ExitCode(), 1U);
-}
-
-TEST_F(ThreadTest, ARunStoppedBeforeItsFirstStepCallsNothing) {
-    ScriptedWork work({0});
-    PLATFORM::HoldWorkers(true);
-    EXPECT_TRUE(thread.Start(&work));
-    thread.Stop();
-    PLATFORM::HoldWorkers(false);
-    caller.AwaitMessage();
-    EXPECT_EQ(work.Calls, 0);
-    EXPECT_EQ(thread.ExitCode(), 1U);
-    EXPECT_FALSE(thread.IsRunning());
-}
-
-TEST_F(ThreadTest, AThousandStartsAndStopsInARow) {
-    EndlessWork work;
     for (int count = 0; count < 1000; ++count) {
-        ASSERT_TRUE(thread.Start(&work));
+        ASSERT_TRUE(thread.Start(&endless));
         thread.Stop();
-        caller.AwaitMessage();
+        caller.AwaitEnd();
         ASSERT_EQ(thread.ExitCode(), 1U);
     }
     EXPECT_FALSE(caller.HasMessage());
 }
 
-TEST_F(ThreadTest, WorkThatThrowsEndsTheRunAsStopped) {
-    ScriptedWork fine({0, 0});
-    Run(fine);
-    FunctionWork work([](const bool&) -> int { throw std::runtime_error("from the work"); });
-    EXPECT_EQ(Run(work).message, 2029U);
+TEST_F(ThreadTest, ARunStoppedBeforeItsFirstStepCallsNothing) {
+    PLATFORM::HoldWorkers(true);
+    EXPECT_TRUE(thread.Start(&once));
+    thread.Stop();
+    PLATFORM::HoldWorkers(false);
+    caller.AwaitEnd();
+    EXPECT_EQ(once.Calls, 0);
     EXPECT_EQ(thread.ExitCode(), 1U);
-    Run(fine);  // the mutex was released
+    EXPECT_FALSE(thread.IsRunning());
+}
+
+TEST_F(ThreadTest, WorkThatThrowsEndsTheRunAsStopped) {
+    FunctionWork work([](const bool&) -> int { throw std::runtime_error("from the work"); });
+    RunToTheEnd(work);
+    EXPECT_EQ(thread.ExitCode(), 1U);
+    RunToTheEnd(once);
+    EXPECT_EQ(once.Calls, 1) << "the mutex was released";
     EXPECT_EQ(thread.ExitCode(), 0U);
 }
 
 TEST_F(ThreadTest, WithoutACallerNobodyIsTold) {
     thread.SetCaller(nullptr);
-    ScriptedWork work({0});
-    EXPECT_TRUE(thread.Start(&work));
+    EXPECT_TRUE(thread.Start(&once));
     AwaitNoWorkers();
     thread.HandleEndThread();
     EXPECT_FALSE(caller.HasMessage());
@@ -145,25 +198,13 @@ TEST_F(ThreadTest, WithoutACallerNobodyIsTold) {
     EXPECT_FALSE(caller.HasMessage());
 }
 
-TEST_F(ThreadTest, AnIdleThreadThatIsResetOnlyTellsTheCaller) {
-    ScriptedWork work({2});
-    Run(work);
-    thread.HandleEndThread();
-    EXPECT_EQ(caller.AwaitMessage().message, 2029U);
-    EXPECT_EQ(thread.ExitCode(), 1U);
-}
-
-TEST_F(ThreadTest, TheMutexIsNamedAfterTheThreadsAddress) {
+TEST_F(ThreadTest, TheWorkerOwnsTheMutexOfTheThreadsAddressDuringItsRun) {
+    PollingWork work;
     std::ostringstream name;
     name << "Thread[" << std::uppercase << std::hex << reinterpret_cast<std::uintptr_t>(&thread)
          << "]";
     EXPECT_EQ(thread.MutexName(), name.str());
-}
-
-TEST_F(ThreadTest, TheWorkerOwnsTheMutexDuringItsRun) {
-    EndlessWork work;
-    EXPECT_EQ(OpenMutexA(SYNCHRONIZE, 0, "Thread[0]"), nullptr);
-    const HANDLE mutex = OpenMutexA(SYNCHRONIZE, 0, thread.MutexName().c_str());
+    const HANDLE mutex = OpenMutexA(SYNCHRONIZE, 0, name.str().c_str());
     EXPECT_TRUE(thread.Start(&work));
     work.Called.acquire();
     EXPECT_EQ(WaitForSingleObject(mutex, 0), WAIT_TIMEOUT);
@@ -174,93 +215,83 @@ TEST_F(ThreadTest, TheWorkerOwnsTheMutexDuringItsRun) {
 }
 
 TEST_F(ThreadTest, AMutexOfAnotherPartyEndsTheWorkerSilently) {
-    ScriptedWork work({0});
     const HANDLE mutex = OpenMutexA(SYNCHRONIZE, 0, thread.MutexName().c_str());
     ASSERT_EQ(WaitForSingleObject(mutex, 0), WAIT_OBJECT_0);
-    EXPECT_TRUE(thread.Start(&work));
+    EXPECT_TRUE(thread.Start(&once));
     AwaitNoWorkers();
     EXPECT_TRUE(thread.IsRunning());
-    EXPECT_EQ(work.Calls, 0);
+    EXPECT_EQ(once.Calls, 0);
     EXPECT_FALSE(caller.HasMessage());
-    EXPECT_FALSE(thread.Start(&work));
+    EXPECT_FALSE(thread.Start(&once));
     ReleaseMutex(mutex);
     CloseHandle(mutex);
     thread.HandleEndThread();
     EXPECT_FALSE(thread.IsRunning());
-    caller.AwaitMessage();
-    Run(work);
-    EXPECT_EQ(work.Calls, 1);
+    caller.AwaitEnd();
+    RunToTheEnd(once);
+    EXPECT_EQ(once.Calls, 1);
 }
 
 TEST_F(ThreadTest, AStartWithoutAWorkerFailsUntilReset) {
-    ScriptedWork work({0});
     PLATFORM::SetWorkerLimit(0);
-    EXPECT_FALSE(thread.Start(&work));
+    EXPECT_FALSE(thread.Start(&once));
     PLATFORM::SetWorkerLimit(PLATFORM::NoWorkerLimit);
     EXPECT_FALSE(thread.IsRunning());
-    EXPECT_FALSE(thread.Start(&work)) << "the object stays recorded";
+    EXPECT_FALSE(thread.Start(&once)) << "the object stays recorded";
     thread.HandleEndThread();
-    caller.AwaitMessage();
-    Run(work);
-    EXPECT_EQ(work.Calls, 1);
+    EXPECT_TRUE(thread.Start(&once));
+    AwaitNoWorkers();
+    EXPECT_EQ(once.Calls, 1);
 }
 
 TEST_F(ThreadTest, DestructionStopsAndWaits) {
     PollingWork work;
     {
-        Thread ended;
-        EXPECT_TRUE(ended.Start(&work));
+        Thread started;
+        EXPECT_TRUE(started.Start(&work));
         work.Called.acquire();
     }
     EXPECT_TRUE(work.Ended);
-    ScriptedWork never({0});
     PLATFORM::HoldWorkers(true);
-    auto held = std::make_unique<Thread>();
-    EXPECT_TRUE(held->Start(&never));
-    held->Stop();
-    PLATFORM::HoldWorkers(false);
-    held.reset();
-    EXPECT_EQ(never.Calls, 0);
+    {
+        Thread held;
+        EXPECT_TRUE(held.Start(&once));
+        held.Stop();
+        PLATFORM::HoldWorkers(false);
+    }
+    EXPECT_EQ(once.Calls, 0);
 }
 
 TEST_F(ThreadTest, AForgottenWorkerIsWaitedForAndDisturbsNoLaterRun) {
     PollingWork forgotten;
-    ScriptedWork later({0});
     {
-        Thread ended;
-        ended.SetCaller(&caller);
-        EXPECT_TRUE(ended.Start(&forgotten));
+        Thread own;
+        own.SetCaller(&caller);
+        EXPECT_TRUE(own.Start(&forgotten));
         forgotten.Called.acquire();
-        ended.HandleEndThread();
-        caller.AwaitMessage();
-        EXPECT_FALSE(ended.IsRunning());
-        EXPECT_TRUE(ended.Start(&later));
-        ended.Stop();
-        caller.AwaitMessage();  // of the forgotten worker, the only one that owned the mutex
+        own.HandleEndThread();
+        caller.AwaitEnd();
+        EXPECT_FALSE(own.IsRunning());
+        EXPECT_TRUE(own.Start(&once));
+        own.Stop();
+        caller.AwaitEnd();  // of the forgotten worker, the only one that owned the mutex
         EXPECT_TRUE(forgotten.Ended);
     }
-    EXPECT_EQ(later.Calls, 0) << "its worker found the mutex owned, or its run stopped";
+    EXPECT_EQ(once.Calls, 0) << "its worker found the mutex owned, or its run stopped";
 }
 
-TEST_F(ThreadTest, TheWorkerGivesWayToTheOwnersThread) {
-    int nice = 0;
-    FunctionWork work([&nice](const bool&) {
-        nice = ::getpriority(PRIO_PROCESS, 0);
-        return 0;
-    });
-    Run(work);
-    EXPECT_EQ(nice, std::min(::getpriority(PRIO_PROCESS, 0) + 5, 19));
-}
-
-TEST_F(ThreadTest, TheWorkMayStopItsOwnRun) {
+TEST_F(ThreadTest, TheWorkGivesWayToTheOwnersThreadAndMayStopItsOwnRun) {
     int calls = 0;
+    int nice = 0;
     FunctionWork work([&](const bool& keepRunning) {
+        nice = ::getpriority(PRIO_PROCESS, 0);
         EXPECT_TRUE(ThreadObject::ShallGoOn(keepRunning));
         thread.Stop();
         EXPECT_FALSE(ThreadObject::ShallGoOn(keepRunning));
         return ++calls;
     });
-    Run(work);
+    RunToTheEnd(work);
+    EXPECT_EQ(nice, std::min(::getpriority(PRIO_PROCESS, 0) + 5, 19));
     EXPECT_EQ(calls, 1);
     EXPECT_EQ(thread.ExitCode(), 1U);
 }

@@ -11,19 +11,11 @@
 
 #include <gtest/gtest.h>
 #include <support/font_tables.h>
-#include <support/temporary_folder.h>
+#include <text/style.h>
 
 namespace {
 
 using PLATFORM::FontCatalog;
-
-TextInfo Style(const std::string& font, float size, int style = 0) {
-    TextInfo ti;
-    ti.SetFont(font);
-    ti.SetSize(size);
-    ti.SetStyle(static_cast<TextInfo::STYLE>(style));
-    return ti;
-}
 
 // A folder without fonts in place of the system's, for the lifetime of a scope.
 class NoFonts {
@@ -74,16 +66,10 @@ TEST(TextHeightFactComp, AgreesWithTheTablesOfTheFont) {
     }
 }
 
-TEST(TextHeightFactComp, MeasuresEveryStyleUprightAndLight) {
-    const float plain = Factor(Style("DejaVu Serif", 3.0F));
-    EXPECT_EQ(Factor(Style("DejaVu Serif", 3.0F, TextInfo::BOLD | TextInfo::ITALIC)), plain);
-    const TextInfo bold = Style("DejaVu Serif", 3.0F, TextInfo::BOLD);
-    EXPECT_EQ(TextHeightFactComp::Get().GetMetrics(bold).otmTextMetrics.tmWeight, 400);
-}
-
-TEST(TextHeightFactComp, SharesTheEntriesOfOneFontSizeAndStyle) {
+TEST(TextHeightFactComp, SharesTheEntriesOfOneFontSizeAndStyleMeasuredUprightAndLight) {
     TextHeightFactComp& comp = TextHeightFactComp::Get();
     const TextInfo ti = Style("Liberation Mono", 4.0F);
+    const TextInfo bold = Style("Liberation Mono", 4.0F, TextInfo::BOLD);
     const OUTLINETEXTMETRICA* metrics = &comp.GetMetrics(ti);
     TextInfo other = Style("LIBERATION mono", 4.0F);
     other.SetJustification(TextInfo::TOP_CENTER);
@@ -91,30 +77,32 @@ TEST(TextHeightFactComp, SharesTheEntriesOfOneFontSizeAndStyle) {
     other.SetColor(0xFF);
     EXPECT_EQ(&comp.GetMetrics(other), metrics);
     EXPECT_NE(&comp.GetMetrics(Style("Liberation Mono", 4.5F)), metrics);
-    EXPECT_NE(&comp.GetMetrics(Style("Liberation Mono", 4.0F, TextInfo::BOLD)), metrics);
+    EXPECT_NE(&comp.GetMetrics(bold), metrics);
     EXPECT_EQ(&comp.GetMetrics(ti), metrics);
+    EXPECT_EQ(comp.GetMetrics(bold).otmTextMetrics.tmWeight, 400) << "all are measured light";
+    const float plain = comp(Style("DejaVu Serif", 3.0F));
+    EXPECT_EQ(comp(Style("DejaVu Serif", 3.0F, TextInfo::BOLD | TextInfo::ITALIC)), plain);
 }
 
-TEST(TextHeightFactComp, MeasuresAStyleOnce) {
+TEST(TextHeightFactComp, MeasuresAStyleOnceAndTriesAgainWithoutMetrics) {
     const TextInfo ti = Style("Liberation Serif", 6.0F);
+    const TextInfo later = Style("Liberation Sans", 7.25F);
     const float factor = Factor(ti);
     ASSERT_GT(factor, 1.0F);
-    const NoFonts none;
-    EXPECT_EQ(Factor(ti), factor);
-    EXPECT_EQ(Factor(Style("liberation SERIF", 6.0F)), factor);
-}
-
-TEST(TextHeightFactComp, TriesAStyleWithoutMetricsAgain) {
-    const TextInfo ti = Style("Liberation Sans", 7.25F);
+    TextHeightFactComp copy = TextHeightFactComp::Get();
     {
         const NoFonts none;
-        EXPECT_EQ(Factor(ti), 0.0F);
-        const OUTLINETEXTMETRICA& metrics = TextHeightFactComp::Get().GetMetrics(ti);
+        EXPECT_EQ(Factor(ti), factor);
+        EXPECT_EQ(Factor(Style("liberation SERIF", 6.0F)), factor);
+        EXPECT_EQ(copy(ti), factor);
+        EXPECT_NE(&copy.GetMetrics(ti), &TextHeightFactComp::Get().GetMetrics(ti));
+        EXPECT_EQ(Factor(later), 0.0F);
+        const OUTLINETEXTMETRICA& metrics = TextHeightFactComp::Get().GetMetrics(later);
         EXPECT_EQ(metrics.otmSize, 0U);
         EXPECT_EQ(metrics.otmTextMetrics.tmHeight, 0);
     }
-    EXPECT_GT(Factor(ti), 1.0F);
-    EXPECT_EQ(TextHeightFactComp::Get().GetMetrics(ti).otmTextMetrics.tmHeight, 7250);
+    EXPECT_GT(Factor(later), 1.0F);
+    EXPECT_EQ(TextHeightFactComp::Get().GetMetrics(later).otmTextMetrics.tmHeight, 7250);
 }
 
 TEST(TextHeightFactComp, RefusesSizesThatCannotBeMeasured) {
@@ -122,16 +110,6 @@ TEST(TextHeightFactComp, RefusesSizesThatCannotBeMeasured) {
     for (const float size : {0.0F, 0.0009F, 2147484.0F, 1e30F, infinity, std::nanf("")}) {
         EXPECT_EQ(Factor(Style("Liberation Sans", size)), 0.0F) << size;
     }
-    EXPECT_GT(Factor(Style("Liberation Sans", 1.5F)), 1.0F);
-}
-
-TEST(TextHeightFactComp, ACopyKeepsItsEntries) {
-    const TextInfo ti = Style("DejaVu Sans Mono", 5.0F);
-    const float factor = Factor(ti);
-    TextHeightFactComp copy = TextHeightFactComp::Get();
-    const NoFonts none;
-    EXPECT_EQ(copy(ti), factor);
-    EXPECT_NE(&copy.GetMetrics(ti), &TextHeightFactComp::Get().GetMetrics(ti));
 }
 
 TEST(TextHeightFactComp, LeavesNoDrawingObjectBehind) {

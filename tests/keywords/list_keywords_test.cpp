@@ -64,8 +64,7 @@ TEST_F(ListKeywordsTest, AreTheSectionsOfTheFile) {
         {"before\n[n]\n[ m ]\nx", "n  m [x] "},
         {"[n]\na\n[N]\nb\n[m]\nc", "n[a] "},
         {"[n]\na\nA", "n[a][A] "},
-        {"", ""},
-    };
+        {"", ""}};
     for (const auto& [text, expected] : cases) {
         Write(text);
         CListKeywords table;

@@ -62,6 +62,7 @@ TEST(DepthLabelRects, OneRectangleCoversAMergedLabel) {
     TextRectComp rects;
     const auto [integers, decimals] = rects(Label(0, 0), 7.25);
     EXPECT_NEAR(integers.first.width, Width("7") + Width(".25"), 1e-9);
+    EXPECT_EQ(decimals.first.width, 0.0);
     EXPECT_EQ(decimals.first.points, Rect().points);
     EXPECT_EQ(rects.GetSubString(0), ".25");
     const auto whole = rects(Label(0, 2), 7.25).first.first;

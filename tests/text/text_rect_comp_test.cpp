@@ -105,6 +105,7 @@ TEST(TextRectComp, AnEmptyTextLeavesLinesAndHeightAndAllOverloadsAgree) {
     EXPECT_EQ(rects.GetTextHeight(), 0.0);
     const TextInfo ti;
     const double width = rects(ti, "abc").width;
+    EXPECT_EQ(rects(ti, std::string("abc")).width, width);
     EXPECT_EQ(rects(ti, "abc", 5.0).width, width);
     EXPECT_EQ(rects(ti, std::string("abc"), -1.0).points, rects(ti, "abc").points);
     const double height = rects.GetTextHeight();

@@ -112,7 +112,7 @@ complains() {
     [ "$(grep -v '^QStandardPaths' "$work/said")" = "$1" ] || fail_here "unclear: $(cat "$work/said")"
 }
 
-# holds FILE LINE...: level, line type, width and labels of each definition, or color where asked.
+# holds FILE LINE...: level, color, line type, width and labels of each definition.
 holds() {
     local file=$1
     shift

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Takes the windows of Qt and tells what they say of a dialog that nobody answers.
-#include <marlin/contours/dialogs/edit_contour_dlg.h>
+// Takes the windows of Qt and tells whether they are the ones that dialogs are shown in.
 #include <marlin/qt/window_system.h>
 
 #include <cstdio>

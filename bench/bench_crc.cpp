@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // CRC-32 of 64 MiB in memory, and of a file of that size with its trailer.
-#include <marlin/base/crc32.h>
+#include <marlin/core/crc32.h>
 #include <marlin/settings/crc_file.h>
 
 #include <cstring>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A thousand decimal numbers become text and back.
-#include <marlin/base/number_text.h>
+#include <marlin/core/number_text.h>
 
 #include <array>
 #include <cstdio>

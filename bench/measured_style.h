@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <marlin/platform/drawing/font_catalog.h>
+#include <marlin/platform/fonts/font_catalog.h>
 #include <marlin/text/text_height_fact_comp.h>
 
 #include <array>

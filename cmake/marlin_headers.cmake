@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
-# The public headers, relative to src/: all but those in a detail/ folder.
+# The public headers, relative to src/marlin/: all but those in a detail/ folder.
 
 function(marlin_public_headers result)
-  file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}/src
-    ${PROJECT_SOURCE_DIR}/src/*.h)
+  file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}/src/marlin
+    ${PROJECT_SOURCE_DIR}/src/marlin/*.h)
   list(FILTER headers EXCLUDE REGEX "(^|/)detail/")
   set(${result} ${headers} PARENT_SCOPE)
 endfunction()

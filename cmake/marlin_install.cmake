@@ -9,11 +9,11 @@ install(TARGETS marlinshared EXPORT MarlinShared
 install(EXPORT MarlinShared NAMESPACE Marlin:: FILE MarlinSharedTargets.cmake
   DESTINATION ${package_dir})
 
-# Installs public headers under include/marlin/, in the folders that they have in src/.
+# Installs public headers under include/marlin/, in the folders that they have in src/marlin/.
 function(marlin_install_headers)
   foreach(header IN LISTS ARGN)
     get_filename_component(folder ${header} DIRECTORY)
-    install(FILES ${PROJECT_SOURCE_DIR}/src/${header}
+    install(FILES ${PROJECT_SOURCE_DIR}/src/marlin/${header}
       DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/marlin/${folder})
   endforeach()
 endfunction()

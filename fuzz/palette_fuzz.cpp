@@ -2,7 +2,7 @@
 // Any bytes are read as a palette file without harm: the result is an ascending table that a
 // color table file holds, or a message and the table as it was.
 #include "require.h"
-#include <marlin/base/palette_import.h>
+#include <marlin/base/colors/palette_import.h>
 
 #include <cstddef>
 #include <cstdint>

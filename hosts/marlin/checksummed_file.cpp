@@ -2,9 +2,9 @@
 #include "commands.h"
 #include "input.h"
 #include "json.h"
-#include <marlin/base/crc32.h>
-#include <marlin/base/file_replacement.h>
-#include <marlin/base/number_text.h>
+#include <marlin/base/files/file_replacement.h>
+#include <marlin/core/crc32.h>
+#include <marlin/core/number_text.h>
 
 #include <algorithm>
 #include <array>

@@ -3,9 +3,9 @@
 
 #include "input.h"
 #include "settings_source.h"
-#include <marlin/base/file_object.h>
-#include <marlin/base/palette_import.h>
-#include <marlin/platform/text/ascii.h>
+#include <marlin/base/colors/palette_import.h>
+#include <marlin/base/files/file_object.h>
+#include <marlin/core/ascii.h>
 
 #include <string_view>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <marlin/base/color_table.h>
+#include <marlin/base/colors/color_table.h>
 #include <marlin/base/error_string.h>
 
 #include <string>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "color_text.h"
 
-#include <marlin/base/number_text.h>
 #include <marlin/color/dxf_color.h>
-#include <marlin/platform/text/ascii.h>
+#include <marlin/core/ascii.h>
+#include <marlin/core/number_text.h>
 
 #include <algorithm>
 #include <array>

@@ -5,9 +5,9 @@
 #include "contour_file.h"
 #include "json.h"
 #include "table.h"
-#include <marlin/base/file_object.h>
-#include <marlin/base/number_text.h>
+#include <marlin/base/files/file_object.h>
 #include <marlin/color/dxf_color.h>
+#include <marlin/core/number_text.h>
 
 namespace HOST {
 

@@ -2,8 +2,8 @@
 #include "color_text.h"
 #include "commands.h"
 #include "contour_file.h"
-#include <marlin/base/number_text.h>
-#include <marlin/platform/text/ascii.h>
+#include <marlin/core/ascii.h>
+#include <marlin/core/number_text.h>
 
 #include <cmath>
 #include <optional>

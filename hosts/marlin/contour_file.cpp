@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "contour_file.h"
 
-#include <marlin/base/file_replacement.h>
+#include <marlin/base/files/file_replacement.h>
 #include <marlin/base/math.h>
-#include <marlin/base/number_text.h>
 #include <marlin/color/dxf_color.h>
-#include <marlin/platform/text/ascii.h>
+#include <marlin/core/ascii.h>
+#include <marlin/core/number_text.h>
 
 #include <algorithm>
 #include <cmath>

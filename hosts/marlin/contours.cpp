@@ -5,9 +5,9 @@
 #include "contour_file.h"
 #include "json.h"
 #include "table.h"
-#include <marlin/base/number_text.h>
 #include <marlin/color/dxf_color.h>
 #include <marlin/color/dxf_color_table.h>
+#include <marlin/core/number_text.h>
 
 #include <array>
 

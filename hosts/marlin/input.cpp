@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "input.h"
 
-#include <marlin/base/number_text.h>
+#include <marlin/core/number_text.h>
 #include <marlin/platform/text/code_page.h>
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #include "json.h"
 
 #include "output.h"
-#include <marlin/base/number_text.h>
+#include <marlin/core/number_text.h>
 
 #include <cmath>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "record.h"
 
-#include <marlin/base/number_text.h>
 #include <marlin/color/dxf_color.h>
+#include <marlin/core/number_text.h>
 
 namespace HOST {
 

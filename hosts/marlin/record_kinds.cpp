@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "record_kinds.h"
 
-#include <marlin/platform/text/ascii.h>
+#include <marlin/core/ascii.h>
 
 #include <algorithm>
 #include <string_view>

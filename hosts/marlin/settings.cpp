@@ -2,7 +2,7 @@
 #include "commands.h"
 #include "input.h"
 #include "settings_source.h"
-#include <marlin/base/number_text.h>
+#include <marlin/core/number_text.h>
 #include <marlin/platform/text/code_page.h>
 
 #include <algorithm>

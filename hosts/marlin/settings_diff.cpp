@@ -2,7 +2,7 @@
 #include "commands.h"
 #include "json.h"
 #include "settings_source.h"
-#include <marlin/platform/text/ascii.h>
+#include <marlin/core/ascii.h>
 #include <marlin/platform/text/code_page.h>
 
 #include <algorithm>

@@ -2,8 +2,8 @@
 #include "settings_scan.h"
 
 #include "output.h"
-#include <marlin/base/number_text.h>
-#include <marlin/platform/text/ascii.h>
+#include <marlin/core/ascii.h>
+#include <marlin/core/number_text.h>
 
 #include <algorithm>
 #include <unordered_map>

@@ -2,8 +2,8 @@
 #include "settings_source.h"
 
 #include "input.h"
-#include <marlin/base/file_replacement.h>
-#include <marlin/base/number_text.h>
+#include <marlin/base/files/file_replacement.h>
+#include <marlin/core/number_text.h>
 
 namespace HOST {
 

@@ -2,7 +2,7 @@
 #include "table.h"
 
 #include "color_text.h"
-#include <marlin/base/number_text.h>
+#include <marlin/core/number_text.h>
 
 #include <algorithm>
 #include <string_view>

@@ -2,7 +2,7 @@
 #include "commands.h"
 #include "table.h"
 #include "text_style.h"
-#include <marlin/base/number_text.h>
+#include <marlin/core/number_text.h>
 
 #include <cmath>
 #include <utility>

@@ -2,8 +2,8 @@
 #include "text_style.h"
 
 #include "input.h"
-#include <marlin/base/number_text.h>
-#include <marlin/platform/text/ascii.h>
+#include <marlin/core/ascii.h>
+#include <marlin/core/number_text.h>
 #include <marlin/platform/text/code_page.h>
 
 #include <algorithm>

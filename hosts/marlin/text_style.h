@@ -4,7 +4,7 @@
 #include "commands.h"
 #include "json.h"
 #include <marlin/base/error_string.h>
-#include <marlin/platform/drawing/font_catalog.h>
+#include <marlin/platform/fonts/font_catalog.h>
 #include <marlin/records/depth_label_info.h>
 #include <marlin/text/text_rect_comp.h>
 

@@ -2,8 +2,8 @@
 // Writes the pictures of the documentation as SVG into a folder.
 #include "pictures.h"
 #include "text_drawing.h"
-#include <marlin/base/file_replacement.h>
-#include <marlin/platform/drawing/font_catalog.h>
+#include <marlin/base/files/file_replacement.h>
+#include <marlin/platform/fonts/font_catalog.h>
 
 #include <cstdio>
 #include <exception>

@@ -5,8 +5,8 @@
 #include <marlin/gdi/gdi_selector.h>
 #include <marlin/platform/drawing/c_dc.h>
 #include <marlin/platform/drawing/c_font.h>
-#include <marlin/platform/drawing/fonts.h>
-#include <marlin/platform/drawing/text_outline.h>
+#include <marlin/platform/fonts/fonts.h>
+#include <marlin/platform/fonts/text_outline.h>
 #include <marlin/text/text_height_fact_comp.h>
 
 #include <cmath>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/temporary_folder.h"
-#include <marlin/base/color_table.h>
+#include <marlin/base/colors/color_table.h>
 
 #include <limits>
 #include <string>

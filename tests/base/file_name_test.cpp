@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/base/file_name.h>
+#include <marlin/base/files/file_name.h>
 
 #include <gtest/gtest.h>
 

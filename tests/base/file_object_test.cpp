@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/temporary_folder.h"
-#include <marlin/base/file_object.h>
+#include <marlin/base/files/file_object.h>
 
 #include <string>
 #include <vector>

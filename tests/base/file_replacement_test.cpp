@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/temporary_folder.h"
-#include <marlin/base/file_replacement.h>
+#include <marlin/base/files/file_replacement.h>
 
 #include <csignal>
 #include <filesystem>

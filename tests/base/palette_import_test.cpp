@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/temporary_folder.h"
-#include <marlin/base/palette_import.h>
+#include <marlin/base/colors/palette_import.h>
 
 #include <string>
 #include <utility>

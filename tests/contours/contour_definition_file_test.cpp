@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/base/number_text.h>
 #include <marlin/contours/contour_definition_list.h>
+#include <marlin/core/number_text.h>
 
 #include <string>
 

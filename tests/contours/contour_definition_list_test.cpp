@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/base/color_table.h>
+#include <marlin/base/colors/color_table.h>
 #include <marlin/contours/contour_definition_list.h>
 
 #include <algorithm>

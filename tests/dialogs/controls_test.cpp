@@ -2,7 +2,7 @@
 #include "dialog_test.h"
 #include <marlin/gdi/color_button.h>
 #include <marlin/gdi/font_combo.h>
-#include <marlin/platform/drawing/font_catalog.h>
+#include <marlin/platform/fonts/font_catalog.h>
 #include <marlin/platform/windowing/c_color_dialog.h>
 #include <marlin/platform/windowing/c_data_exchange.h>
 #include <marlin/platform/windowing/c_dialog.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <marlin/base/file_replacement.h>
+#include <marlin/base/files/file_replacement.h>
 
 #include <csignal>
 #include <cstdlib>

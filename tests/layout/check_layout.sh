@@ -19,7 +19,7 @@ public_headers() { find . -name '*.h' ! -path '*/detail/*' ! -path ./shared.h -p
 check_detail() {
     local line
     while IFS= read -r line; do
-        fault "src/$line: a public header includes an internal one"
+        fault "src/marlin/$line: a public header includes an internal one"
     done < <(public_headers | xargs -d '\n' grep -nE '^ *# *include *[<"].*detail/')
 }
 
@@ -29,16 +29,16 @@ check_umbrella() {
     included=$(grep '^#include' shared.h | LC_ALL=C sort)
     while IFS= read -r line; do
         case $line in
-        "<"*) fault "src/shared.h lacks ${line#< }" ;;
-        ">"*) fault "src/shared.h names what is no public header: ${line#> }" ;;
+        "<"*) fault "src/marlin/shared.h lacks ${line#< }" ;;
+        ">"*) fault "src/marlin/shared.h names what is no public header: ${line#> }" ;;
         esac
     done < <(diff <(printf '%s\n' "$wanted") <(printf '%s\n' "$included"))
 }
 
-declare -A floor=([platform]=1 [resources]=2 [qt]=2 [base]=3 [settings]=4 [geometry]=4
-    [color]=4 [runtime]=4 [records]=5 [keywords]=5 [gdi]=5 [text]=6 [contours]=6)
+declare -A floor=([core]=1 [platform]=2 [resources]=3 [qt]=3 [base]=4 [settings]=5 [geometry]=5
+    [color]=5 [runtime]=5 [records]=6 [keywords]=6 [gdi]=6 [text]=7 [contours]=7)
 
-# Lines "file from to": every include that leads from one folder of src/ into another.
+# Lines "file from to": every include that leads from one folder of src/marlin/ into another.
 crossings() {
     grep -rHE '^ *# *include *<marlin/[^/>]+/' --include='*.h' --include='*.cpp' . |
         sed -E 's|^\./(([^/:]+)[^:]*):.*<marlin/([^/]+)/.*|\1 \2 \3|' |
@@ -49,9 +49,9 @@ check_floors() {
     local file from to sideways=""
     while read -r file from to; do
         if [ -z "${floor[$from]:-}" ] || [ -z "${floor[$to]:-}" ]; then
-            [ "$file" = shared.h ] || fault "src/$file: no floor is known for $from or $to"
+            [ "$file" = shared.h ] || fault "src/marlin/$file: no floor is known for $from or $to"
         elif [ "${floor[$to]}" -gt "${floor[$from]}" ]; then
-            fault "src/$file: $from includes $to, which stands on a higher floor"
+            fault "src/marlin/$file: $from includes $to, which stands on a higher floor"
         elif [ "${floor[$to]}" -eq "${floor[$from]}" ]; then
             sideways+="$from $to"$'\n'
         fi

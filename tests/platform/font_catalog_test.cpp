@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/core/ascii.h>
 #include <marlin/platform/drawing/c_client_dc.h>
-#include <marlin/platform/drawing/font_catalog.h>
-#include <marlin/platform/drawing/text_outline.h>
-#include <marlin/platform/text/ascii.h>
+#include <marlin/platform/fonts/font_catalog.h>
+#include <marlin/platform/fonts/text_outline.h>
 
 #include <algorithm>
 #include <cstdlib>

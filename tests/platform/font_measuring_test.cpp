@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/platform/drawing/font_catalog.h>
-#include <marlin/platform/drawing/text_outline.h>
+#include <marlin/platform/fonts/font_catalog.h>
+#include <marlin/platform/fonts/text_outline.h>
 
 #include <algorithm>
 #include <array>

@@ -3,9 +3,9 @@
 #include <marlin/platform/drawing/c_brush.h>
 #include <marlin/platform/drawing/c_client_dc.h>
 #include <marlin/platform/drawing/c_font.h>
-#include <marlin/platform/drawing/fonts.h>
 #include <marlin/platform/drawing/gdi_objects.h>
 #include <marlin/platform/drawing/painting.h>
+#include <marlin/platform/fonts/fonts.h>
 
 #include <algorithm>
 #include <cstdint>

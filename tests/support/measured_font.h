@@ -3,7 +3,7 @@
 
 #include <marlin/platform/drawing/c_dc.h>
 #include <marlin/platform/drawing/c_font.h>
-#include <marlin/platform/drawing/fonts.h>
+#include <marlin/platform/fonts/fonts.h>
 
 #include <string_view>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/platform/drawing/font_catalog.h>
 #include <marlin/platform/drawing/gdi_objects.h>
+#include <marlin/platform/fonts/font_catalog.h>
 #include <marlin/text/text_height_fact_comp.h>
 
 #include <cmath>

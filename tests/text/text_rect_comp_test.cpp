@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/platform/drawing/font_catalog.h>
+#include <marlin/platform/fonts/font_catalog.h>
 #include <marlin/text/text_height_fact_comp.h>
 #include <marlin/text/text_rect_comp.h>
 

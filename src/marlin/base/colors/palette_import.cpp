@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/base/colors/detail/palette_reader.h>
+#include <marlin/base/colors/palette_import.h>
+#include <marlin/core/number_text.h>
+#include <marlin/platform/kernel/detail/file_descriptor.h>
+
+#include <algorithm>
+#include <cmath>
+#include <system_error>
+
+#include <fcntl.h>
+
+namespace {
+
+using MARLINSUITE::Palette;
+using MARLINSUITE::PaletteColor;
+using MARLINSUITE::PaletteSlice;
+
+// What the file holds, but never more than one byte beyond the limit.
+int ReadUpTo(const std::string& path, std::size_t limit, std::string& text) {
+    PLATFORM::FileDescriptor file;
+    if (const int error = file.Open(path.c_str(), O_RDONLY); error != 0) {
+        return error;
+    }
+    std::size_t count = 1;
+    while (count != 0 && text.size() <= limit) {
+        const std::size_t size = text.size();
+        text.resize(std::min(size + 64 * 1024, limit + 1));
+        const int error = file.Read(text.data() + size, text.size() - size, count);
+        text.resize(size + count);
+        if (error != 0) {
+            return error;
+        }
+    }
+    return 0;
+}
+
+ErrorString ReadPaletteText(const std::string& path, std::string& text) {
+    constexpr std::size_t largestFile = 4 * 1024 * 1024;
+    if (const int error = ReadUpTo(path, largestFile, text); error != 0) {
+        return ErrorString(path + ": " + std::generic_category().message(error));
+    }
+    if (text.size() > largestFile) {
+        return ErrorString(path + ": larger than 4 MiB, which no palette is");
+    }
+    return {};
+}
+
+double Scaled(double value, const std::pair<double, double>& range, bool hasHinge) noexcept {
+    if (!hasHinge) {
+        return std::lerp(range.first, range.second, value);
+    }
+    return value < 0.0 ? range.first * -value : range.second * value;
+}
+
+// Slices that run over the unit interval are fractions of the range, those that run over both
+// sides of a hinge fractions of each side. False for a range that has but one side.
+bool ApplyRange(Palette& palette) noexcept {
+    const double low = palette.Slices.front().Low;
+    const bool isHinged = palette.HasHinge && low == -1.0;
+    if (!palette.Range || palette.Slices.back().High != 1.0 || !(low == 0.0 || isHinged)) {
+        return true;
+    }
+    if (isHinged && !(palette.Range->first < 0.0 && palette.Range->second > 0.0)) {
+        return false;
+    }
+    for (PaletteSlice& slice : palette.Slices) {
+        slice.Low = Scaled(slice.Low, *palette.Range, isHinged);
+        slice.High = Scaled(slice.High, *palette.Range, isHinged);
+    }
+    return true;
+}
+
+void AddSlice(const PaletteSlice& slice, MARLINSUITE::PALETTE_MODEL model, ColorTable& table) {
+    const int steps = slice.LowColor == slice.HighColor ? 1 : 8;
+    for (int i = 0; i < steps; ++i) {
+        const PaletteColor color =
+            MARLINSUITE::MixedColor(slice.LowColor, slice.HighColor, (i + 0.5) / steps);
+        table.AddEntry(std::lerp(slice.Low, slice.High, static_cast<double>(i) / steps),
+                       MARLINSUITE::ColorWordOf(color, model));
+    }
+}
+
+ColorTable TableOf(const Palette& palette) {
+    ColorTable table;
+    for (const PaletteSlice& slice : palette.Slices) {
+        AddSlice(slice, palette.Model, table);
+    }
+    const PaletteSlice& first = palette.Slices.front();
+    const PaletteSlice& last = palette.Slices.back();
+    const PaletteColor above = palette.Foreground.value_or(last.HighColor);
+    const PaletteColor below = palette.Background.value_or(first.LowColor);
+    table.AddEntry(last.High, MARLINSUITE::ColorWordOf(above, palette.Model));
+    table.SetBelowColor(MARLINSUITE::ColorWordOf(below, palette.Model));
+    return table;
+}
+
+ErrorString FailureAt(std::string place, int line, const std::string& cause) {
+    place += ':';
+    MARLINSUITE::AppendNumber(place, line);
+    return ErrorString(place + ": " + cause);
+}
+
+}  // namespace
+
+ErrorString ImportPalette(const std::string& path, ColorTable& table) {
+    std::string text;
+    ErrorString failure = ReadPaletteText(path, text);
+    if (!failure.Empty()) {
+        return failure;
+    }
+    MARLINSUITE::PaletteReader reader;
+    if (!reader.Read(text)) {
+        return FailureAt(path, reader.Line(), reader.Cause());
+    }
+    Palette palette = reader.Result();
+    if (!ApplyRange(palette)) {
+        return FailureAt(path, palette.RangeLine, "the range does not enclose the hinge at 0");
+    }
+    table = TableOf(palette);
+    return {};
+}

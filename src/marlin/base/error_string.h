@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/core/export.h>
+#include <marlin/platform/text/c_string.h>
+
+#include <string>
+
+/// The result of an operation that can fail: one message for a person, empty on success.
+/// Beside the message it may carry a cause, the system's own reason ("name: No space left on
+/// device"), for callers whose message is fixed. Made from nothing it is a success.
+class MARLIN_API ErrorString {
+public:
+    ErrorString() = default;
+    /// A failure with that message; a null pointer or an empty text is a success.
+    ErrorString(const char* message);
+    ErrorString(const std::string& message);
+    /// `true` is success; `false` a failure that says "Operation failed.".
+    explicit ErrorString(bool success);
+
+    [[nodiscard]] const std::string& Text() const noexcept { return m_Text; }
+    [[nodiscard]] bool Empty() const noexcept { return m_Text.empty(); }
+
+    [[nodiscard]] const std::string& Cause() const noexcept { return m_Cause; }
+    ErrorString& SetCause(const std::string& cause);
+
+    /// Appends to the message; text appended to a success makes it a failure.
+    ErrorString& operator<<(const char* text);
+    ErrorString& operator<<(const std::string& text);
+    ErrorString& operator<<(const CString& text);
+
+    /// The failure that this thread made or appended to most recently; a success when there
+    /// was none. Copies are not made errors.
+    [[nodiscard]] static ErrorString LastError();
+
+    friend bool operator==(const ErrorString& a, const ErrorString& b) noexcept = default;
+
+private:
+    ErrorString& Remember();
+
+    std::string m_Text;
+    std::string m_Cause;
+};

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/base/error_string.h>
+#include <marlin/core/export.h>
+
+#include <string>
+#include <string_view>
+
+namespace MARLINSUITE {
+
+/// Gives a file new contents, as a whole or not at all: the bytes are written beside the
+/// target, flushed to disk and renamed over it, through a symbolic link to the file that it
+/// names, with the mode bits of the file that was there. Where the folder takes no new file
+/// the target is rewritten in place, after its new size has been reserved. A failure names the
+/// file and the system's reason and leaves the old file as it was.
+ErrorString MARLIN_API ReplaceFile(const std::string& path, std::string_view bytes);
+
+/// Reads a file whole. A failure names the file and the reason; the target is then unchanged.
+ErrorString MARLIN_API ReadFile(const std::string& path, std::string& bytes);
+
+}  // namespace MARLINSUITE

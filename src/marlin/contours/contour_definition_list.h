@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/core/export.h>
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+class ColorTable;
+
+/// The contours to draw, one definition a level. `Add` and `Set` keep them in ascending order of
+/// level, no level twice; `Load` and `Generate` take them in the order of their source, and
+/// look-ups are right only if that was ascending. Levels are compared exactly, but files hold
+/// six decimals: levels nearer to each other than that come back as one level twice. Made empty.
+class MARLIN_API ContourDefinitionList {
+public:
+    struct ContourDefInfo {
+        float LineWidth = 0.0F;
+        int LineType = 0;         ///< Index into `LINESTYLES`.
+        double Level = 0.0;       ///< The depth of the contour.
+        unsigned long Color = 0;  ///< Color word.
+        bool Annotate = false;    ///< Whether it carries labels.
+    };
+
+    /// The line types as files name them: continuous, dashed, dotted.
+    static const std::string LINESTYLES[3];
+
+    /// The most levels that are generated from a range.
+    static constexpr int MaxGeneratedLevels = 10'000'000;
+
+    ContourDefinitionList() = default;
+    ContourDefinitionList(const ContourDefinitionList&) = default;
+    /// Leaves the other list empty.
+    ContourDefinitionList(ContourDefinitionList&& other) noexcept { Swap(other); }
+    ContourDefinitionList& operator=(ContourDefinitionList other) noexcept {
+        Swap(other);
+        return *this;
+    }
+    ~ContourDefinitionList() = default;
+
+    [[nodiscard]] int NumContours() const noexcept {
+        return static_cast<int>(m_Storage.size() - m_First);
+    }
+    /// The index must lie in 0 to `NumContours()` - 1.
+    [[nodiscard]] const ContourDefInfo& operator[](int index) const noexcept;
+    /// The index of the definition of exactly that level, or -1.
+    [[nodiscard]] int Find(const ContourDefInfo& def) const noexcept { return Find(def.Level); }
+    [[nodiscard]] int Find(double level) const noexcept;
+
+    /// Puts it in its place and returns its index; -1, and nothing changed, when its level is
+    /// there already or is not a number.
+    int Add(const ContourDefInfo& def);
+    /// Replaces a definition and returns the index of the new one, which may have moved. -1, and
+    /// nothing changed, for an index outside the list and for a level that is not a number. -1
+    /// too when another definition has the level: the one at the index is then gone.
+    int Set(int index, const ContourDefInfo& def);
+    /// False, and nothing changed, for an index outside the list.
+    bool Remove(int index);
+
+    /// Replaces the list by black, unlabelled contours at the multiples of the interval from
+    /// `lowest` to `highest`, both included, built by repeated addition from the first. True,
+    /// with an empty list if none lies there. False, and the list empty, unless lowest < highest,
+    /// both finite, and interval > 0; also when the interval is too small to move a level and
+    /// for more than `MaxGeneratedLevels` levels.
+    bool Generate(double lowest, double highest, double interval);
+    /// Replaces the list by one contour for each entry of a color table. `invert` takes 255 from
+    /// which the whole 32-bit color word is subtracted, modulo 2^32. False, and the list empty,
+    /// for a table without entries.
+    bool Generate(const ColorTable& table, bool invert);
+
+    /// Appends the definitions of a contour definition file (docs/formats/
+    /// contour_definitions.md), in the order of their numbers and whatever their levels. False,
+    /// and the list unchanged, when the file cannot be read or holds no section; otherwise
+    /// whether the list is not empty then.
+    bool Load(const char* path);
+    /// Writes a contour definition file, replacing an old one whole. A `LineType` that is none
+    /// of the three is written as continuous. False, and an old file unchanged, for an empty
+    /// list or path and when the file cannot be written.
+    bool Save(const char* path) const;
+
+private:
+    [[nodiscard]] bool HoldsIndex(int index) const noexcept {
+        return index >= 0 && index < NumContours();
+    }
+    [[nodiscard]] std::size_t PositionOf(int index) const noexcept {
+        return m_First + static_cast<std::size_t>(index);
+    }
+    [[nodiscard]] int IndexOf(std::size_t position) const noexcept {
+        return static_cast<int>(position - m_First);
+    }
+    [[nodiscard]] std::size_t LowerBound(double level) const noexcept;
+    void Swap(ContourDefinitionList& other) noexcept;
+    void Clear() noexcept;
+    void NoteOrder() noexcept;
+    void MakeRoomInFront();
+    void DropSurplusRoom();
+    std::size_t Insert(std::size_t position, const ContourDefInfo& def);
+
+    // One block with room at both ends, so that an insertion moves the shorter side alone, and
+    // in one piece. The definitions begin at m_First.
+    std::vector<ContourDefInfo> m_Storage;
+    std::size_t m_First = 0;
+    bool m_IsAscending = true;  // levels of `Load` and `Generate` may not be
+};

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/core/export.h>
+
+#include <string>
+#include <string_view>
+
+/// Numbers to text and back, free of every locale: the one place that knows how.
+namespace MARLINSUITE {
+
+/// Reads the longest prefix of the text, after white space, that forms a value of the type and
+/// ignores the rest. False, and the target unchanged, when there is none or the number does
+/// not fit. Integers: an optional sign ("-" for `int` alone) and decimal digits; `unsigned
+/// long` ends at 4294967295 as on the 32-bit platform that the contracts come from. A bool is
+/// an integer 0 or 1. Decimal numbers: digits with an optional fraction and exponent, rounded
+/// to the nearest value; what is too small becomes 0.
+MARLIN_API bool ParseNumber(std::string_view text, int& value) noexcept;
+MARLIN_API bool ParseNumber(std::string_view text, unsigned int& value) noexcept;
+MARLIN_API bool ParseNumber(std::string_view text, unsigned long& value) noexcept;
+MARLIN_API bool ParseNumber(std::string_view text, bool& value) noexcept;
+MARLIN_API bool ParseNumber(std::string_view text, float& value) noexcept;
+MARLIN_API bool ParseNumber(std::string_view text, double& value) noexcept;
+
+/// Whether the whole text, blanks at its ends aside, is one value of the type.
+MARLIN_API bool ParseWhole(std::string_view text, int& value) noexcept;
+MARLIN_API bool ParseWhole(std::string_view text, unsigned long& value) noexcept;
+MARLIN_API bool ParseWhole(std::string_view text, bool& value) noexcept;
+MARLIN_API bool ParseWhole(std::string_view text, float& value) noexcept;
+MARLIN_API bool ParseWhole(std::string_view text, double& value) noexcept;
+
+/// Appends an integer in decimal, an `unsigned long` as its low 32 bits, a bool as 1 or 0.
+MARLIN_API void AppendNumber(std::string& text, int value);
+MARLIN_API void AppendNumber(std::string& text, unsigned int value);
+MARLIN_API void AppendNumber(std::string& text, unsigned long value);
+MARLIN_API void AppendNumber(std::string& text, bool value);
+
+/// Appends fixed-point notation with exactly that many decimals (0 or more; negative counts
+/// as 0), correctly rounded, halves to even. "inf", "-inf" and "nan" for what is not finite.
+MARLIN_API void AppendFixed(std::string& text, double value, int decimals);
+/// Appends the shortest text that reads back to the same value.
+MARLIN_API void AppendShortest(std::string& text, float value);
+MARLIN_API void AppendShortest(std::string& text, double value);
+/// Appends general notation with six significant digits, as a stream in its default state.
+MARLIN_API void AppendGeneral(std::string& text, double value);
+
+}  // namespace MARLINSUITE

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/gdi/color_button.h>
+#include <marlin/platform/drawing/c_brush.h>
+#include <marlin/platform/drawing/c_dc.h>
+#include <marlin/platform/fonts/fonts.h>
+#include <marlin/platform/windowing/c_color_dialog.h>
+
+BEGIN_MESSAGE_MAP(ColorButton, CButton)
+ON_CONTROL_REFLECT(BN_CLICKED, OnClicked)
+END_MESSAGE_MAP()
+
+namespace {
+
+constexpr unsigned long everyColorBit = 0xFFFFFF;
+
+void DrawCaption(CDC& dc, const RECT& face, const CString& caption) {
+    SIZE extent;
+    GetTextExtentPoint32A(dc.m_hAttribDC, caption, caption.GetLength(), &extent);
+    const int x = face.left + (face.right - face.left) / 2 - extent.cx / 2;
+    const int y = face.top + (face.bottom - face.top) / 2 - extent.cy / 2;
+    dc.TextOut(x, y, caption);
+}
+
+}  // namespace
+
+ColorButton::~ColorButton() = default;
+
+void ColorButton::DrawItem(DRAWITEMSTRUCT* draw) {
+    CDC* const dc = CDC::FromHandle(draw->hDC);
+    if (!dc || (draw->itemAction & ODA_DRAWENTIRE) == 0) {
+        return;
+    }
+    const unsigned long inverse = ~m_Color & everyColorBit;  // 255 less each component
+    CBrush face(m_Color);
+    CBrush frame(inverse);
+    dc->FillRect(&draw->rcItem, &face);
+    dc->FrameRect(&draw->rcItem, &frame);
+    dc->SetTextColor(inverse);
+    dc->SetBkColor(m_Color);
+    CString caption;
+    GetWindowText(caption);
+    DrawCaption(*dc, draw->rcItem, caption);
+}
+
+void ColorButton::OnClicked() {
+    CColorDialog dialog(m_Color, CC_FULLOPEN, this);
+    if (dialog.DoModal() == IDOK) {
+        m_Color = dialog.m_cc.rgbResult;
+        InvalidateRect(nullptr, true);
+    }
+}

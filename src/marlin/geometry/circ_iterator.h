@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/core/export.h>
+
+#include <cassert>
+#include <cstdint>
+
+/// An index that runs round a ring of `range` positions from `start` and wraps at both ends, as
+/// over the vertices of a closed figure: start <= position < start + range after every operation.
+///
+/// The range must be positive and the last position a 32-bit integer; steps may be any `int`. A
+/// range that is not positive keeps the position at the start.
+class MARLIN_API CircIterator {
+public:
+    constexpr CircIterator(int start, int range) noexcept
+        : m_Start(start), m_Range(range), m_Current(start) {
+        assert(range > 0);
+    }
+    constexpr CircIterator(int start, int range, int current) noexcept
+        : CircIterator(start, range) {
+        m_Current = Wrap(current);
+    }
+
+    [[nodiscard]] constexpr int Start() const noexcept { return m_Start; }
+    [[nodiscard]] constexpr int Range() const noexcept { return m_Range; }
+    [[nodiscard]] constexpr int operator*() const noexcept { return m_Current; }
+
+    /// Moves the ring; the position stays if it lies in the new ring and is wrapped into it if not.
+    void SetStart(int start) noexcept;
+    /// Sizes the ring; the position stays if it lies in the new ring and is wrapped into it if not.
+    void SetRange(int range) noexcept;
+
+    constexpr CircIterator& operator=(int position) noexcept {
+        m_Current = Wrap(position);
+        return *this;
+    }
+    constexpr CircIterator& operator+=(int steps) noexcept {
+        m_Current = Wrap(std::int64_t{m_Current} + steps);
+        return *this;
+    }
+    constexpr CircIterator& operator-=(int steps) noexcept {
+        m_Current = Wrap(std::int64_t{m_Current} - steps);
+        return *this;
+    }
+    [[nodiscard]] constexpr CircIterator operator+(int steps) const noexcept {
+        return CircIterator(*this) += steps;
+    }
+    [[nodiscard]] constexpr CircIterator operator-(int steps) const noexcept {
+        return CircIterator(*this) -= steps;
+    }
+    constexpr CircIterator& operator++() noexcept {
+        m_Current = m_Current == Last() ? m_Start : m_Current + 1;
+        return *this;
+    }
+    constexpr CircIterator& operator--() noexcept {
+        m_Current = m_Current == m_Start ? Last() : m_Current - 1;
+        return *this;
+    }
+    constexpr CircIterator operator++(int) noexcept {
+        const CircIterator before = *this;
+        ++*this;
+        return before;
+    }
+    constexpr CircIterator operator--(int) noexcept {
+        const CircIterator before = *this;
+        --*this;
+        return before;
+    }
+
+    /// Whether the position is the given one, wrapped into the ring.
+    [[nodiscard]] constexpr bool operator==(int position) const noexcept {
+        return m_Current == Wrap(position);
+    }
+
+private:
+    [[nodiscard]] constexpr int Last() const noexcept {
+        return m_Range > 0 ? static_cast<int>(std::int64_t{m_Start} + m_Range - 1) : m_Start;
+    }
+    [[nodiscard]] constexpr int Wrap(std::int64_t position) const noexcept {
+        assert(m_Range > 0);
+        if (m_Range <= 0) {
+            return m_Start;
+        }
+        std::int64_t offset = position - m_Start;
+        if (offset < 0) {
+            offset = offset % m_Range + m_Range;
+        }
+        if (offset >= m_Range) {
+            offset %= m_Range;
+        }
+        return static_cast<int>(m_Start + offset);
+    }
+
+    int m_Start;
+    int m_Range;
+    int m_Current;
+};

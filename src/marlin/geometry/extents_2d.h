@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/core/export.h>
+#include <marlin/geometry/classification.h>
+#include <marlin/geometry/coordinate.h>
+#include <marlin/geometry/point_2d.h>
+#include <marlin/geometry/transformation.h>
+
+#include <array>
+
+namespace GTL {
+
+/// A box along the axes that grows with the points given to it; both corners belong to it.
+///
+/// A box is valid when max >= min on both axes. Any other one is empty; a new or reset box is,
+/// with min (1, 1) and max (0, 0). The stored corners can be read and set in either state.
+template <RealCoordinate T>
+class MARLIN_API Extents2D {
+public:
+    Point2D<T> min{1, 1};
+    Point2D<T> max{0, 0};
+
+    constexpr Extents2D() noexcept = default;
+
+    [[nodiscard]] constexpr bool IsValid() const noexcept {
+        return max.x >= min.x && max.y >= min.y;
+    }
+    [[nodiscard]] constexpr T MinX() const noexcept { return min.x; }
+    [[nodiscard]] constexpr T MinY() const noexcept { return min.y; }
+    [[nodiscard]] constexpr T MaxX() const noexcept { return max.x; }
+    [[nodiscard]] constexpr T MaxY() const noexcept { return max.y; }
+    [[nodiscard]] constexpr const Point2D<T>& MinPnt() const noexcept { return min; }
+    [[nodiscard]] constexpr const Point2D<T>& MaxPnt() const noexcept { return max; }
+    /// 0 for an empty box.
+    [[nodiscard]] constexpr T ExtentX() const noexcept { return IsValid() ? max.x - min.x : T{}; }
+    [[nodiscard]] constexpr T ExtentY() const noexcept { return IsValid() ? max.y - min.y : T{}; }
+    /// min + (max - min) / 2, of the stored corners whether valid or not.
+    [[nodiscard]] constexpr Point2D<T> Center() const noexcept {
+        constexpr T half = static_cast<T>(0.5);
+        return {min.x + half * (max.x - min.x), min.y + half * (max.y - min.y)};
+    }
+    /// NONE when one of the boxes is empty. Boxes that only touch OVERLAP.
+    [[nodiscard]] constexpr CLS::CLASSIFICATION Classify(const Extents2D& box) const noexcept;
+    /// NONE when this box is empty.
+    [[nodiscard]] constexpr CLS::CLASSIFICATION Classify(const Point2D<T>& point) const noexcept;
+
+    constexpr void Reset() noexcept { *this = Extents2D(); }
+    /// Grows to include the point; an empty box becomes that point.
+    constexpr void Update(const Point2D<T>& point) noexcept;
+    constexpr void Update(T x, T y) noexcept { Update(Point2D<T>(x, y)); }
+    /// Grows to include the other box; an empty one changes nothing.
+    constexpr void Update(const Extents2D& box) noexcept;
+    /// Becomes the bound of its own four corners transformed, which may be larger than the
+    /// transformed box. An empty box stays as it is.
+    void Transform(const Transformation<Point2D<T>>& transformation);
+
+    constexpr Extents2D& operator+=(const Extents2D& box) noexcept {
+        Update(box);
+        return *this;
+    }
+    [[nodiscard]] constexpr Extents2D operator+(const Extents2D& box) const noexcept {
+        return Extents2D(*this) += box;
+    }
+    /// Compares the stored corners with the tolerance of `Point2D`, in empty boxes too.
+    [[nodiscard]] bool operator==(const Extents2D& other) const noexcept {
+        return min == other.min && max == other.max;
+    }
+};
+
+template <RealCoordinate T>
+constexpr CLS::CLASSIFICATION Extents2D<T>::Classify(const Extents2D& box) const noexcept {
+    if (!IsValid() || !box.IsValid()) {
+        return CLS::NONE;
+    }
+    if (box.min.x > max.x || box.min.y > max.y || box.max.x < min.x || box.max.y < min.y) {
+        return CLS::OUTSIDE;
+    }
+    const bool within =
+        box.min.x >= min.x && box.min.y >= min.y && box.max.x <= max.x && box.max.y <= max.y;
+    return within ? CLS::INSIDE : CLS::OVERLAP;
+}
+
+template <RealCoordinate T>
+constexpr CLS::CLASSIFICATION Extents2D<T>::Classify(const Point2D<T>& point) const noexcept {
+    if (!IsValid()) {
+        return CLS::NONE;
+    }
+    const bool within =
+        min.x <= point.x && point.x <= max.x && min.y <= point.y && point.y <= max.y;
+    return within ? CLS::INSIDE : CLS::OUTSIDE;
+}
+
+template <RealCoordinate T>
+constexpr void Extents2D<T>::Update(const Point2D<T>& point) noexcept {
+    if (!IsValid()) {
+        min = max = Point2D<T>(point);
+        return;
+    }
+    min.x = point.x < min.x ? point.x : min.x;
+    max.x = point.x > max.x ? point.x : max.x;
+    min.y = point.y < min.y ? point.y : min.y;
+    max.y = point.y > max.y ? point.y : max.y;
+}
+
+template <RealCoordinate T>
+constexpr void Extents2D<T>::Update(const Extents2D& box) noexcept {
+    if (box.IsValid()) {
+        Update(box.min);
+        Update(box.max);
+    }
+}
+
+template <RealCoordinate T>
+void Extents2D<T>::Transform(const Transformation<Point2D<T>>& transformation) {
+    if (!IsValid()) {
+        return;
+    }
+    std::array<Point2D<T>, 4> corners{min, Point2D<T>{max.x, min.y}, max, Point2D<T>{min.x, max.y}};
+    Reset();
+    for (Point2D<T>& corner : corners) {
+        transformation.Apply(corner);
+        Update(corner);
+    }
+}
+
+extern template class Extents2D<float>;
+extern template class Extents2D<double>;
+
+}  // namespace GTL

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/core/export.h>
+#include <marlin/geometry/classification.h>
+#include <marlin/geometry/coordinate.h>
+#include <marlin/geometry/extents_2d.h>
+#include <marlin/geometry/point_3d.h>
+#include <marlin/geometry/transformation.h>
+
+#include <array>
+
+namespace GTL {
+
+/// A box along the axes of space that grows with the points given to it; both corners belong
+/// to it.
+///
+/// A box is valid when max >= min in x and in y; z takes no part in that. Any other one is
+/// empty; a new or reset box is, with min (1, 1, 0) and max (0, 0, 0). The stored corners can be
+/// read and set in either state.
+template <RealCoordinate T>
+class MARLIN_API Extents3D {
+public:
+    Point3D<T> min{1, 1, 0};
+    Point3D<T> max{0, 0, 0};
+
+    constexpr Extents3D() noexcept = default;
+
+    [[nodiscard]] constexpr bool IsValid() const noexcept {
+        return max.x >= min.x && max.y >= min.y;
+    }
+    [[nodiscard]] constexpr T MinX() const noexcept { return min.x; }
+    [[nodiscard]] constexpr T MinY() const noexcept { return min.y; }
+    [[nodiscard]] constexpr T MinZ() const noexcept { return min.z; }
+    [[nodiscard]] constexpr T MaxX() const noexcept { return max.x; }
+    [[nodiscard]] constexpr T MaxY() const noexcept { return max.y; }
+    [[nodiscard]] constexpr T MaxZ() const noexcept { return max.z; }
+    [[nodiscard]] constexpr const Point3D<T>& MinPnt() const noexcept { return min; }
+    [[nodiscard]] constexpr const Point3D<T>& MaxPnt() const noexcept { return max; }
+    /// 0 for an empty box. `ExtentZ` is negative when a valid box has min.z above max.z.
+    [[nodiscard]] constexpr T ExtentX() const noexcept { return IsValid() ? max.x - min.x : T{}; }
+    [[nodiscard]] constexpr T ExtentY() const noexcept { return IsValid() ? max.y - min.y : T{}; }
+    [[nodiscard]] constexpr T ExtentZ() const noexcept { return IsValid() ? max.z - min.z : T{}; }
+    /// min + (max - min) / 2, of the stored corners whether valid or not.
+    [[nodiscard]] constexpr Point3D<T> Center() const noexcept;
+    /// NONE when one of the boxes is empty. Boxes that only touch OVERLAP.
+    [[nodiscard]] constexpr CLS::CLASSIFICATION Classify(const Extents3D& box) const noexcept;
+    /// NONE when this box is empty.
+    [[nodiscard]] constexpr CLS::CLASSIFICATION Classify(const Point3D<T>& point) const noexcept;
+
+    constexpr void Reset() noexcept { *this = Extents3D(); }
+    /// Grows to include the point; an empty box becomes that point.
+    constexpr void Update(const Point3D<T>& point) noexcept;
+    constexpr void Update(T x, T y, T z) noexcept { Update(Point3D<T>(x, y, z)); }
+    /// Grows to include the other box; an empty one changes nothing.
+    constexpr void Update(const Extents3D& box) noexcept;
+    /// Becomes the bound of its own eight corners transformed, which may be larger than the
+    /// transformed box. An empty box stays as it is.
+    void Transform(const Transformation<Point3D<T>>& transformation);
+
+    /// The box without z; an empty one becomes the empty box of the plane.
+    constexpr operator Extents2D<T>() const noexcept;
+    constexpr Extents3D& operator+=(const Extents3D& box) noexcept {
+        Update(box);
+        return *this;
+    }
+    [[nodiscard]] constexpr Extents3D operator+(const Extents3D& box) const noexcept {
+        return Extents3D(*this) += box;
+    }
+    /// Compares the stored corners exactly, in empty boxes too.
+    [[nodiscard]] constexpr bool operator==(const Extents3D& other) const noexcept = default;
+};
+
+template <RealCoordinate T>
+constexpr Point3D<T> Extents3D<T>::Center() const noexcept {
+    constexpr T half = static_cast<T>(0.5);
+    return {min.x + half * (max.x - min.x), min.y + half * (max.y - min.y),
+            min.z + half * (max.z - min.z)};
+}
+
+template <RealCoordinate T>
+constexpr CLS::CLASSIFICATION Extents3D<T>::Classify(const Extents3D& box) const noexcept {
+    if (!IsValid() || !box.IsValid()) {
+        return CLS::NONE;
+    }
+    if (box.min.x > max.x || box.min.y > max.y || box.min.z > max.z || box.max.x < min.x ||
+        box.max.y < min.y || box.max.z < min.z) {
+        return CLS::OUTSIDE;
+    }
+    const bool within = box.min.x >= min.x && box.min.y >= min.y && box.min.z >= min.z &&
+                        box.max.x <= max.x && box.max.y <= max.y && box.max.z <= max.z;
+    return within ? CLS::INSIDE : CLS::OVERLAP;
+}
+
+template <RealCoordinate T>
+constexpr CLS::CLASSIFICATION Extents3D<T>::Classify(const Point3D<T>& point) const noexcept {
+    if (!IsValid()) {
+        return CLS::NONE;
+    }
+    const bool within = min.x <= point.x && point.x <= max.x && min.y <= point.y &&
+                        point.y <= max.y && min.z <= point.z && point.z <= max.z;
+    return within ? CLS::INSIDE : CLS::OUTSIDE;
+}
+
+template <RealCoordinate T>
+constexpr void Extents3D<T>::Update(const Point3D<T>& point) noexcept {
+    if (!IsValid()) {
+        min = max = Point3D<T>(point);
+        return;
+    }
+    min.x = point.x < min.x ? point.x : min.x;
+    max.x = point.x > max.x ? point.x : max.x;
+    min.y = point.y < min.y ? point.y : min.y;
+    max.y = point.y > max.y ? point.y : max.y;
+    min.z = point.z < min.z ? point.z : min.z;
+    max.z = point.z > max.z ? point.z : max.z;
+}
+
+template <RealCoordinate T>
+constexpr void Extents3D<T>::Update(const Extents3D& box) noexcept {
+    if (box.IsValid()) {
+        Update(box.min);
+        Update(box.max);
+    }
+}
+
+template <RealCoordinate T>
+void Extents3D<T>::Transform(const Transformation<Point3D<T>>& transformation) {
+    if (!IsValid()) {
+        return;
+    }
+    std::array<Point3D<T>, 8> corners;
+    for (unsigned i = 0; i < corners.size(); ++i) {
+        corners[i] = {(i & 1U) != 0 ? max.x : min.x, (i & 2U) != 0 ? max.y : min.y,
+                      (i & 4U) != 0 ? max.z : min.z};
+    }
+    Reset();
+    for (Point3D<T>& corner : corners) {
+        transformation.Apply(corner);
+        Update(corner);
+    }
+}
+
+template <RealCoordinate T>
+constexpr Extents3D<T>::operator Extents2D<T>() const noexcept {
+    Extents2D<T> box;
+    if (IsValid()) {
+        box.min = min;
+        box.max = max;
+    }
+    return box;
+}
+
+extern template class Extents3D<float>;
+extern template class Extents3D<double>;
+
+}  // namespace GTL

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/core/export.h>
+#include <marlin/geometry/coordinate.h>
+#include <marlin/geometry/point_2d.h>
+#include <marlin/geometry/transformation.h>
+#include <marlin/geometry/vector_3d.h>
+
+#include <cmath>
+
+namespace GTL {
+
+/// A position in space. Default (0, 0, 0); no value is checked or clamped.
+///
+/// Its x and y are a whole `Point2D`, its base: a reference to that base views and changes the
+/// same object and leaves z alone. X, Y, `Dist2D` (z takes no part) and the conversion to
+/// `Vector2D` (z is dropped) come from there. Unlike in the plane, equality is exact; the order
+/// is exact too: x first, then y, then z.
+template <RealCoordinate T>
+class MARLIN_API Point3D : public Point2D<T> {
+public:
+    using Point2D<T>::x;
+    using Point2D<T>::y;
+    T z{};
+
+    constexpr Point3D() noexcept = default;
+    constexpr Point3D(T xValue, T yValue, T zValue) noexcept
+        : Point2D<T>(xValue, yValue), z(zValue) {}
+    constexpr Point3D(const Point2D<T>& point, T zValue) noexcept : Point2D<T>(point), z(zValue) {}
+    /// Serves the assignment of a vector too.
+    constexpr Point3D(const Vector3D<T>& vector) noexcept : Point3D(vector.x, vector.y, vector.z) {}
+
+    [[nodiscard]] constexpr T Z() const noexcept { return z; }
+
+    /// The distance to the other point, or its square. For `float` the differences are single and
+    /// the sum of the squares double; the root is taken in single precision.
+    [[nodiscard]] double Dist3D(const Point3D& other, bool squared) const noexcept {
+        const double dx = x - other.x;
+        const double dy = y - other.y;
+        const double dz = z - other.z;
+        const double sum = dx * dx + dy * dy + dz * dz;
+        return squared ? sum : std::sqrt(static_cast<T>(sum));
+    }
+
+    [[nodiscard]] constexpr T& Z() noexcept { return z; }
+    constexpr void Z(T value) noexcept { z = value; }
+    void Transform(const Transformation<Point3D>& transformation) { transformation.Apply(*this); }
+
+    constexpr operator Vector3D<T>() const noexcept { return {x, y, z}; }
+
+    constexpr Point3D operator+(const Vector3D<T>& v) const noexcept {
+        return {x + v.x, y + v.y, z + v.z};
+    }
+    constexpr Point3D operator-(const Vector3D<T>& v) const noexcept {
+        return {x - v.x, y - v.y, z - v.z};
+    }
+    /// The way from the other point to this one.
+    constexpr Vector3D<T> operator-(const Point3D& p) const noexcept {
+        return {x - p.x, y - p.y, z - p.z};
+    }
+    constexpr Point3D operator/(const T& divisor) const noexcept {
+        return {x / divisor, y / divisor, z / divisor};
+    }
+    constexpr Point3D& operator+=(const Vector3D<T>& v) noexcept { return *this = *this + v; }
+    constexpr Point3D& operator-=(const Vector3D<T>& v) noexcept { return *this = *this - v; }
+
+    [[nodiscard]] constexpr bool operator==(const Point3D& other) const noexcept {
+        return x == other.x && y == other.y && z == other.z;
+    }
+    [[nodiscard]] constexpr bool operator<(const Point3D& other) const noexcept {
+        return x < other.x || (x == other.x && (y < other.y || (y == other.y && z < other.z)));
+    }
+    [[nodiscard]] constexpr bool operator>(const Point3D& other) const noexcept {
+        return other < *this;
+    }
+    [[nodiscard]] constexpr bool operator<=(const Point3D& other) const noexcept {
+        return !(*this > other);
+    }
+    [[nodiscard]] constexpr bool operator>=(const Point3D& other) const noexcept {
+        return !(*this < other);
+    }
+};
+
+extern template class Point3D<float>;
+extern template class Point3D<double>;
+
+}  // namespace GTL

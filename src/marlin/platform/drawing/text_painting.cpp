@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/platform/drawing/detail/rasterizer.h>
+#include <marlin/platform/drawing/painting.h>
+#include <marlin/platform/fonts/detail/font_scale.h>
+
+#include <cmath>
+#include <numbers>
+#include <string_view>
+#include <utility>
+
+namespace {
+
+using namespace PLATFORM;
+
+constexpr unsigned int HorizontalBits = TA_CENTER;
+constexpr unsigned int VerticalBits = TA_BASELINE;
+
+// Long texts are painted in pieces of so many bytes, each a shape of its own.
+constexpr int PieceLength = 64;
+
+struct Piece {
+    TextOutline Text;
+    Placement At;
+};
+
+// Design units from the text's start to its reference point.
+double ReferenceX(unsigned int alignment, double advance) noexcept {
+    const unsigned int horizontal = alignment & HorizontalBits;
+    if (horizontal == TA_CENTER) {
+        return advance / 2;
+    }
+    return horizontal == TA_RIGHT ? advance : 0;
+}
+
+double ReferenceY(unsigned int alignment, const FaceMetrics& face) noexcept {
+    const unsigned int vertical = alignment & VerticalBits;
+    if (vertical == TA_BASELINE) {
+        return 0;
+    }
+    return vertical == TA_BOTTOM ? -face.CellDescent : face.CellAscent;
+}
+
+// Texts stand upright on the surface whatever the signs of the mapping.
+Placement Directions(const Mapping& mapping, const SelectedFont& font) noexcept {
+    const FontScale scale = ScaleOf(*font.Font, font.Entry->Face->Metrics(), mapping);
+    const double angle = font.Font->Escapement / 1800.0 * std::numbers::pi;
+    const double scaleX = mapping.ScaleX() * scale.Logical / scale.Design;
+    const double scaleY = mapping.ScaleY() * scale.Logical / scale.Design;
+    return {0,
+            0,
+            std::cos(angle) * scaleX,
+            -std::sin(angle) * scaleX,
+            -std::sin(angle) * scaleY,
+            -std::cos(angle) * scaleY};
+}
+
+Placement Moved(Placement at, double right, double up) noexcept {
+    at.X += right * at.RightX + up * at.UpX;
+    at.Y += right * at.RightY + up * at.UpY;
+    return at;
+}
+
+std::vector<OutlineStep> CellOf(const TextOutline& text) {
+    return {{OutlineStep::MOVE, {0, -text.Descent}, {}, {}},
+            {OutlineStep::LINE, {0, text.Ascent}, {}, {}},
+            {OutlineStep::LINE, {text.Advance, text.Ascent}, {}, {}},
+            {OutlineStep::LINE, {text.Advance, -text.Descent}, {}, {}}};
+}
+
+std::vector<Piece> PiecesOf(HDC dc, std::string_view text, Placement at) {
+    std::vector<Piece> pieces;
+    while (!text.empty()) {
+        const std::string_view part = text.substr(0, PieceLength);
+        Piece piece{{}, at};
+        if (!GetTextOutline(dc, part.data(), static_cast<int>(part.size()), piece.Text)) {
+            return {};
+        }
+        at = Moved(at, piece.Text.Advance, 0);
+        pieces.push_back(std::move(piece));
+        text.remove_prefix(part.size());
+    }
+    return pieces;
+}
+
+}  // namespace
+
+BOOL TextOutA(HDC dc, int x, int y, const char* text, int count) {
+    const ContextRecord* context = Contexts.Content(dc);
+    const SelectedFont font = context ? FontOf(*context) : SelectedFont();
+    if (!font || count < 0 || (!text && count > 0)) {
+        return 0;
+    }
+    BitmapRecord* surface = SurfaceOf(*context);
+    if (!surface) {
+        return 1;
+    }
+    const FontFace& face = *font.Entry->Face;
+    const std::string_view bytes(text, static_cast<std::size_t>(count));
+    Placement at = Directions(context->Map, font);
+    const POINT device = context->Map.ToDevice({x, y});
+    at.X = device.x;
+    at.Y = device.y;
+    const auto advance = static_cast<double>(face.Advance(bytes));
+    at = Moved(at, -ReferenceX(context->Alignment, advance),
+               -ReferenceY(context->Alignment, face.Metrics()));
+    const std::vector<Piece> pieces = PiecesOf(dc, bytes, at);
+    for (const Piece& piece : pieces) {
+        if (context->BackMode == OPAQUE) {
+            PaintShape(CellOf(piece.Text), piece.At, context->BackColor, *surface);
+        }
+    }
+    for (const Piece& piece : pieces) {
+        PaintShape(piece.Text.Steps, piece.At, context->TextColor, *surface);
+    }
+    return 1;
+}

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/platform/fonts/font_catalog.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+struct _FcConfig;
+
+namespace PLATFORM {
+
+/// What a font is asked for: the family in Windows-1252, 400 for the normal weight.
+struct FontWish {
+    std::string Face;
+    int Weight = 400;
+    bool Italic = false;
+    /// Outline fonts before all others, whatever their names.
+    bool OutlineFirst = true;
+};
+
+/// A font that is installed. Texts are UTF-8.
+struct InstalledFont {
+    std::string Family;
+    std::string Style;
+    int Weight = 400;
+    bool Italic = false;
+    bool FixedPitch = false;
+    bool Outline = false;
+};
+
+/// Asks the system for fonts. Not locked; the holder of the lock of the fonts uses it.
+class FontQuery {
+public:
+    /// Files in these folders alone, or those of the system.
+    void SetFolders(const std::vector<std::string>& folders);
+    void UseSystem();
+    /// Takes note of fonts that came or went.
+    void Refresh();
+
+    /// The outline font that comes nearest to the wish; `Outline` tells whether it is one.
+    [[nodiscard]] std::optional<FontMatch> Match(const FontWish& wish, bool& outline);
+    /// The outline fonts with Latin letters; of one family, or all for an empty name. Sorted by
+    /// family, weight and slant.
+    [[nodiscard]] std::vector<InstalledFont> Installed(const std::string& family);
+
+private:
+    struct Deleter {
+        void operator()(_FcConfig* configuration) const noexcept;
+    };
+
+    bool Prepare();
+
+    std::vector<std::string> m_Folders;
+    bool m_OnlyFolders = false;
+    // None for the system's.
+    std::unique_ptr<_FcConfig, Deleter> m_Configuration;
+};
+
+}  // namespace PLATFORM

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/core/export.h>
+#include <marlin/platform/windowing/window_types.h>
+
+class CWnd;
+
+inline constexpr unsigned long CC_FULLOPEN = 0x2;
+
+/// What a color dialog begins with, and the color chosen.
+struct CHOOSECOLORA {
+    COLORREF rgbResult = 0;
+    unsigned long Flags = 0;
+};
+
+/// The platform's dialog that asks for a color.
+class MARLIN_API CColorDialog {
+public:
+    CHOOSECOLORA m_cc;
+
+    explicit CColorDialog(COLORREF color = 0, unsigned long flags = 0,
+                          CWnd* parent = nullptr) noexcept
+        : m_cc{color, flags}, m_Parent(parent) {}
+
+    /// `IDOK` when a color was chosen, which `m_cc.rgbResult` then is, else `IDCANCEL`.
+    int DoModal();
+
+private:
+    CWnd* m_Parent;
+};

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/core/export.h>
+
+#include <span>
+#include <string_view>
+
+namespace PLATFORM {
+
+enum class CONTROL {
+    LABEL,
+    EDIT,
+    PUSH_BUTTON,
+    DEFAULT_BUTTON,  ///< Pressed by Enter.
+    OWNER_BUTTON,    ///< Drawn by its window class.
+    CHECK_BOX,       ///< With its text left of the box.
+    DROP_DOWN_LIST,
+    SPIN,         ///< Attached to the edit before it, in which it sets whole numbers.
+    REPORT_LIST,  ///< With a border, several rows selectable, the selection always visible.
+};
+
+/// One control of a dialog template.
+struct ControlTemplate {
+    int Id;  ///< -1 for labels.
+    CONTROL Kind;
+    /// "&" stands before the mnemonic, except in an owner-drawn button.
+    std::string_view Text;
+    int X;  ///< Dialog units, from the upper left corner of the dialog's inside.
+    int Y;
+    int Width;
+    int Height;
+    /// What is spoken for it; empty where its text, or else the label before it, says it.
+    std::string_view SpokenName = {};
+    std::span<const std::string_view> Items = {};  ///< Of a drop-down list.
+    bool Disabled = false;                         ///< At first.
+    bool Sorted = false;                           ///< Keeps a drop-down list's items in order.
+};
+
+/// A dialog as data: its controls stand in tab order, and a label before what it names.
+struct DialogTemplate {
+    unsigned int Id;
+    std::string_view Caption;
+    int Width;  ///< Of the inside, in dialog units.
+    int Height;
+    std::string_view FontName;
+    int FontSize;  ///< Points.
+    std::span<const ControlTemplate> Controls;
+};
+
+/// The templates of the library's own resources, which define it. Constant-initialised.
+extern const std::span<const DialogTemplate> DefaultDialogTemplates;
+
+/// The template of that number among the library's own; null when there is none.
+[[nodiscard]] MARLIN_API const DialogTemplate* FindDialogTemplate(unsigned int id) noexcept;
+
+}  // namespace PLATFORM

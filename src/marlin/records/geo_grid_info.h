@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/core/export.h>
+
+class Section;
+
+/// How a graticule of latitudes and longitudes is drawn and labelled; both are the host's work,
+/// and so is the meaning of the two style codes. By default black, with 2 decimals, at intervals
+/// of 1/1800 degree (2 seconds of arc). Setters check nothing but the sign of the intervals.
+///
+/// Intervals are equal within `MATH::Equal`, all else exactly.
+class MARLIN_API GeoGridInfo {
+public:
+    GeoGridInfo() = default;
+    GeoGridInfo(const GeoGridInfo&) = default;
+    GeoGridInfo& operator=(const GeoGridInfo&) = default;
+    virtual ~GeoGridInfo();
+
+    /// A color word.
+    [[nodiscard]] unsigned long GridColor() const noexcept { return m_GridColor; }
+    [[nodiscard]] int LatLonStyle() const noexcept { return m_LatLonStyle; }
+    [[nodiscard]] int LatLonDecimals() const noexcept { return m_LatLonDecimals; }
+    /// Whether the letter of the hemisphere follows the value instead of leading it.
+    [[nodiscard]] bool TrailingHemisphereIndicator() const noexcept {
+        return m_TrailingHemisphereIndicator;
+    }
+    /// Whether degrees, minutes and seconds bear their symbols.
+    [[nodiscard]] bool DegMinSecSymbols() const noexcept { return m_DegMinSecSymbols; }
+    [[nodiscard]] int GridStyle() const noexcept { return m_GridStyle; }
+    [[nodiscard]] double LatInterval() const noexcept { return m_LatInterval; }
+    [[nodiscard]] double LonInterval() const noexcept { return m_LonInterval; }
+
+    void GridColor(const unsigned long& color) noexcept { m_GridColor = color; }
+    void LatLonStyle(int style) noexcept { m_LatLonStyle = style; }
+    void LatLonDecimals(int decimals) noexcept { m_LatLonDecimals = decimals; }
+    void TrailingHemisphereIndicator(bool trailing) noexcept {
+        m_TrailingHemisphereIndicator = trailing;
+    }
+    void DegMinSecSymbols(bool shown) noexcept { m_DegMinSecSymbols = shown; }
+    void GridStyle(int style) noexcept { m_GridStyle = style; }
+    /// Stores the absolute value.
+    void LatInterval(double interval) noexcept;
+    void LonInterval(double interval) noexcept;
+
+    bool operator==(const GeoGridInfo& other) const noexcept;
+
+    /// Keys that are missing or unreadable keep their fields, but reset the color to black.
+    /// "GridTrueColor" wins over the palette index "GridColor"; intervals lose their sign. True.
+    bool Read(const Section& section);
+    /// Appends nine keys, whether or not the section has keys of those names. The intervals are
+    /// written with as many decimals as they need and two more; true.
+    bool Write(Section& section) const;
+
+private:
+    unsigned long m_GridColor = 0;
+    int m_LatLonStyle = 0;
+    int m_LatLonDecimals = 2;
+    bool m_TrailingHemisphereIndicator = false;
+    bool m_DegMinSecSymbols = false;
+    int m_GridStyle = 1;
+    double m_LatInterval = 1.0 / 1800.0;
+    double m_LonInterval = 1.0 / 1800.0;
+};

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/core/export.h>
+
+class Section;
+
+/// The chart display options of a map layer. The three codes have the meaning that the host's
+/// chart renderer gives them and are stored unchecked. Equality is exact.
+class MARLIN_API CMapInfo {
+public:
+    constexpr CMapInfo() noexcept = default;
+
+    [[nodiscard]] constexpr int SymbolizationType() const noexcept { return m_SymbolizationType; }
+    [[nodiscard]] constexpr int ScaleLevel() const noexcept { return m_ScaleLevel; }
+    [[nodiscard]] constexpr int DisplayType() const noexcept { return m_DisplayType; }
+    [[nodiscard]] constexpr bool TextGeneric() const noexcept { return m_TextGeneric; }
+    [[nodiscard]] constexpr bool TextOther() const noexcept { return m_TextOther; }
+    [[nodiscard]] constexpr bool ChartContour() const noexcept { return m_ChartContour; }
+    [[nodiscard]] constexpr bool LightsInfo() const noexcept { return m_LightsInfo; }
+    [[nodiscard]] constexpr bool AntiCluttering() const noexcept { return m_AntiCluttering; }
+    [[nodiscard]] constexpr bool Boundaries() const noexcept { return m_Boundaries; }
+
+    constexpr void SetSymbolizationType(int type) noexcept { m_SymbolizationType = type; }
+    constexpr void SetScaleLevel(int level) noexcept { m_ScaleLevel = level; }
+    constexpr void SetDisplayType(int type) noexcept { m_DisplayType = type; }
+    constexpr void SetTextGeneric(bool show) noexcept { m_TextGeneric = show; }
+    constexpr void SetTextOther(bool show) noexcept { m_TextOther = show; }
+    constexpr void SetChartContour(bool show) noexcept { m_ChartContour = show; }
+    constexpr void SetLightsInfo(bool show) noexcept { m_LightsInfo = show; }
+    constexpr void SetAntiCluttering(bool on) noexcept { m_AntiCluttering = on; }
+    constexpr void SetBoundaries(bool show) noexcept { m_Boundaries = show; }
+
+    constexpr bool operator==(const CMapInfo& other) const noexcept = default;
+
+    /// Keys that are missing or unreadable keep their fields; true.
+    bool Read(const Section& section);
+    /// Appends nine keys, whether or not the section has keys of those names; true.
+    bool Write(Section& section) const;
+
+private:
+    int m_SymbolizationType = 0;
+    int m_ScaleLevel = 0;
+    int m_DisplayType = 2;
+    bool m_TextGeneric = true;
+    bool m_TextOther = false;
+    bool m_ChartContour = true;
+    bool m_LightsInfo = false;
+    bool m_AntiCluttering = true;
+    bool m_Boundaries = true;
+};

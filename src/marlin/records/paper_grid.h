@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/base/error_string.h>
+#include <marlin/core/export.h>
+#include <marlin/geometry/point_2d.h>
+
+class Section;
+
+/// The snapping grid of a plot's paper: spacing, one point of the grid, whether it is shown and
+/// whether positions snap to it. In paper units; by default steps of 1 from (0, 0), shown and
+/// snapping. Steps are never negative; the setters keep them at 1 or above, the constructor and
+/// `Read` take any.
+class MARLIN_API PaperGrid {
+public:
+    /// Stores the absolute values of the steps.
+    explicit PaperGrid(double xStep = 1.0, double yStep = 1.0,
+                       const GTL::Point2D<float>& origin = {}, bool snapOn = true,
+                       bool visible = true) noexcept;
+    PaperGrid(const PaperGrid&) = default;
+    PaperGrid& operator=(const PaperGrid&) = default;
+    virtual ~PaperGrid();
+
+    [[nodiscard]] double XStep() const noexcept { return m_XStep; }
+    [[nodiscard]] double YStep() const noexcept { return m_YStep; }
+    [[nodiscard]] bool Visible() const noexcept { return m_Visible; }
+    [[nodiscard]] bool SnapOn() const noexcept { return m_SnapOn; }
+    /// The nearest point of the grid, of two equally near ones in x or y the one farther from the
+    /// origin; whatever `SnapOn()` says. A step of 0 leaves its coordinate as it is.
+    [[nodiscard]] GTL::Point2D<double> SnapToGrid(const GTL::Point2D<double>& point) const noexcept;
+
+    /// Stores the absolute value, or 1 when that is less or not a number.
+    void XStep(double step) noexcept;
+    void YStep(double step) noexcept;
+    void Visible(bool visible) noexcept { m_Visible = visible; }
+    void SnapOn(bool on) noexcept { m_SnapOn = on; }
+    void ToggleVisible() noexcept { m_Visible = !m_Visible; }
+
+    /// Keys that are missing or unreadable keep their fields; steps lose their sign. A success.
+    ErrorString Read(const Section& section);
+    /// Appends six keys, whether or not the section has keys of those names; a success.
+    ErrorString Write(Section& section) const;
+
+private:
+    double m_XStep;
+    double m_YStep;
+    GTL::Point2D<float> m_Origin;
+    bool m_SnapOn;
+    bool m_Visible;
+};

@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/core/crc32.h>
+#include <marlin/resources/texts.h>
+#include <marlin/settings/crc_file.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdint>
+#include <cstring>
+#include <system_error>
+
+/// The open stream that copies share; without a file once any of them has closed it.
+struct CRCFile::Stream {
+    struct Closer {
+        void operator()(std::FILE* file) const noexcept { static_cast<void>(std::fclose(file)); }
+    };
+    std::unique_ptr<std::FILE, Closer> File;
+    std::string Path;
+    bool Writing = false;
+};
+
+namespace {
+
+constexpr unsigned int trailerSize = 4;
+using Trailer = std::array<unsigned char, trailerSize>;
+
+Trailer TrailerOf(unsigned int value) {
+    return {static_cast<unsigned char>(value), static_cast<unsigned char>(value >> 8),
+            static_cast<unsigned char>(value >> 16), static_cast<unsigned char>(value >> 24)};
+}
+
+// The four bytes at the end of a file, of which `length` bytes stand before them.
+bool ReadTrailer(std::FILE* file, unsigned int& value, std::uint64_t& length) {
+    if (::fseeko(file, -static_cast<off_t>(trailerSize), SEEK_END) != 0) {
+        return false;
+    }
+    length = static_cast<std::uint64_t>(::ftello(file));
+    Trailer bytes{};
+    if (std::fread(bytes.data(), 1, trailerSize, file) != trailerSize) {
+        return false;
+    }
+    value = bytes[0] | static_cast<unsigned int>(bytes[1]) << 8 |
+            static_cast<unsigned int>(bytes[2]) << 16 | static_cast<unsigned int>(bytes[3]) << 24;
+    return true;
+}
+
+std::string OpeningError(const std::string& path) {
+    return std::string(MARLINSUITE::Message(MARLINSUITE::MESSAGE::ERROR_OPENING_FILE)) + path +
+           "\".";
+}
+
+std::string SystemCause(const std::string& path, int error) {
+    return path + ": " + std::generic_category().message(error);
+}
+
+}  // namespace
+
+CRCFile& CRCFile::operator=(const CRCFile& other) {
+    if (m_Stream != other.m_Stream) {
+        if (m_Stream.use_count() == 1) {
+            Close();
+        }
+        m_Stream = other.m_Stream;
+    }
+    return *this;
+}
+
+CRCFile::~CRCFile() {
+    if (m_Stream.use_count() == 1) {
+        Close();
+    }
+}
+
+std::FILE* CRCFile::File() const noexcept {
+    return m_Stream ? m_Stream->File.get() : nullptr;
+}
+
+bool CRCFile::IsOpen() const noexcept {
+    return File() != nullptr;
+}
+
+ErrorString CRCFile::Open(const std::string& path, const char* mode) {
+    Close();
+    auto stream = std::make_shared<Stream>();
+    stream->Path = path;
+    stream->Writing = std::strpbrk(mode, "wW") != nullptr;
+    stream->File.reset(std::fopen(path.c_str(), mode));
+    if (!stream->File) {
+        const int error = errno;
+        return ErrorString(OpeningError(path)).SetCause(SystemCause(path, error));
+    }
+    m_Stream = std::move(stream);
+    if (m_Stream->Writing) {
+        return {};
+    }
+    if (!CheckCRC()) {
+        m_Stream.reset();
+        const std::string_view reason =
+            MARLINSUITE::Message(MARLINSUITE::MESSAGE::INVALID_CHECKSUM);
+        return ErrorString(OpeningError(path) + std::string(reason));
+    }
+    Rewind();
+    return {};
+}
+
+void CRCFile::Close() {
+    if (!IsOpen()) {
+        m_Stream.reset();
+        return;
+    }
+    errno = 0;
+    bool good = !m_Stream->Writing || AddChecksum();
+    good = std::fclose(m_Stream->File.release()) == 0 && good;
+    if (!good) {
+        const int error = errno;
+        ErrorString(false).SetCause(SystemCause(m_Stream->Path, error));
+    }
+    m_Stream.reset();
+}
+
+unsigned int CRCFile::Read(void* buffer, unsigned int size, unsigned int count) {
+    return IsOpen() ? static_cast<unsigned int>(std::fread(buffer, size, count, File())) : 0;
+}
+
+unsigned int CRCFile::Write(const void* buffer, unsigned int size, unsigned int count) {
+    return IsOpen() ? static_cast<unsigned int>(std::fwrite(buffer, size, count, File())) : 0;
+}
+
+bool CRCFile::Seek(int offset, int origin) {
+    return IsOpen() && std::fseek(File(), offset, origin) == 0;
+}
+
+unsigned int CRCFile::Tell() const {
+    return IsOpen() ? static_cast<unsigned int>(std::ftell(File())) : 0xFFFFFFFFU;
+}
+
+void CRCFile::Rewind() {
+    if (IsOpen()) {
+        std::rewind(File());
+    }
+}
+
+bool CRCFile::Flush() {
+    return IsOpen() && std::fflush(File()) == 0;
+}
+
+unsigned int CRCFile::GetCRC(const std::string& path) {
+    const std::unique_ptr<std::FILE, Stream::Closer> file(std::fopen(path.c_str(), "rb"));
+    unsigned int value = 0;
+    std::uint64_t length = 0;
+    return file && ReadTrailer(file.get(), value, length) ? value : 0;
+}
+
+// A file that ends early leaves the register without its final inversion, which matches no
+// stored checksum but by chance.
+unsigned int CRCFile::ComputeCRC(std::uint64_t length) {
+    constexpr std::size_t blockSize = 256 * 1024;
+    Rewind();
+    if (length == 0) {
+        return 0;
+    }
+    const auto block = std::make_unique_for_overwrite<unsigned char[]>(blockSize);
+    unsigned int state = CRC32::Start;
+    while (length > 0) {
+        const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(length, blockSize));
+        const std::size_t got = std::fread(block.get(), 1, wanted, File());
+        state = CRC32::Update(state, block.get(), got);
+        if (got < wanted) {
+            return state;
+        }
+        length -= got;
+    }
+    return ~state;
+}
+
+bool CRCFile::CheckCRC() {
+    unsigned int stored = 0;
+    std::uint64_t length = 0;
+    return ReadTrailer(File(), stored, length) && stored == ComputeCRC(length);
+}
+
+// A stream that cannot be read back (its mode lacked the "+") gets a trailer that matches
+// nothing, and the failure is reported.
+bool CRCFile::AddChecksum() {
+    if (std::fseek(File(), 0, SEEK_END) != 0) {
+        return false;
+    }
+    const Trailer bytes = TrailerOf(ComputeCRC(static_cast<std::uint64_t>(::ftello(File()))));
+    const bool readable = std::ferror(File()) == 0;
+    return std::fseek(File(), 0, SEEK_END) == 0 &&
+           std::fwrite(bytes.data(), 1, trailerSize, File()) == trailerSize && readable;
+}

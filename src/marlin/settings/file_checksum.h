@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/core/export.h>
+
+#include <string>
+
+/// A fingerprint of a file, taken once, when it is made: its modification time and its first
+/// 32-bit words. A host takes another later and compares, to see whether the file changed. Its
+/// value is 0 when no file could be opened, or a folder, device or pipe, which has no contents
+/// to tell apart.
+class MARLIN_API FileChecksum {
+public:
+    /// Word limit: no limit.
+    static constexpr unsigned int AllWords = 0xFFFFFFFFU;
+
+    /// Covers the first `wordLimit` words; bytes behind the last whole word never count.
+    FileChecksum(const std::string& path, unsigned int wordLimit);
+
+    [[nodiscard]] unsigned int Value() const noexcept { return m_Value; }
+
+    // Values alone take part.
+    bool operator==(const FileChecksum& other) const noexcept { return m_Value == other.m_Value; }
+    bool operator!=(const FileChecksum& other) const noexcept { return m_Value != other.m_Value; }
+
+private:
+    std::string m_Path;
+    unsigned int m_Value = 0;
+};

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/start_up.h>
 #include <marlin/base/version_gate.h>
-#include <marlin/platform/text/string_table.h>
+#include <marlin/core/detail/load_order.h>
+#include <marlin/resources/dialogs.h>
+#include <marlin/resources/texts.h>
 
 namespace MARLINSUITE {
 
@@ -20,7 +22,7 @@ struct Loading {
     ~Loading() { ShutDown(); }
 };
 
-[[gnu::init_priority(101)]] const Loading loading;
+[[gnu::init_priority(MARLINSUITE::detail::LoadStartUp)]] const Loading loading;
 
 }  // namespace
 
@@ -46,7 +48,8 @@ bool LoadDLLResourceDLL(HINSTANCE library, HINSTANCE registered) noexcept {
     if (!library || !registered) {
         return false;
     }
-    PLATFORM::StringTable::Set(PLATFORM::DefaultStringTable);
+    LoadTexts();
+    LoadDialogs();
     return true;
 }
 

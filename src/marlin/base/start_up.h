@@ -32,8 +32,9 @@ MARLIN_API StartUpSteps StartUp(unsigned int version = LibraryVersion) noexcept;
 /// Ends the registration; runs by itself when the library is unloaded.
 MARLIN_API void ShutDown() noexcept;
 
-/// Makes the library's string table the current one. The library's resources are linked into
-/// it, so nothing is read; false, and nothing changed, without both modules.
+/// Hands the library's texts and dialog templates over to the platform and makes the texts the
+/// current ones. They are linked into the library, so no file is read; false, and nothing
+/// changed, without both modules.
 MARLIN_API bool LoadDLLResourceDLL(HINSTANCE library, HINSTANCE registered) noexcept;
 
 }  // namespace MARLINSUITE

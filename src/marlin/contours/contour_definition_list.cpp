@@ -2,6 +2,7 @@
 #include <marlin/base/colors/color_table.h>
 #include <marlin/contours/contour_definition_list.h>
 #include <marlin/contours/detail/contour_file.h>
+#include <marlin/core/detail/load_order.h>
 
 #include <algorithm>
 #include <cassert>
@@ -9,7 +10,8 @@
 #include <span>
 #include <utility>
 
-[[gnu::init_priority(101)]] const std::string ContourDefinitionList::LINESTYLES[3] = {
+[[gnu::init_priority(
+    MARLINSUITE::detail::LoadValues)]] const std::string ContourDefinitionList::LINESTYLES[3] = {
     "CONTINUOUS", "DASHED", "DOTTED"};
 
 namespace {

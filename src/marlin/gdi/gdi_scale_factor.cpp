@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/core/detail/load_order.h>
 #include <marlin/gdi/gdi_scale_factor.h>
 #include <marlin/platform/kernel/version.h>
 
-[[gnu::init_priority(101)]] const GDIScaleFactor GDIScaleFactor::g_Factor;
+[[gnu::init_priority(
+    MARLINSUITE::detail::LoadValues)]] const GDIScaleFactor GDIScaleFactor::g_Factor;
 
 GDIScaleFactor::GDIScaleFactor() noexcept {
     OSVERSIONINFOA version;

@@ -2,6 +2,7 @@
 #include <marlin/base/marlin_string.h>
 #include <marlin/base/text_functions.h>
 #include <marlin/color/dxf_color.h>
+#include <marlin/core/detail/load_order.h>
 #include <marlin/records/detail/color_items.h>
 #include <marlin/records/line_info.h>
 #include <marlin/settings/section.h>
@@ -11,7 +12,8 @@
 #include <cstddef>
 #include <iterator>
 
-[[gnu::init_priority(101)]] const std::string LineInfo::STYLEDESCRIPTIONS[4] = {
+[[gnu::init_priority(
+    MARLINSUITE::detail::LoadValues)]] const std::string LineInfo::STYLEDESCRIPTIONS[4] = {
     "Solid Line", "Dashed", "Dot", "Dash dot"};
 
 const std::string& LineInfo::StyleStr() const noexcept {

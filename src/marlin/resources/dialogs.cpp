@@ -65,4 +65,6 @@ constexpr std::array<DialogTemplate, 3> templates = {{
 
 }  // namespace
 
-constinit const std::span<const DialogTemplate> PLATFORM::DefaultDialogTemplates = templates;
+void MARLINSUITE::LoadDialogs() noexcept {
+    PLATFORM::SetDialogTemplates(templates);
+}

@@ -29,4 +29,7 @@ enum CONTROL_ID : int {
     CONTROL_LEVEL = 9036,
 };
 
+/// Hands the dialog templates over to the platform.
+void LoadDialogs() noexcept;
+
 }  // namespace MARLINSUITE

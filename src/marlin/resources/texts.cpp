@@ -38,9 +38,11 @@ constexpr std::array texts = {
 
 }  // namespace
 
-constinit const std::span<const PLATFORM::StringResource> PLATFORM::DefaultStringTable = texts;
-
 namespace MARLINSUITE {
+
+void LoadTexts() noexcept {
+    PLATFORM::StringTable::SetOwn(texts);
+}
 
 std::string_view Message(MESSAGE message) noexcept {
     return PLATFORM::StringTable::Text(static_cast<unsigned int>(message));

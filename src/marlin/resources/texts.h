@@ -28,8 +28,11 @@ enum class MESSAGE : unsigned int {
     INVALID_SECTION = 9086,
 };
 
-/// The text of that number in the current string table; an empty one when it has none. May be
-/// called from every static constructor.
+/// Hands the texts over to the platform's string table and makes them the current ones.
+void LoadTexts() noexcept;
+
+/// The text of that number in the current string table; an empty one when it has none. The
+/// start-up loads the texts before any other static constructor runs.
 [[nodiscard]] std::string_view Message(MESSAGE message) noexcept;
 
 }  // namespace MARLINSUITE

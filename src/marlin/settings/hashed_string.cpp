@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/text_functions.h>
+#include <marlin/core/detail/load_order.h>
 #include <marlin/settings/detail/name_hash.h>
 #include <marlin/settings/hashed_string.h>
 
 // Before all names and keys that are made at load.
-[[gnu::init_priority(101)]] const std::string HashedString::emptyText;
+[[gnu::init_priority(MARLINSUITE::detail::LoadValues)]] const std::string HashedString::emptyText;
 
 HashedString::HashedString(std::string_view text)
     : m_Text(text.empty() ? nullptr : std::make_shared<const std::string>(text)),

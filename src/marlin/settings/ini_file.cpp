@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/files/detail/file_output.h>
 #include <marlin/base/files/detail/settings_reader.h>
+#include <marlin/core/detail/load_order.h>
 #include <marlin/resources/texts.h>
 #include <marlin/settings/detail/name_index.h>
 #include <marlin/settings/detail/name_pool.h>
@@ -13,7 +14,8 @@
 #include <vector>
 
 // Made before the objects of hosts, destroyed after them; its name needs nothing made before.
-[[gnu::init_priority(102)]] const Section IniFile::m_ErrorSection("");
+[[gnu::init_priority(MARLINSUITE::detail::LoadComposites)]] const Section IniFile::m_ErrorSection(
+    "");
 
 namespace {
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/crc_checksum.h>
+#include <marlin/core/detail/load_order.h>
 #include <marlin/settings/detail/name_hash.h>
 #include <marlin/settings/section.h>
 
@@ -8,8 +9,10 @@
 #include <utility>
 
 // Made before the objects of hosts and of the library's other sources, destroyed after them.
-[[gnu::init_priority(102)]] const HashedString Section::m_ChecksumName("$CHECKSUM$");
-[[gnu::init_priority(102)]] const SectionKey Section::m_ErrorKey("");
+[[gnu::init_priority(
+    MARLINSUITE::detail::LoadComposites)]] const HashedString Section::m_ChecksumName("$CHECKSUM$");
+[[gnu::init_priority(MARLINSUITE::detail::LoadComposites)]] const SectionKey Section::m_ErrorKey(
+    "");
 
 void Section::SetComments(const char* comments) {
     if (comments) {

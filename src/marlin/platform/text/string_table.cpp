@@ -7,16 +7,21 @@ namespace PLATFORM {
 
 namespace {
 
-constinit std::span<const StringResource> replacement;
+constinit std::span<const StringResource> own;
+constinit std::span<const StringResource> current;
 
 }  // namespace
 
+void StringTable::SetOwn(std::span<const StringResource> table) noexcept {
+    own = table;
+    current = table;
+}
+
 void StringTable::Set(std::span<const StringResource> table) noexcept {
-    replacement = table;
+    current = table.empty() ? own : table;
 }
 
 std::string_view StringTable::Text(unsigned int id) noexcept {
-    const auto& current = replacement.empty() ? DefaultStringTable : replacement;
     const auto found = std::ranges::find(current, id, &StringResource::Id);
     return found == current.end() ? std::string_view() : found->Text;
 }

@@ -14,16 +14,15 @@ struct StringResource {
     std::string_view Text;
 };
 
-/// The texts of the library's own resources, which define it. Constant-initialised.
-extern const std::span<const StringResource> DefaultStringTable;
-
-/// The string table from which `CString::LoadString` takes its texts. It starts as that of the
-/// library's own resources, before any code runs; another one may be handed over, in another
-/// language for instance.
+/// The string table from which `CString::LoadString` takes its texts: the one that the library's
+/// resources hand over when it is loaded, or another one in its place, in another language for
+/// instance. A table must outlive every later look-up. Not to be changed beside look-ups of other
+/// threads.
 class MARLIN_API StringTable {
 public:
-    /// Makes `table` the current one; it must outlive every later look-up. An empty table
-    /// brings back the library's own. Not to be called beside look-ups of other threads.
+    /// Makes `table` the library's own and the current one.
+    static void SetOwn(std::span<const StringResource> table) noexcept;
+    /// Makes `table` the current one. An empty table brings back the library's own.
     static void Set(std::span<const StringResource> table) noexcept;
     /// The text of that number, or an empty one.
     [[nodiscard]] static std::string_view Text(unsigned int id) noexcept;

@@ -5,9 +5,19 @@
 
 namespace PLATFORM {
 
+namespace {
+
+constinit std::span<const DialogTemplate> current;
+
+}  // namespace
+
+void SetDialogTemplates(std::span<const DialogTemplate> templates) noexcept {
+    current = templates;
+}
+
 const DialogTemplate* FindDialogTemplate(unsigned int id) noexcept {
-    const auto found = std::ranges::find(DefaultDialogTemplates, id, &DialogTemplate::Id);
-    return found == DefaultDialogTemplates.end() ? nullptr : &*found;
+    const auto found = std::ranges::find(current, id, &DialogTemplate::Id);
+    return found == current.end() ? nullptr : &*found;
 }
 
 }  // namespace PLATFORM

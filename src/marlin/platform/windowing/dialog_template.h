@@ -48,10 +48,10 @@ struct DialogTemplate {
     std::span<const ControlTemplate> Controls;
 };
 
-/// The templates of the library's own resources, which define it. Constant-initialised.
-extern const std::span<const DialogTemplate> DefaultDialogTemplates;
+/// The library's resources hand over their templates when it is loaded; these live as long as it.
+void SetDialogTemplates(std::span<const DialogTemplate> templates) noexcept;
 
-/// The template of that number among the library's own; null when there is none.
+/// The template of that number among those; null when there is none.
 [[nodiscard]] MARLIN_API const DialogTemplate* FindDialogTemplate(unsigned int id) noexcept;
 
 }  // namespace PLATFORM

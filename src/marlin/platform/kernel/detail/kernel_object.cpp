@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/core/detail/load_order.h>
 #include <marlin/platform/kernel/detail/kernel_object.h>
 
 #include <bit>
@@ -17,7 +18,7 @@ struct KernelObjects {
     std::unordered_map<std::uintptr_t, std::shared_ptr<KernelObject>> Handles;
 };
 
-[[gnu::init_priority(101)]] KernelObjects objects;
+[[gnu::init_priority(MARLINSUITE::detail::LoadValues)]] KernelObjects objects;
 
 std::uintptr_t ValueOf(HANDLE handle) noexcept {
     return reinterpret_cast<std::uintptr_t>(handle);

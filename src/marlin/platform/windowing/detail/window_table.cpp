@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/core/detail/load_order.h>
 #include <marlin/platform/windowing/detail/window_table.h>
 
 #include <vector>
@@ -7,7 +8,7 @@ namespace PLATFORM {
 
 namespace {
 
-[[gnu::init_priority(101)]] WindowTable all;
+[[gnu::init_priority(MARLINSUITE::detail::LoadValues)]] WindowTable all;
 
 }  // namespace
 

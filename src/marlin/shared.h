@@ -1,7 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Every public class of the library, the Qt part excepted.
+/// @file
+/// Every public class of the library, the Qt part excepted.
+///
+/// @code
+/// LineInfo coast;
+/// coast.SetColor(RGBColor(0, 64, 128));
+/// IniFile chart;
+/// coast.Write(chart["Coastline"]);
+/// const ErrorString error = chart.Save("chart.ini");
+/// if (!error.Empty()) std::puts(error.Text().c_str());
+///
+/// LineInfo line;
+/// line.Read(IniFile("chart.ini")["coastline"]);  // names ignore case
+/// assert(line == coast);
+/// @endcode
 
 #include <marlin/base/colors/color_table.h>
 #include <marlin/base/colors/palette_import.h>

@@ -25,6 +25,7 @@
 #include <marlin/base/files/file_name.h>
 #include <marlin/base/files/file_object.h>
 #include <marlin/base/files/file_replacement.h>
+#include <marlin/base/files/settings_grammar.h>
 #include <marlin/base/format_string.h>
 #include <marlin/base/help_provider.h>
 #include <marlin/base/marlin_string.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/colors/detail/palette_reader.h>
 #include <marlin/base/files/detail/line_reader.h>
-#include <marlin/base/files/detail/settings_reader.h>
+#include <marlin/base/files/settings_grammar.h>
 #include <marlin/base/text_functions.h>
 #include <marlin/core/number_text.h>
 
@@ -75,6 +75,7 @@ bool PaletteReader::ForEachLine(std::string_view text, Take take) {
     std::string_view line;
     while (lines.Next(line)) {
         ++m_Line;
+        line = line.substr(0, line.find('\n'));
         if (line.size() > longestLine) {
             return Fail("the line is longer than 4096 characters");
         }

@@ -34,8 +34,8 @@ bool LineReader::NextAfterRefill(std::string_view& line) {
     if (m_Error != 0 || (found == std::string_view::npos && m_Rest.empty())) {
         return false;
     }
-    line = m_Rest.substr(0, found);
-    m_Rest.remove_prefix(found == std::string_view::npos ? m_Rest.size() : found + 1);
+    line = m_Rest.substr(0, found == std::string_view::npos ? found : found + 1);
+    m_Rest.remove_prefix(line.size());
     return true;
 }
 

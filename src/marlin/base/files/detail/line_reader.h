@@ -11,7 +11,7 @@
 
 namespace MARLINSUITE {
 
-/// Yields the lines of a file or of a text, split at line feeds, without them. A file is read
+/// Yields the lines of a file or of a text, each with its line feed. A file is read
 /// through one buffer that grows only to hold a longer line, so that reading costs little memory
 /// beside what is kept. Lines are good until the next call.
 class LineReader {
@@ -33,9 +33,9 @@ public:
             return NextAfterRefill(line);
         }
         const auto length =
-            static_cast<std::size_t>(static_cast<const char*>(found) - m_Rest.data());
+            static_cast<std::size_t>(static_cast<const char*>(found) - m_Rest.data()) + 1;
         line = m_Rest.substr(0, length);
-        m_Rest.remove_prefix(length + 1);
+        m_Rest.remove_prefix(length);
         return true;
     }
 

@@ -2,6 +2,7 @@
 // Writes one record to a settings file, reads it back and shows it.
 
 // [readme]
+#include <marlin/color/rgb_color.h>
 #include <marlin/records/line_info.h>
 #include <marlin/settings/ini_file.h>
 
@@ -10,7 +11,7 @@
 int main() {
     LineInfo coast;
     coast.SetWidth(0.35F);
-    coast.SetColor(0x804000);  // red in the low byte: 0, 64, 128 is a deep blue
+    coast.SetColor(RGBColor(0, 64, 128));
     coast.SetStyle(LineInfo::DASHED_LINE);
 
     IniFile file;

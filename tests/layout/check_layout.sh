@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Usage: check_layout.sh detail|umbrella|floors SRC
+# Usage: check_layout.sh detail|umbrella|layers SRC
 #   detail    no public header includes one of a detail/ folder
 #   umbrella  shared.h includes every public header but those of the Qt part, and nothing else
-#   floors    includes point down, and never in a circle between folders of one floor
+#   layers    folders do not include each other in a circle, and docs/architecture.md draws them
 set -euo pipefail
 rule=$1
 cd -- "$2"
@@ -35,34 +35,17 @@ check_umbrella() {
     done < <(diff <(printf '%s\n' "$wanted") <(printf '%s\n' "$included"))
 }
 
-declare -A floor=([core]=1 [platform]=2 [resources]=3 [qt]=3 [base]=4 [settings]=5 [geometry]=5
-    [color]=5 [runtime]=5 [records]=6 [keywords]=6 [gdi]=6 [text]=7 [contours]=7)
-
-# Lines "file from to": every include that leads from one folder of src/marlin/ into another.
-crossings() {
-    grep -rHE '^ *# *include *<marlin/[^/>]+/' --include='*.h' --include='*.cpp' . |
-        sed -E 's|^\./(([^/:]+)[^:]*):.*<marlin/([^/]+)/.*|\1 \2 \3|' |
-        awk '$2 != $3' | sort -u
-}
-
-check_floors() {
-    local file from to sideways=""
-    while read -r file from to; do
-        if [ -z "${floor[$from]:-}" ] || [ -z "${floor[$to]:-}" ]; then
-            [ "$file" = shared.h ] || fault "src/marlin/$file: no floor is known for $from or $to"
-        elif [ "${floor[$to]}" -gt "${floor[$from]}" ]; then
-            fault "src/marlin/$file: $from includes $to, which stands on a higher floor"
-        elif [ "${floor[$to]}" -eq "${floor[$from]}" ]; then
-            sideways+="$from $to"$'\n'
-        fi
-    done < <(crossings)
-    tsort <<<"${sideways:-}" >/dev/null || fault "the folders of one floor include each other"
+check_layers() {
+    cd ../..
+    diff --label docs/architecture.md --label "the includes" -u \
+        <(sed -n '/^<!-- layers -->$/,/^<!-- \/layers -->$/{//d;/^```$/d;p}' docs/architecture.md) \
+        <(scripts/layers 2>&1) || fault "scripts/layers --write mends the drawing, when the includes are right"
 }
 
 case $rule in
 detail) check_detail ;;
 umbrella) check_umbrella ;;
-floors) check_floors ;;
+layers) check_layers ;;
 *) exit 2 ;;
 esac
 exit "$faults"

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Usage: awk -f summary.awk targets.txt RESULT.json...
-# Compares the median times of the results with the targets; fails when one is over.
+# Compares the median times of the results with the targets. Fails when one is over, and when a
+# job of the results lacks the contestants that its target names.
 
 function text(line) {
     sub(/^[^:]*: *"?/, "", line)
@@ -36,20 +37,33 @@ BEGIN {
 }
 
 FILENAME == ARGV[1] {
-    if ($0 !~ /^#/ && NF == 3) { ++targets; ours[targets] = $1; peers[targets] = $2; limit[targets] = $3 }
+    if ($0 ~ /^#/ || NF != 3) next
+    ++targets
+    ours[targets] = $1
+    peers[targets] = $2
+    limit[targets] = $3
     next
 }
 
 /"run_name":/ { run = text($0) }
 /"aggregate_name":/ { aggregate = text($0) }
 /"cpu_time":/ { cpu = text($0) + 0 }
-/"time_unit":/ && aggregate == "median" { time[run] = cpu * unit[text($0)] }
+/"time_unit":/ && aggregate == "median" {
+    time[run] = cpu * unit[text($0)]
+    measured[job(run)]
+}
 
 END {
     printf format, "job", "ours", "peer", "peer's", "ratio", "target", ""
     for (i = 1; i <= targets; ++i) {
         peer = fastest(ours[i], peers[i])
-        if (!(ours[i] in time) || peer == "") continue
+        if (!(job(ours[i]) in measured)) continue
+        if (peer == "" && peers[i] ~ /\//) continue  # the peer is another job, left out of this run
+        if (!(ours[i] in time) || peer == "") {
+            printf format, ours[i], "", peers[i], "", "", limit[i], "not measured"
+            failed = 1
+            continue
+        }
         ratio = time[ours[i]] / time[peer]
         verdict = limit[i] == "-" ? "" : ratio <= limit[i] ? "ok" : "over"
         if (verdict == "over") failed = 1

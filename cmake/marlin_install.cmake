@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# What is installed, and how hosts find it: the CMake package and the pkg-config file.
+# Installs the library, and what hosts find it by: the CMake package and the pkg-config files.
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/MarlinShared)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# What every target of the project is compiled with.
+# The options that every target of the project is compiled with.
 
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
@@ -16,7 +16,7 @@ function(marlin_target_options target)
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
     -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2
     -Wundef -Wunused
-    # The stated arithmetic, step by step, on processors with fused multiply-add too.
+    # The same results on processors with fused multiply-add as on those without.
     -ffp-contract=off
     # g++ 12 finds null pointers in the standard library's own streams.
     $<$<CXX_COMPILER_ID:Clang>:-Wnull-dereference>

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
-# What the scripts share; sourced, never run. Every script works from any folder.
+# Functions that the scripts share; sourced, never run. Every script works from any folder.
 
 set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Makes a C++ source of the examples in headers: each block "/// @code" ... "/// @endcode" becomes
 # a function, and a test that calls it unless its first line is a comment "// not run: REASON".
-# Usage: awk -v root=SRC/ -f extract.awk HEADER...   SRC/ is cut off the front of each header's name.
+# Usage: awk -v root=SRC/ -f extract.awk HEADER...   each HEADER's name begins with SRC/.
 
 function fail(place, reason) {
     print place ": " reason > "/dev/stderr"
@@ -31,7 +31,7 @@ function start_function() {
 
 function add_line() {
     line = $0
-    if (!sub(/^ *\/\/\/ ?/, "", line)) fail(FILENAME ":" FNR, "the example's comment ends before @endcode")
+    if (!sub(/^ *\/\/\/ ?/, "", line)) fail(FILENAME ":" FNR, "the comment ends before @endcode")
     if (lines++ == 0) start_function()
     print line
 }

@@ -14,7 +14,8 @@ here=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")" && pwd)
 # global, with "()" after a function.
 scopes() {
     nm -D --defined-only -C "$1" | sed -nE 's/^[0-9a-f]* [TDBR] //p' |
-        sed -E 's/^(vtable|typeinfo|typeinfo name|VTT|guard variable|(non-)?virtual thunk) (for|to) (.*)$/\4::/
+        sed -E 's/^(vtable|typeinfo( name)?|VTT|guard variable) for (.*)$/\3::/
+            s/^(non-)?virtual thunk to (.*)$/\2::/
             s/\[abi:[a-z0-9]+\]//g
             s/\boperator[^A-Za-z0-9_].*$/operator()/
             :again; s/<[^<>]*>//g; t again

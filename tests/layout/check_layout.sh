@@ -14,7 +14,9 @@ fault() {
     faults=1
 }
 
-public_headers() { find . -name '*.h' ! -path '*/detail/*' ! -path ./shared.h -printf '%P\n' | sort; }
+public_headers() {
+    find . -name '*.h' ! -path '*/detail/*' ! -path ./shared.h -printf '%P\n' | sort
+}
 
 check_detail() {
     local line
@@ -37,9 +39,11 @@ check_umbrella() {
 
 check_layers() {
     cd ../..
-    diff --label docs/architecture.md --label "the includes" -u \
-        <(sed -n '/^<!-- layers -->$/,/^<!-- \/layers -->$/{//d;/^```$/d;p}' docs/architecture.md) \
-        <(scripts/layers 2>&1) || fault "scripts/layers --write mends the drawing, when the includes are right"
+    local page=docs/architecture.md
+    diff --label $page --label "the includes" -u \
+        <(sed -n '/^<!-- layers -->$/,/^<!-- \/layers -->$/{//d;/^```$/d;p}' $page) \
+        <(scripts/layers 2>&1) ||
+        fault "when the includes are right, scripts/layers --write mends the drawing"
 }
 
 case $rule in

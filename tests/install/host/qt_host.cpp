@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Takes the windows of Qt and tells whether they are the ones that dialogs are shown in.
+// Makes the windows of Qt the current ones and prints whether dialogs use them.
 #include <marlin/qt/window_system.h>
 
 #include <cstdio>

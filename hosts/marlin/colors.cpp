@@ -1,22 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "color_source.h"
-#include "color_text.h"
-#include "commands.h"
-#include "contour_file.h"
-#include "json.h"
-#include "table.h"
+#include "families.h"
+#include "input/color_argument.h"
+#include "input/color_source.h"
+#include "input/level.h"
+#include "output/color_text.h"
+#include "output/json.h"
+#include "output/table.h"
 #include <marlin/base/files/file_object.h>
 #include <marlin/color/dxf_color.h>
-#include <marlin/core/number_text.h>
 
 namespace HOST {
 
 namespace {
-
-void AppendColor(JsonWriter& json, const RGBColor& color) {
-    json.Name("color").Text(ColorText(color));
-    json.Name("dxf").Number(DXFColor(color).Index());
-}
 
 void AppendTable(const ColorTable& colors, Output& output) {
     Table table{{"From", Table::RIGHT}, {"Color"}, {"DXF", Table::RIGHT}};
@@ -29,94 +24,110 @@ void AppendTable(const ColorTable& colors, Output& output) {
     table.AppendTo(output);
 }
 
-void AppendJson(const std::string& path, const ColorTable& colors, std::string& text) {
-    JsonWriter json(text);
-    json.BeginObject().Name("file").Text(path);
-    json.Name("below").BeginObject();
-    AppendColor(json, RGBColor(colors.BelowColor()));
-    json.EndObject();
-    json.Name("entries").BeginArray();
+Json JsonOf(const std::string& path, const ColorTable& colors) {
+    const RGBColor below(colors.BelowColor());
+    Json entries = Json::array();
     for (int i = 0; i < colors.NumEntries(); ++i) {
-        json.BeginObject().Name("value").Number(colors.EntryValue(i));
-        AppendColor(json, RGBColor(colors.EntryColor(i)));
-        json.EndObject();
+        const RGBColor color(colors.EntryColor(i));
+        entries.push_back({{"value", JsonNumber(colors.EntryValue(i))},
+                           {"color", ColorText(color)},
+                           {"dxf", DXFColor(color).Index()}});
     }
-    json.EndArray().EndObject();
+    return {{"file", AsUtf8(path)},
+            {"below", {{"color", ColorText(below)}, {"dxf", DXFColor(below).Index()}}},
+            {"entries", std::move(entries)}};
 }
 
-struct DxfMatch {
-    std::string Argument;
-    RGBColor Color;
-    DXFColor Index;
+struct ConvertColors {
+    std::string From;
+    std::string To;
+
+    void Declare(Options& options) {
+        options.Word("IN", From, "Palette or color table");
+        options.Word("OUT", To, "Color table to write");
+    }
+
+    int Run(Output& output) const {
+        if (HasExtension(To, "cpt")) {
+            Fail(To + ": only color tables (.col) are written");
+        }
+        ColorTable colors;
+        Require(ReadColors(From, colors));
+        FileObject file;
+        if (!colors.FileSave(file)) {
+            Refuse(From + ": a value that is not finite");
+        }
+        constexpr unsigned int writeFlags = 0x1011;  // create, write, deny others all
+        if (!file.FileSave(CString(To.c_str()), writeFlags)) {
+            Require(ErrorString::LastError());
+        }
+        output.Text += Printable(AsUtf8(To)) + ": " + NumberText(colors.NumEntries()) +
+                       (colors.NumEntries() == 1 ? " entry\n" : " entries\n");
+        return DONE;
+    }
 };
 
-void AppendMatches(const std::vector<DxfMatch>& matches, Output& output) {
-    if (output.Json) {
-        JsonWriter json(output.Text);
-        json.BeginArray();
-        for (const DxfMatch& match : matches) {
-            json.BeginObject().Name("argument").Text(match.Argument);
-            AppendColor(json, match.Color);
-            json.Name("palette").Text(ColorText(RGBColor(match.Index))).EndObject();
+struct ShowColors {
+    std::string File;
+    bool IsJson = false;
+
+    void Declare(Options& options) {
+        options.Word("FILE", File, "Color table or palette");
+        options.Json(IsJson);
+    }
+
+    int Run(Output& output) const {
+        ColorTable colors;
+        Require(ReadColors(File, colors));
+        if (IsJson) {
+            AppendJson(JsonOf(File, colors), output);
+        } else {
+            AppendTable(colors, output);
         }
-        json.EndArray();
-        return;
+        return DONE;
     }
-    Table table{{"Color"}, {"DXF", Table::RIGHT}, {"Palette"}};
-    for (const DxfMatch& match : matches) {
-        table << match.Color << match.Index.Index() << RGBColor(match.Index);
+};
+
+struct FindDxfColors {
+    std::vector<std::string> Colors;
+    bool IsJson = false;
+
+    void Declare(Options& options) {
+        options.Words("COLOR", Colors, "#rrggbb, r,g,b, r/g/b, dxf:N or the name of a basic color");
+        options.Json(IsJson);
     }
-    table.AppendTo(output);
-}
+
+    int Run(Output& output) const {
+        Json json = Json::array();
+        Table table{{"Color"}, {"DXF", Table::RIGHT}, {"Palette"}};
+        for (const std::string& argument : Colors) {
+            const std::optional<RGBColor> color = ParseColor(argument);
+            if (!color) {
+                Fail("\"" + argument + "\" is no color: " + std::string(ColorForms));
+            }
+            const DXFColor nearest(*color);
+            table << *color << nearest.Index() << RGBColor(nearest);
+            json.push_back({{"argument", AsUtf8(argument)},
+                            {"color", ColorText(*color)},
+                            {"dxf", nearest.Index()},
+                            {"palette", ColorText(RGBColor(nearest))}});
+        }
+        if (IsJson) {
+            AppendJson(json, output);
+        } else {
+            table.AppendTo(output);
+        }
+        return DONE;
+    }
+};
 
 }  // namespace
 
-int ShowColors(const std::string& path, Output& output) {
-    ColorTable colors;
-    if (const ErrorString error = ReadColors(path, colors); !error.Empty()) {
-        return Unusable(error);
-    }
-    if (output.Json) {
-        AppendJson(path, colors, output.Text);
-    } else {
-        AppendTable(colors, output);
-    }
-    return DONE;
-}
-
-int ConvertColors(const std::string& from, const std::string& to, Output& output) {
-    if (HasExtension(to, "cpt")) {
-        return Unusable(to + ": only color tables (.col) are written");
-    }
-    ColorTable colors;
-    if (const ErrorString error = ReadColors(from, colors); !error.Empty()) {
-        return Unusable(error);
-    }
-    FileObject file;
-    constexpr unsigned int writeFlags = 0x1011;  // create, write, deny others all
-    if (!colors.FileSave(file)) {
-        return Refused(from + ": a value that is not finite");
-    }
-    if (!file.FileSave(CString(to.c_str()), writeFlags)) {
-        return Unusable(ErrorString::LastError());
-    }
-    output.Text += Printable(AsUtf8(to)) + ": ";
-    MARLINSUITE::AppendNumber(output.Text, colors.NumEntries());
-    output.Text += colors.NumEntries() == 1 ? " entry\n" : " entries\n";
-    return DONE;
-}
-
-int FindDxfColors(const std::vector<std::string>& colors, Output& output) {
-    std::vector<DxfMatch> matches;
-    for (const std::string& argument : colors) {
-        const std::optional<RGBColor> color = ParseColor(argument);
-        if (!color) {
-            return Unusable("\"" + argument + "\" is no color: " + std::string(ColorForms));
-        }
-        matches.push_back({argument, *color, DXFColor(*color)});
-    }
-    AppendMatches(matches, output);
-    return DONE;
+void AddColors(Family& program) {
+    Family colors = program.AddFamily("colors", "Color tables (.col), palettes (.cpt), DXF");
+    colors.Add<ConvertColors>("convert", "Write a palette as a color table");
+    colors.Add<ShowColors>("show", "Show a color table or a palette");
+    colors.Add<FindDxfColors>("dxf", "Find the palette index of colors");
 }
 
 }  // namespace HOST

@@ -3,8 +3,8 @@
 
 namespace HOST {
 
-/// Reads the arguments, runs the command that they name, writes its output, and gives the
-/// program's exit code.
+/// Runs the command that the arguments name and prints its output or the reason of its failure.
+/// Returns the exit code.
 [[nodiscard]] int RunCommandLine(int argc, char** argv);
 
 }  // namespace HOST

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "commands.h"
-#include "input.h"
-#include "json.h"
-#include "settings_source.h"
-#include "table.h"
+#include "families.h"
+#include "input/input.h"
+#include "input/settings_source.h"
+#include "output/json.h"
+#include "output/table.h"
 #include <marlin/base/data_search.h>
 #include <marlin/keywords/keywords.h>
 #include <marlin/keywords/list_keywords.h>
@@ -16,115 +16,127 @@ namespace HOST {
 
 namespace {
 
+bool IsForPlots(const CKeyword& keyword) {
+    return CKeywords::IsPredefinedPlotKeyword(keyword.m_Key);
+}
+
 bool IsPredefined(const CKeyword& keyword) {
-    return CKeywords::IsPredefinedKeyword(keyword.m_Key) ||
-           CKeywords::IsPredefinedPlotKeyword(keyword.m_Key);
+    return CKeywords::IsPredefinedKeyword(keyword.m_Key) || IsForPlots(keyword);
 }
 
 // What exists is a file; a text is what holds a "%".
-ErrorString ReadTextOrFile(const std::string& argument, std::string& text) {
+std::string ReadTextOrFile(const std::string& argument) {
     std::error_code unknown;
-    if (argument.find('%') == std::string::npos || std::filesystem::exists(argument, unknown)) {
-        return ReadInput(argument, LargestTextFile, text);
+    if (argument.find('%') != std::string::npos && !std::filesystem::exists(argument, unknown)) {
+        return TextOfArgument(argument);
     }
-    return TextOfArgument(argument, text);
+    std::string text;
+    Require(ReadInput(argument, LargestTextFile, text));
+    return text;
 }
 
-void AppendJson(const CKeywords& keywords, std::string& text) {
-    JsonWriter json(text);
-    json.BeginArray();
-    for (int i = 0; i < keywords.GetSize(); ++i) {
-        const CKeyword& keyword = *keywords.GetKeywordConst(i);
-        json.BeginObject().Name("name").Text(PLATFORM::ToUtf8(keyword.m_Key));
-        json.Name("count").Number(keyword.m_RefCount);
-        json.Name("predefined").Bool(IsPredefined(keyword));
-        json.Name("plotsOnly").Bool(CKeywords::IsPredefinedPlotKeyword(keyword.m_Key));
-        json.EndObject();
-    }
-    json.EndArray();
-}
+struct ScanKeywords {
+    std::vector<std::string> Arguments;
+    bool IsJson = false;
 
-void AppendTable(const CKeywords& keywords, Output& output) {
+    void Declare(Options& options) {
+        options.Words("TEXT|FILE", Arguments, "Text with keywords, or a file");
+        options.Json(IsJson);
+    }
+
+    int Run(Output& output) const;
+};
+
+int ScanKeywords::Run(Output& output) const {
+    CKeywords keywords;
+    for (const std::string& argument : Arguments) {
+        keywords.AddKeywordsInString(ReadTextOrFile(argument));
+    }
+    Json json = Json::array();
     Table table{{"Keyword"}, {"Count", Table::RIGHT}, {"Predefined"}};
     for (int i = 0; i < keywords.GetSize(); ++i) {
         const CKeyword& keyword = *keywords.GetKeywordConst(i);
-        const bool isPlots = CKeywords::IsPredefinedPlotKeyword(keyword.m_Key);
         table << Shown(keyword.m_Key) << keyword.m_RefCount
-              << std::string(isPlots                 ? "in plots"
-                             : IsPredefined(keyword) ? "yes"
-                                                     : "no");
+              << (IsForPlots(keyword)     ? "in plots"
+                  : IsPredefined(keyword) ? "yes"
+                                          : "no");
+        json.push_back({{"name", PLATFORM::ToUtf8(keyword.m_Key)},
+                        {"count", keyword.m_RefCount},
+                        {"predefined", IsPredefined(keyword)},
+                        {"plotsOnly", IsForPlots(keyword)}});
     }
-    table.AppendTo(output);
+    if (IsJson) {
+        AppendJson(json, output);
+    } else {
+        table.AppendTo(output);
+    }
+    return DONE;
 }
 
-void AppendListJson(const std::string& path, std::string& text) {
-    JsonWriter json(text);
-    json.BeginObject().Name("file").Text(path);
-    json.Name("keywords").BeginArray();
+Json JsonOfList() {
+    Json list = Json::array();
     CListKeywords& keywords = CListKeywords::Get();
     for (int i = 0; const CListKeyword* const keyword = keywords.GetListKeyword(i); ++i) {
-        json.BeginObject().Name("name").Text(PLATFORM::ToUtf8(keyword->GetName()));
-        json.Name("choices").BeginArray();
+        Json choices = Json::array();
         for (int choice = 0; choice < keyword->GetSize(); ++choice) {
-            json.Text(PLATFORM::ToUtf8(keyword->GetValue(choice)));
+            choices.push_back(PLATFORM::ToUtf8(keyword->GetValue(choice)));
         }
-        json.EndArray().EndObject();
+        list.push_back(
+            {{"name", PLATFORM::ToUtf8(keyword->GetName())}, {"choices", std::move(choices)}});
     }
-    json.EndArray().EndObject();
+    return list;
 }
 
-void AppendList(const std::string& path, Output& output) {
-    output.Text += Printable(AsUtf8(path)) + "\n";
+void AppendList(Output& output) {
     Table table{{"Keyword"}, {"Choice"}};
     CListKeywords& keywords = CListKeywords::Get();
     for (int i = 0; const CListKeyword* const keyword = keywords.GetListKeyword(i); ++i) {
         table << Shown(keyword->GetName()) << Shown(keyword->GetValue(0));
         for (int choice = 1; choice < keyword->GetSize(); ++choice) {
-            table << std::string() << Shown(keyword->GetValue(choice));
+            table.Skip(1) << Shown(keyword->GetValue(choice));
         }
     }
     table.AppendTo(output);
 }
 
-}  // namespace
+struct ListKeywords {
+    bool IsJson = false;
 
-int ScanKeywords(const std::vector<std::string>& arguments, Output& output) {
-    CKeywords keywords;
-    for (const std::string& argument : arguments) {
-        std::string text;
-        if (const ErrorString error = ReadTextOrFile(argument, text); !error.Empty()) {
-            return Unusable(error);
-        }
-        keywords.AddKeywordsInString(text);
-    }
-    if (output.Json) {
-        AppendJson(keywords, output.Text);
-    } else {
-        AppendTable(keywords, output);
-    }
-    return DONE;
-}
+    void Declare(Options& options) { options.Json(IsJson); }
 
-int ListKeywords(Output& output) {
+    int Run(Output& output) const;
+};
+
+int ListKeywords::Run(Output& output) const {
     constexpr unsigned int keywordFiles = 23;
     CString found("Keywords");
     DataSearch::GetDataSearch().GetFullPath(keywordFiles, found);
     const std::string path = found.GetString();
+    // The library reads the list by itself and in silence; this reading finds the faults.
     SettingsSource source;
     const ErrorString error = source.Open(path);
     if (!error.Empty() && source.Path().empty()) {
-        return Unusable(error);
+        Require(error);
     }
-    if (output.Json) {
-        AppendListJson(path, output.Text);
+    if (IsJson) {
+        AppendJson({{"file", AsUtf8(path)}, {"keywords", JsonOfList()}}, output);
     } else {
-        AppendList(path, output);
+        output.Text += Printable(AsUtf8(path)) + "\n";
+        AppendList(output);
     }
-    if (!error.Empty()) {  // what stands before a fault of syntax counts
-        Report(error);
+    if (!error.Empty()) {  // the keywords before a fault of syntax count
+        Report(ReasonOf(error));
         return FOUND;
     }
     return DONE;
+}
+
+}  // namespace
+
+void AddKeywords(Family& program) {
+    Family keywords = program.AddFamily("keywords", "Keywords of plot texts");
+    keywords.Add<ScanKeywords>("scan", "Count the keywords of texts and files");
+    keywords.Add<ListKeywords>("list", "Show the list keywords and their choices");
 }
 
 }  // namespace HOST

@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+#include "contour_file.h"
+#include "contours.h"
+#include "input/color_argument.h"
+#include "input/level.h"
+#include <marlin/core/ascii.h>
+#include <marlin/core/number_text.h>
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+
+namespace HOST {
+
+namespace {
+
+[[noreturn]] void FailOption(std::string_view option, const std::string& text,
+                             std::string_view forms) {
+    Fail(std::string(option) + ": \"" + text + "\" is not " + std::string(forms));
+}
+
+unsigned long ParseColorWord(const std::string& text) {
+    const std::optional<RGBColor> color = ParseColor(text);
+    if (!color) {
+        FailOption("--color", text, ColorForms);
+    }
+    return static_cast<unsigned long>(*color);
+}
+
+int ParseLineType(const std::string& text) {
+    const auto& names = ContourDefinitionList::LINESTYLES;
+    const auto* const found = std::ranges::find_if(names, [&text](const std::string& name) {
+        return PLATFORM::EqualIgnoringCase(text, name);
+    });
+    if (found == std::end(names)) {
+        FailOption("--line-type", text, "continuous, dashed or dotted");
+    }
+    return static_cast<int>(found - std::begin(names));
+}
+
+float ParseWidth(const std::string& text) {
+    float width = 0.0F;
+    if (!MARLINSUITE::ParseWhole(text, width) || !std::isfinite(width) || width < 0.0F) {
+        FailOption("--width", text, "a number of 0 or more");
+    }
+    return width;
+}
+
+bool ParseLabel(const std::string& text) {
+    if (text != "on" && text != "off") {
+        FailOption("--label", text, "on or off");
+    }
+    return text == "on";
+}
+
+std::vector<double> ParseLevels(const std::vector<std::string>& texts) {
+    std::vector<double> levels;
+    for (const std::string& text : texts) {
+        if (!ParseLevel(text, levels.emplace_back())) {
+            Fail("LEVEL: \"" + text + "\" is no number");
+        }
+    }
+    return levels;
+}
+
+// The options that change a line; those that were not given are empty and change nothing.
+struct LineOptions {
+    std::string Color;
+    std::string LineType;
+    std::string Width;
+    std::string Label;
+
+    void Declare(Options& options) {
+        options.Option("--color", Color,
+                       "#rrggbb, r,g,b, r/g/b, dxf:N or the name of a basic color", "COLOR");
+        options.Option("--line-type", LineType, "continuous, dashed or dotted", "TYPE");
+        options.Option("--width", Width, "Line width", "NUMBER");
+        options.Option("--label", Label, "on or off", "SWITCH");
+    }
+    [[nodiscard]] bool Empty() const {
+        return Color.empty() && LineType.empty() && Width.empty() && Label.empty();
+    }
+    void ApplyTo(Contour& contour) const {
+        contour.Color = Color.empty() ? contour.Color : ParseColorWord(Color);
+        contour.LineType = LineType.empty() ? contour.LineType : ParseLineType(LineType);
+        contour.LineWidth = Width.empty() ? contour.LineWidth : ParseWidth(Width);
+        contour.Annotate = Label.empty() ? contour.Annotate : ParseLabel(Label);
+    }
+    // Fails for a value that no line takes, before a file is read.
+    void Check() const {
+        Contour unused;
+        ApplyTo(unused);
+    }
+};
+
+// The part that the three commands share: all is read and understood before anything changes.
+struct ChangeContours {
+    std::string Path;
+    std::vector<std::string> LevelTexts;
+    std::vector<double> Levels;
+    ContourFile File;
+
+    void Declare(Options& options) {
+        options.Word("FILE", Path, "Contour definition file");
+        options.Words("LEVEL", LevelTexts, "Levels, to six decimals");
+    }
+
+    [[nodiscard]] Contour& FindOrRefuse(double level) {
+        Contour* const contour = File.Find(level);
+        if (!contour) {
+            RefuseLevel(level, "is not there");
+        }
+        return *contour;
+    }
+    [[noreturn]] void RefuseLevel(double level, const std::string& reason) const {
+        Refuse(Path + ": level " + LevelText(level) + " " + reason + "; nothing written");
+    }
+
+    [[nodiscard]] int Save(const std::string& done, Output& output) {
+        Require(File.Save());
+        output.Text += CountText(Levels.size(), "level") + " " + done + "\n";
+        return DONE;
+    }
+};
+
+struct SetContours : ChangeContours {
+    LineOptions Line;
+
+    void Declare(Options& options) {
+        ChangeContours::Declare(options);
+        Line.Declare(options);
+    }
+
+    int Run(Output& output) {
+        Levels = ParseLevels(LevelTexts);
+        Line.Check();
+        Require(File.Open(Path, false));
+        if (Line.Empty()) {
+            Fail("nothing to set: --color, --line-type, --width or --label");
+        }
+        for (const double level : Levels) {
+            Line.ApplyTo(FindOrRefuse(level));
+        }
+        return Save("set", output);
+    }
+};
+
+struct AddContourLevels : ChangeContours {
+    LineOptions Line;
+
+    void Declare(Options& options) {
+        ChangeContours::Declare(options);
+        Line.Declare(options);
+    }
+
+    int Run(Output& output) {
+        Levels = ParseLevels(LevelTexts);
+        Line.Check();
+        Require(File.Open(Path, true));
+        for (const double level : Levels) {
+            if (File.Find(level)) {
+                RefuseLevel(level, "exists");
+            }
+            Contour contour;
+            contour.Level = level;
+            Line.ApplyTo(contour);
+            File.Add(contour);
+        }
+        return Save(File.IsNew() ? "added to a new file" : "added", output);
+    }
+};
+
+struct RemoveContours : ChangeContours {
+    int Run(Output& output) {
+        Levels = ParseLevels(LevelTexts);
+        Require(File.Open(Path, false));
+        for (const double level : Levels) {
+            static_cast<void>(FindOrRefuse(level));
+            File.Remove(level);
+        }
+        if (File.Empty()) {
+            Refuse(Path + ": a contour file keeps one level at least; nothing written");
+        }
+        return Save("removed", output);
+    }
+};
+
+}  // namespace
+
+void AddChangeContours(Family& contours) {
+    contours.Add<SetContours>("set", "Change the lines of levels");
+    contours.Add<AddContourLevels>("add", "Add levels; makes the file when it is missing");
+    contours.Add<RemoveContours>("remove", "Remove levels");
+}
+
+}  // namespace HOST

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "contour_file.h"
+#include "contours.h"
+#include "input/color_source.h"
+#include "input/level.h"
+#include <marlin/color/dxf_color_table.h>
+#include <marlin/core/number_text.h>
+
+#include <array>
+
+namespace HOST {
+
+namespace {
+
+ContourDefinitionList GenerateFromRange(const std::vector<std::string>& range) {
+    std::array<double, 3> numbers{};
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        if (!MARLINSUITE::ParseWhole(range[i], numbers[i])) {
+            Fail("--range: \"" + range[i] + "\" is no number");
+        }
+    }
+    ContourDefinitionList contours;
+    if (!contours.Generate(numbers[0], numbers[1], numbers[2])) {
+        Fail("--range: LOW must be below HIGH and INTERVAL above 0, for at most " +
+             NumberText(ContourDefinitionList::MaxGeneratedLevels) + " levels");
+    }
+    return contours;
+}
+
+// The levels as the file will hold them. Where several become one, the last stays, as it does in
+// a table of colors.
+ContourDefinitionList StoredContours(const ContourDefinitionList& contours) {
+    ContourDefinitionList stored;
+    for (int i = 0; i < contours.NumContours(); ++i) {
+        Contour contour = contours[i];
+        contour.Level = StoredLevel(contour.Level);
+        const int last = stored.NumContours() - 1;
+        if (last >= 0 && stored[last].Level == contour.Level) {
+            stored.Set(last, contour);
+        } else {
+            stored.Add(contour);
+        }
+    }
+    return stored;
+}
+
+struct GenerateContours {
+    std::vector<std::string> Range;
+    std::string Table;
+    bool Invert = false;
+    bool SnapDxf = false;
+    std::string OutFile;
+
+    void Declare(Options& options) {
+        options.Triple("--range", Range, "Lowest and highest level, and the interval",
+                       "LOW HIGH INTERVAL");
+        options.Option("--table", Table, "Color table (.col) or palette (.cpt)", "FILE");
+        options.Exclude("--range", "--table");
+        options.Flag("--invert", Invert, "Invert the table's colors");
+        options.Need("--invert", "--table");
+        options.Flag("--snap-dxf", SnapDxf, "Use the nearest colors of the DXF palette");
+        options.Need("--snap-dxf", "--table");
+        options.RequiredOption("-o,--output", OutFile, "The file to write", "FILE");
+    }
+
+    int Run(Output& output) const;
+
+private:
+    [[nodiscard]] ContourDefinitionList GenerateFromTable() const;
+};
+
+ContourDefinitionList GenerateContours::GenerateFromTable() const {
+    DXFColorTable table;
+    Require(ReadColors(Table, table));
+    if (SnapDxf) {
+        table.MakeDXFTable();
+    }
+    ContourDefinitionList contours;
+    contours.Generate(table, Invert);
+    return contours;
+}
+
+int GenerateContours::Run(Output& output) const {
+    if (Range.empty() && Table.empty()) {
+        Fail("--range or --table is required");
+    }
+    const ContourDefinitionList generated =
+        Table.empty() ? GenerateFromRange(Range) : GenerateFromTable();
+    if (generated.NumContours() == 0) {
+        Refuse("no multiple of the interval lies in the range; nothing written");
+    }
+    const ContourDefinitionList contours = StoredContours(generated);
+    if (!contours.Save(OutFile.c_str())) {
+        Require(ErrorString::LastError());
+    }
+    output.Text += Printable(AsUtf8(OutFile)) + ": " +
+                   CountText(static_cast<std::size_t>(contours.NumContours()), "level") + "\n";
+    if (const int numDropped = generated.NumContours() - contours.NumContours(); numDropped > 0) {
+        output.Text +=
+            NumberText(numDropped) + " left out: the next has the same level in six decimals\n";
+    }
+    return DONE;
+}
+
+}  // namespace
+
+void AddGenerateContours(Family& contours) {
+    contours.Add<GenerateContours>("generate", "Make a file from a range or from a color table");
+}
+
+}  // namespace HOST

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "failure.h"
+
+namespace HOST {
+
+std::string ReasonOf(const ErrorString& failure) {
+    return failure.Cause().empty() ? failure.Text() : failure.Cause();
+}
+
+void Fail(const std::string& message) {
+    throw Failure(UNUSABLE, message);
+}
+
+void Refuse(const std::string& message) {
+    throw Failure(FOUND, message);
+}
+
+void Require(const ErrorString& outcome) {
+    if (!outcome.Empty()) {
+        Fail(ReasonOf(outcome));
+    }
+}
+
+}  // namespace HOST

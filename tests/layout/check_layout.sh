@@ -1,9 +1,12 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Usage: check_layout.sh detail|umbrella|layers SRC
+# Usage: check_layout.sh detail|umbrella|layers|names|internals|sizes SRC
 #   detail    no public header includes one of a detail/ folder
 #   umbrella  shared.h includes every public header but those of the Qt part, and nothing else
 #   layers    folders do not include each other in a circle, and docs/architecture.md draws them
+#   names     no two files of the core library have one name; each source is beside its header
+#   internals each file in a detail/ folder has a namespace detail
+#   sizes     files have at most 300 lines, and lines 100 columns
 set -euo pipefail
 rule=$1
 cd -- "$2"
@@ -46,10 +49,50 @@ check_layers() {
         fault "when the includes are right, scripts/layers --write mends the drawing"
 }
 
+check_names() {
+    local file
+    while IFS= read -r file; do
+        fault "src/marlin: two files are named $file"
+    done < <(find . -type f ! -path './qt/*' -printf '%f\n' | LC_ALL=C sort | uniq -d)
+    while IFS= read -r file; do
+        [ -f "${file%.cpp}.h" ] || fault "src/marlin/$file: no header of its name is beside it"
+    done < <(find . -name '*.cpp' -printf '%P\n' | LC_ALL=C sort)
+}
+
+check_internals() {
+    local file
+    while IFS= read -r file; do
+        fault "src/marlin/$file: nothing in it is in a namespace detail"
+    done < <(find . -path '*/detail/*' -type f -printf '%P\0' |
+        xargs -0 grep -LE '^namespace ([A-Za-z]+::)*detail \{' | LC_ALL=C sort)
+}
+
+# Everything that is compiled or run; the table of color names is data.
+code_files() {
+    find .ci bench cmake examples fuzz hosts scripts src tests -type f \
+        ! -path '*/data/*' ! -path '*/seeds/*' ! -name color_name_table.h \
+        \( -name '*.h' -o -name '*.cpp' -o -name '*.cmake' -o -name CMakeLists.txt \
+        -o -name '*.awk' -o -name '*.sh' -o -perm -u+x \) -print | LC_ALL=C sort
+}
+
+check_sizes() {
+    local file place lines
+    cd ../..
+    while read -r lines file; do
+        fault "$file: $lines lines, more than 300"
+    done < <(code_files | xargs -d '\n' wc -l | awk '$1 > 300 && $2 != "total"')
+    while IFS= read -r place; do
+        fault "$place: more than 100 columns"
+    done < <(code_files | LC_ALL=C.UTF-8 xargs -d '\n' grep -nE '^.{101}' | cut -d : -f 1,2)
+}
+
 case $rule in
 detail) check_detail ;;
 umbrella) check_umbrella ;;
 layers) check_layers ;;
+names) check_names ;;
+internals) check_internals ;;
+sizes) check_sizes ;;
 *) exit 2 ;;
 esac
 exit "$faults"

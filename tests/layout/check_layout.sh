@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Usage: check_layout.sh detail|umbrella|layers|names|internals|sizes SRC
+# Usage: check_layout.sh detail|umbrella|layers|names|internals|sizes|links SRC
 #   detail    no public header includes one of a detail/ folder
 #   umbrella  shared.h includes every public header but those of the Qt part, and nothing else
 #   layers    folders do not include each other in a circle, and docs/architecture.md draws them
 #   names     no two files of the core library have one name; each source is beside its header
-#   internals each file in a detail/ folder has a namespace detail
+#   internals each file of a detail/ folder has a namespace detail
 #   sizes     files have at most 300 lines, and lines 100 columns
+#   links     the links of the documents lead to files that are there
 set -euo pipefail
 rule=$1
 cd -- "$2"
@@ -86,6 +87,15 @@ check_sizes() {
     done < <(code_files | LC_ALL=C.UTF-8 xargs -d '\n' grep -nE '^.{101}' | cut -d : -f 1,2)
 }
 
+check_links() {
+    local page target
+    cd ../..
+    while IFS=: read -r page target; do
+        [ -e "${page%/*}/$target" ] || fault "$page: nothing is at $target"
+    done < <(find ./*.md docs -name '*.md' -print0 | xargs -0 grep -oE '\]\([^)#:]+' |
+        sed 's/\](//')
+}
+
 case $rule in
 detail) check_detail ;;
 umbrella) check_umbrella ;;
@@ -93,6 +103,7 @@ layers) check_layers ;;
 names) check_names ;;
 internals) check_internals ;;
 sizes) check_sizes ;;
+links) check_links ;;
 *) exit 2 ;;
 esac
 exit "$faults"

@@ -4,51 +4,70 @@
 #include <marlin/color/dxf_color.h>
 #include <marlin/core/number_text.h>
 
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+#include <type_traits>
+#include <variant>
+
 namespace HOST {
 
-std::string RecordWriter::Source(Names keys) const {
-    for (const char* const name : keys) {
-        const SectionKey& key = m_Keys[m_Start + name];
-        if (key.IsValid()) {
-            return key.GetName();
+namespace {
+
+using MARLINSUITE::RecordField;
+using MARLINSUITE::RecordKey;
+
+std::string ValueText(const MARLINSUITE::RecordValue& value) {
+    const auto textOf = [](const auto& typed) {
+        using Type = std::decay_t<decltype(typed)>;
+        std::string text;
+        if constexpr (std::is_same_v<Type, std::string>) {
+            text = typed;
+        } else if constexpr (std::is_same_v<Type, bool>) {
+            text = typed ? "yes" : "no";
+        } else if constexpr (std::is_same_v<Type, int>) {
+            MARLINSUITE::AppendNumber(text, typed);
+        } else if constexpr (std::is_floating_point_v<Type>) {
+            MARLINSUITE::AppendShortest(text, typed);
         }
+        return text;  // colors are shown by themselves
+    };
+    return std::visit(textOf, value);
+}
+
+std::string MeaningOf(const RecordField& field) {
+    const auto meaningOf = [&key = field.Key](const auto& typed) -> std::string {
+        using Type = std::decay_t<decltype(typed)>;
+        if constexpr (std::is_arithmetic_v<Type>) {
+            return key.MeaningOf(static_cast<double>(typed));
+        } else if constexpr (std::is_same_v<Type, RGBColor>) {
+            std::string meaning = key.Meaning + std::string(", palette index ");
+            MARLINSUITE::AppendNumber(meaning, DXFColor(typed).Index());
+            return meaning;
+        } else {
+            return key.Meaning;
+        }
+    };
+    // Lengths are in the units of the plot, which go without saying.
+    const bool isAngle = std::string_view(field.Key.Unit) == RecordKey::Degrees;
+    return std::visit(meaningOf, field.Value) + (isAngle ? " in degrees" : "");
+}
+
+}  // namespace
+
+void Show(Record& record, const RecordField& field, const std::string& name) {
+    const auto place = static_cast<std::size_t>(field.Key.Field);
+    record.Fields.resize(std::max(record.Fields.size(), place));
+    ShownField& shown = record.Fields[place - 1];
+    // Of several keys of the field the last one has its value, but may be missing in the section.
+    if (!name.empty()) {
+        shown.Key = name;
     }
-    return {};
-}
-
-RecordWriter& RecordWriter::Text(Names keys, std::string value, std::string meaning) {
-    m_Record.Fields.push_back({Source(keys), std::move(value), std::nullopt, std::move(meaning)});
-    return *this;
-}
-
-RecordWriter& RecordWriter::Number(Names keys, double value, std::string meaning) {
-    std::string text;
-    MARLINSUITE::AppendShortest(text, value);
-    return Text(keys, std::move(text), std::move(meaning));
-}
-
-RecordWriter& RecordWriter::Number(Names keys, float value, std::string meaning) {
-    std::string text;
-    MARLINSUITE::AppendShortest(text, value);
-    return Text(keys, std::move(text), std::move(meaning));
-}
-
-RecordWriter& RecordWriter::Number(Names keys, int value, std::string meaning) {
-    std::string text;
-    MARLINSUITE::AppendNumber(text, value);
-    return Text(keys, std::move(text), std::move(meaning));
-}
-
-RecordWriter& RecordWriter::Switch(Names keys, bool value, std::string meaning) {
-    return Text(keys, value ? "yes" : "no", std::move(meaning));
-}
-
-RecordWriter& RecordWriter::Color(Names keys, unsigned long word, const std::string& of) {
-    const RGBColor color(word);
-    std::string meaning = of + ", palette index ";
-    MARLINSUITE::AppendNumber(meaning, DXFColor(color).Index());
-    m_Record.Fields.push_back({Source(keys), "", color, std::move(meaning)});
-    return *this;
+    shown.Value = ValueText(field.Value);
+    if (const auto* const color = std::get_if<RGBColor>(&field.Value)) {
+        shown.Color = *color;
+    }
+    shown.Meaning = MeaningOf(field);
 }
 
 }  // namespace HOST

@@ -1,25 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "record_kinds.h"
-
+#include "record.h"
+#include <marlin/contours/record_kinds.h>
 #include <marlin/core/ascii.h>
 
 #include <algorithm>
-#include <string_view>
+#include <cstddef>
+#include <span>
 #include <unordered_map>
 
 namespace HOST {
 
 namespace {
 
-using Names = std::vector<const char*>;
-
-const Names sunKeys = {"SunIllumunationEnable", "SunIllumunationAzimuth",
-                       "SunIllumunationElevation", "SunIllumunationContrast"};
-
-auto NumOf(const Section& section, const std::string& start, const Names& names) {
-    return std::ranges::count_if(names,
-                                 [&](const char* name) { return section.HasKey(start + name); });
-}
+using MARLINSUITE::RecordField;
+using MARLINSUITE::RecordFields;
+using MARLINSUITE::RecordKind;
 
 // The keys of one prefix, in their order.
 struct Prefixed {
@@ -47,104 +42,53 @@ std::vector<Prefixed> PrefixesOf(const Section& section) {
     return prefixes;
 }
 
-void AddRecords(const Section& section, bool hasPrefix, const std::string& prefix,
-                std::vector<Record>& records) {
-    const std::string start = hasPrefix ? prefix + "." : "";
-    for (const RecordKind& kind : RecordKinds()) {
-        if (kind.HasPrefix == hasPrefix && kind.IsIn(section, start)) {
-            records.push_back({kind.Name, prefix, {}});
-            RecordWriter writer(records.back(), section, start);
-            kind.Describe(section, prefix, writer);
+// The keys of each kind, listed once for all sections of a file.
+std::span<const RecordFields> KeysOfKinds() {
+    static const std::vector<RecordFields> keys = [] {
+        std::vector<RecordFields> lists;
+        for (const RecordKind& kind : MARLINSUITE::RecordKinds()) {
+            lists.push_back(kind.Read(Section(""), ""));
+        }
+        return lists;
+    }();
+    return keys;
+}
+
+// Keys whose names many things have show no record alone.
+bool IsIn(const Section& section, const std::string& start, const RecordFields& keys,
+          int numNeeded) {
+    int numKeys = 0;
+    bool isSure = false;
+    for (const auto& [key, value, text] : keys) {
+        if (section.HasKey(key.NameIn(start))) {
+            ++numKeys;
+            isSure = isSure || !key.IsCommon;
+        }
+    }
+    return isSure && numKeys >= numNeeded;
+}
+
+void AddRecords(const Section& section, const std::string& prefix, std::vector<Record>& records) {
+    const std::string start = prefix.empty() ? "" : prefix + ".";
+    for (std::size_t i = 0; i < MARLINSUITE::RecordKinds().size(); ++i) {
+        const RecordKind& kind = MARLINSUITE::RecordKinds()[i];
+        if ((prefix.empty() || kind.TakesPrefix) &&
+            IsIn(section, start, KeysOfKinds()[i], kind.NumNeeded)) {
+            Record& record = records.emplace_back(Record{kind.Name, prefix, {}});
+            for (const RecordField& field : kind.Read(section, prefix)) {
+                Show(record, field, section[field.Key.NameIn(start)].GetName());
+            }
         }
     }
 }
 
-const std::vector<RecordKind> kinds = {
-    {"line",
-     false,
-     2,
-     {"LineColor", "LineStyle", "LineTrueColor"},
-     {"LineWidth", "Enable"},
-     DescribeLine},
-    {"DXF pen",
-     false,
-     1,
-     {"DXFLineColor", "DXFLineTrueColor", "DXFLineWidth", "DXFColorMode"},
-     {},
-     DescribeDxfPen},
-    {"bias", false, 1, {"BiasMode"}, {}, DescribeBias},
-    {"bias", true, 1, {"BiasMode"}, {}, DescribeBias},
-    {"sun illumination", false, 1, sunKeys, {}, DescribeSun},
-    {"sun illumination", true, 1, sunKeys, {}, DescribeSun},
-    {"map",
-     false,
-     1,
-     {"SymbolizationType", "ScaleLevel", "DisplayType", "ShowTextGeneric", "ShowTextOther",
-      "ShowChartContour", "ShowLightsInfo", "AntiCluttering", "ShowBoundaries"},
-     {},
-     DescribeMap},
-    {"grid",
-     false,
-     2,
-     {"XInterval", "YInterval", "TickSize", "MinorTickSize", "EastingMark", "NorthingMark"},
-     {"GridStyle"},
-     DescribeGrid},
-    {"geographic grid",
-     false,
-     1,
-     {"LonInterval", "LatInterval", "LatLonStyle", "LatLonDecimals", "TrailingHemisphereIndicator",
-      "DegMinSecSymbols"},
-     {},
-     DescribeGeoGrid},
-    {"paper grid",
-     false,
-     2,
-     {"XStep", "YStep", "SnapOn", "OringinX", "OringinY"},
-     {"Visible"},
-     DescribePaperGrid},
-    {"panel",
-     false,
-     2,
-     {"PosX", "PosY", "LockPosSize", "Justification"},
-     {"Width", "Height"},
-     DescribePanel},
-    {"panel",
-     true,
-     2,
-     {"X", "Y", "LockPosSize", "Justification"},
-     {"Width", "Height"},
-     DescribePanel},
-    {"contour settings",
-     false,
-     1,
-     {"SmoothingWindow", "ContourLabelSpacing", "SuppressionLength", "SmoothingPasses",
-      "EnableContouring", "LabelOrientation"},
-     {},
-     DescribeContours},
-    {"contour definition",
-     false,
-     2,
-     {"Level"},
-     {"Color", "TrueColor", "LineType", "LineWidth", "Annotate"},
-     DescribeContour},
-};
-
 }  // namespace
-
-const std::vector<RecordKind>& RecordKinds() {
-    return kinds;
-}
-
-bool RecordKind::IsIn(const Section& section, const std::string& start) const {
-    const auto numOwn = NumOf(section, start, Own);
-    return numOwn > 0 && numOwn + NumOf(section, start, Other) >= Needed;
-}
 
 std::vector<Record> RecordsOf(const Section& section) {
     std::vector<Record> records;
-    AddRecords(section, false, "", records);
+    AddRecords(section, "", records);
     for (const Prefixed& prefixed : PrefixesOf(section)) {
-        AddRecords(prefixed.Keys, true, prefixed.Prefix, records);
+        AddRecords(prefixed.Keys, prefixed.Prefix, records);
     }
     AddRecordsInValues(section, records);
     return records;

@@ -12,11 +12,8 @@ namespace HOST {
 
 namespace {
 
-constexpr int textItems = 10;
-constexpr int labelItems = 17;
-constexpr int oldLabelItems = 14;  // without a color word and the last two flags
-constexpr int lineItems = 5;
-constexpr int styleItem = 2;  // of a line
+constexpr std::size_t oldLabelItems = 14;  // without a color word and the last two flags
+constexpr int lineStyleItem = 2;
 
 bool AreNumbersBut(const CMarlinString& items, int text) {
     for (int i = 0; i < items.Size(); ++i) {
@@ -35,82 +32,36 @@ bool IsLineStyle(const CString& item) {
     });
 }
 
-std::string StyleText(TextInfo::STYLE style) {
-    std::string text;
-    for (const auto& [bit, word] :
-         {std::pair(TextInfo::BOLD, "bold"), std::pair(TextInfo::ITALIC, "italic"),
-          std::pair(TextInfo::UNDERLINE, "underlined")}) {
-        if ((static_cast<unsigned int>(style) & static_cast<unsigned int>(bit)) != 0) {
-            text += (text.empty() ? "" : ", ") + std::string(word);
-        }
-    }
-    return text.empty() ? "upright" : text;
-}
-
-const char* JustificationText(TextInfo::JUSTIFICATION justification) {
-    static constexpr const char* texts[] = {"bottom left",   "bottom center",   "bottom right",
-                                            "middle right",  "top right",       "top center",
-                                            "top left",      "middle left",     "middle center",
-                                            "baseline left", "baseline center", "baseline right"};
-    return texts[justification];  // which the record keeps in range
-}
-
-void DescribeText(const TextInfo& text, const char* key, RecordWriter& writer) {
-    writer.Text({key}, text.Font(), "font")
-        .Number({key}, text.Size(), "height of the characters")
-        .Text({key}, StyleText(text.Style()), "style")
-        .Text({key}, JustificationText(text.Justification()), "point of the box on the anchor")
-        .Color({key}, text.Color(), "color")
-        .Number({key}, text.Rotation().Get(), "rotation in degrees")
-        .Number({key}, text.RectWidth(), "width of the box of a text of several lines")
-        .Switch({key}, text.MultiLine(), "several lines")
-        .Number({key}, static_cast<int>(text.Annotation()), "annotation code");
-}
-
-void DescribeLabel(const DepthLabelInfo& label, const char* key, RecordWriter& writer) {
-    DescribeText(label, key, writer);
-    writer.Number({key}, label.Precision(), "decimals of the depths")
-        .Number({key}, static_cast<int>(label.Presentation()), "code of the decimals' layout")
-        .Number({key}, static_cast<int>(label.Placement()), "code of the point at the position")
-        .Switch({key}, label.UseTextColor(), "in the color of the text")
-        .Switch({key}, label.AutoTextRotation(), "turned automatically")
-        .Switch({key}, label.GetUnderlineDryingHeights(), "drying heights are underlined")
-        .Switch({key}, label.GetNoDecimalZeros(), "zeros among the decimals are left out");
-}
-
-void DescribeLine(const LineInfo& line, const char* key, RecordWriter& writer) {
-    writer.Switch({key}, line.Enable(), "the line is drawn")
-        .Number({key}, line.Width(), "width")
-        .Color({key}, line.Color(), "color")
-        .Text({key}, line.StyleStr(), "dash pattern");
-}
-
 template <class T>
-T FromText(const std::string& text) {
+MARLINSUITE::RecordFields FieldsOf(const std::string& text) {
     T record;
     record.FromString(text);
-    return record;
+    return record.Fields();
 }
 
-void AddRecordOf(const SectionKey& key, const Section& section, std::vector<Record>& records) {
-    const CMarlinString items(CString(std::string_view(key.GetValue())), ',');
-    const char* const name = key.GetName().c_str();
-    Record record{"", key.GetName(), {}};
-    RecordWriter writer(record, section, "");
-    const int size = items.Size();
-    if (size == lineItems && IsLineStyle(items[styleItem]) && AreNumbersBut(items, styleItem)) {
-        record.Kind = "line";
-        DescribeLine(FromText<LineInfo>(key.GetValue()), name, writer);
-    } else if (size == textItems && AreNumbersBut(items, 0)) {
-        record.Kind = "text";
-        DescribeText(FromText<TextInfo>(key.GetValue()), name, writer);
-    } else if ((size == labelItems || size == oldLabelItems) && AreNumbersBut(items, 0)) {
-        record.Kind = "depth label";
-        DescribeLabel(FromText<DepthLabelInfo>(key.GetValue()), name, writer);
-    } else {
-        return;
+void AddRecord(const char* kind, const SectionKey& key, const MARLINSUITE::RecordFields& fields,
+               std::vector<Record>& records) {
+    Record& record = records.emplace_back(Record{kind, key.GetName(), {}});
+    for (const MARLINSUITE::RecordField& field : fields) {
+        Show(record, field, key.GetName());
     }
-    records.push_back(std::move(record));
+}
+
+void AddRecordOf(const SectionKey& key, std::vector<Record>& records) {
+    static const std::size_t lineItems = LineInfo().Fields().size();
+    static const std::size_t textItems = TextInfo().Fields().size();
+    static const std::size_t labelItems = DepthLabelInfo().Fields().size();
+    const std::string& text = key.GetValue();
+    const CMarlinString items(CString(std::string_view(text)), ',');
+    const auto size = static_cast<std::size_t>(items.Size());
+    if (size == lineItems && IsLineStyle(items[lineStyleItem]) &&
+        AreNumbersBut(items, lineStyleItem)) {
+        AddRecord("line", key, FieldsOf<LineInfo>(text), records);
+    } else if (size == textItems && AreNumbersBut(items, 0)) {
+        AddRecord("text", key, FieldsOf<TextInfo>(text), records);
+    } else if ((size == labelItems || size == oldLabelItems) && AreNumbersBut(items, 0)) {
+        AddRecord("depth label", key, FieldsOf<DepthLabelInfo>(text), records);
+    }
 }
 
 }  // namespace
@@ -118,7 +69,7 @@ void AddRecordOf(const SectionKey& key, const Section& section, std::vector<Reco
 void AddRecordsInValues(const Section& section, std::vector<Record>& records) {
     for (const SectionKey& key : section.Keys()) {
         if (key.GetValue().find(',') != std::string::npos) {
-            AddRecordOf(key, section, records);
+            AddRecordOf(key, records);
         }
     }
 }

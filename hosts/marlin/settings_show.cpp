@@ -16,7 +16,7 @@ void AppendRecord(const Section& section, const Record& record, Output& output) 
     output.Text += Shown(*section.GetName()) + "] " + record.Kind;
     output.Text += record.Name.empty() ? "\n" : " " + Shown(record.Name) + "\n";
     Table table{{"Key"}, {"Value"}, {"Meaning"}};
-    for (const RecordField& field : record.Fields) {
+    for (const ShownField& field : record.Fields) {
         table << (field.Key.empty() ? "(default)" : Shown(field.Key));
         if (field.Color) {
             table << *field.Color;
@@ -33,7 +33,7 @@ void AppendJson(const Section& section, const Record& record, JsonWriter& json) 
     json.Name("record").Text(record.Kind);
     json.Name("name").Text(PLATFORM::ToUtf8(record.Name));
     json.Name("fields").BeginArray();
-    for (const RecordField& field : record.Fields) {
+    for (const ShownField& field : record.Fields) {
         json.BeginObject().Name("key").Text(PLATFORM::ToUtf8(field.Key));
         json.Name("value").Text(field.Color ? ColorText(*field.Color)
                                             : PLATFORM::ToUtf8(field.Value));

@@ -43,6 +43,7 @@
 #include <marlin/contours/dialogs/contour_generation_dlg.h>
 #include <marlin/contours/dialogs/edit_contour_dlg.h>
 #include <marlin/contours/dialogs/edit_contour_list.h>
+#include <marlin/contours/record_kinds.h>
 #include <marlin/core/ascii.h>
 #include <marlin/core/crc32.h>
 #include <marlin/core/export.h>
@@ -133,6 +134,7 @@
 #include <marlin/records/map_info.h>
 #include <marlin/records/panel_info.h>
 #include <marlin/records/paper_grid.h>
+#include <marlin/records/record_field.h>
 #include <marlin/records/sun_illumination_info.h>
 #include <marlin/records/text_info.h>
 #include <marlin/resources/dialogs.h>

@@ -1,28 +1,45 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/math.h>
 #include <marlin/contours/contour_info.h>
-#include <marlin/settings/section.h>
+#include <marlin/records/detail/record_keys.h>
 
-#include <array>
-#include <cstddef>
+#include <string_view>
+
+using namespace MARLINSUITE;
+using namespace MARLINSUITE::detail;
 
 namespace {
 
-constexpr std::array<const char*, 3> orientationTexts{"OptimumTextAngle", "LowToHigh", "HighToLow"};
+constexpr NamedValue orientations[] = {
+    {ContourInfo::OptimumTextAngle, "OptimumTextAngle", "labels at the optimum angle"},
+    {ContourInfo::LowToHigh, "LowToHigh", "labels face from low to high"},
+    {ContourInfo::HighToLow, "HighToLow", "labels face from high to low"},
+};
 
-const char* TextOf(ContourInfo::label_orientation orientation) {
-    const auto index = static_cast<std::size_t>(orientation);
-    return index < orientationTexts.size() ? orientationTexts[index] : "";
-}
+constexpr NamedValue noSuppression[] = {{0, "", "no contour is suppressed"}};
 
-ContourInfo::label_orientation OrientationOf(const std::string& text) {
-    for (std::size_t i = 0; i < orientationTexts.size(); ++i) {
-        if (text == orientationTexts[i]) {
-            return static_cast<ContourInfo::label_orientation>(i);
+struct OrientationText {
+    ContourInfo::label_orientation& Orientation;
+
+    // A missing key reads as an empty text, which resets the orientation as any unknown one does.
+    void Read(const SectionKey& key) {
+        Orientation = ContourInfo::OptimumTextAngle;
+        for (const NamedValue& named : orientations) {
+            if (key.GetValue() == named.Text) {
+                Orientation = static_cast<ContourInfo::label_orientation>(named.Value);
+            }
         }
     }
-    return ContourInfo::OptimumTextAngle;
-}
+    void Write(SectionKey& key) const {
+        key << "";
+        for (const NamedValue& named : orientations) {
+            if (Orientation == named.Value) {
+                key << named.Text;
+            }
+        }
+    }
+    [[nodiscard]] RecordValue Value() const { return Orientation; }
+};
 
 }  // namespace
 
@@ -38,28 +55,45 @@ bool ContourInfo::operator==(const ContourInfo& other) const noexcept {
            MATH::Equal(m_SuppressionLength, other.m_SuppressionLength);
 }
 
+// The comments are those of the files in use, spelling included.
+template <class Keys>
+void ContourInfo::ForEachKey(const Keys& keys) {
+    keys({.Name = "SmoothingWindow",
+          .Field = 4,
+          .Meaning = "smoothing window, 0 to 8",
+          .Comments = "Values between 0 and 8"},
+         m_SmoothingWindow);
+    keys({.Name = "LabelSpacing",
+          .Field = 2,
+          .Meaning = "distance of the labels along a contour",
+          .IsCommon = true,
+          .IsOlder = true},
+         m_LabelSpacing);
+    keys({"ContourLabelSpacing", 2, "distance of the labels along a contour"}, m_LabelSpacing);
+    keys({.Name = "SuppressionLength",
+          .Field = 3,
+          .Meaning = "shorter contours are suppressed",
+          .Values = noSuppression,
+          .Comments = "A value of 0 disables suppresion"},
+         m_SuppressionLength);
+    keys({"SmoothingPasses", 5, "smoothing passes"}, m_SmoothingPasses);
+    keys({"EnableContouring", 1, "contours are drawn"}, m_EnableContouring);
+    keys({"LabelOrientation", 6, "how labels are turned", "", orientations},
+         OrientationText{m_LabelOrientation});
+}
+
 bool ContourInfo::Read(const Section& section) {
-    section["SmoothingWindow"] >> m_SmoothingWindow;
-    section["LabelSpacing"] >> m_LabelSpacing;
-    section["ContourLabelSpacing"] >> m_LabelSpacing;
-    section["SuppressionLength"] >> m_SuppressionLength;
-    section["SmoothingPasses"] >> m_SmoothingPasses;
-    section["EnableContouring"] >> m_EnableContouring;
-    m_LabelOrientation = OrientationOf(section["LabelOrientation"].GetValue());
+    ForEachKey(KeyReader(section));
     return true;
 }
 
-// The comments are those of the files in use, spelling included.
 bool ContourInfo::Write(Section& section) const {
-    SectionKey& window = section["SmoothingWindow"];
-    window << m_SmoothingWindow;
-    window.SetComments("Values between 0 and 8");
-    section["ContourLabelSpacing"] << m_LabelSpacing;
-    SectionKey& suppression = section["SuppressionLength"];
-    suppression << m_SuppressionLength;
-    suppression.SetComments("A value of 0 disables suppresion");
-    section["SmoothingPasses"] << m_SmoothingPasses;
-    section["EnableContouring"] << m_EnableContouring;
-    section["LabelOrientation"] << TextOf(m_LabelOrientation);
+    ContourInfo(*this).ForEachKey(KeyReplacer(section));
     return true;
+}
+
+RecordFields ContourInfo::Fields() const {
+    RecordFields fields;
+    ContourInfo(*this).ForEachKey(KeyLister(fields));
+    return fields;
 }

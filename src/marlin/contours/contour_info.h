@@ -2,6 +2,7 @@
 #pragma once
 
 #include <marlin/core/export.h>
+#include <marlin/records/record_field.h>
 
 class Section;
 
@@ -53,8 +54,13 @@ public:
     /// Sets six keys, in the place of keys of those names; an orientation that is none of the
     /// three writes an empty text. True.
     bool Write(Section& section) const;
+    /// The keys in the order of `Write`, the older one among them, with the values of this record.
+    [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:
+    template <class Keys>
+    void ForEachKey(const Keys& keys);
+
     bool m_EnableContouring = true;
     float m_LabelSpacing = 20.0F;
     double m_SuppressionLength = 0.0;

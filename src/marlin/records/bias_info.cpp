@@ -1,31 +1,39 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/records/bias_info.h>
-#include <marlin/settings/section.h>
+#include <marlin/records/detail/record_keys.h>
 
-namespace {
-
-const char* const biasMode = "BiasMode";
-
-}  // namespace
+using namespace MARLINSUITE;
+using namespace MARLINSUITE::detail;
 
 BiasInfo::~BiasInfo() = default;
 
+template <class Keys>
+void BiasInfo::ForEachKey(const Keys& keys) {
+    keys({"BiasMode", 1, "bias mode"}, BiasMode);
+}
+
 bool BiasInfo::Read(const Section& section) {
-    section[biasMode] >> BiasMode;
+    ForEachKey(KeyReader(section));
     return true;
 }
 
 bool BiasInfo::Read(const std::string& prefix, const Section& section) {
-    section[prefix + "." + biasMode] >> BiasMode;
+    ForEachKey(KeyReader(section, prefix + "."));
     return true;
 }
 
 bool BiasInfo::Write(Section& section) const {
-    section[biasMode] << BiasMode;
+    BiasInfo(*this).ForEachKey(KeyReplacer(section));
     return true;
 }
 
 bool BiasInfo::Write(const std::string& prefix, Section& section) const {
-    section[prefix + "." + biasMode] << BiasMode;
+    BiasInfo(*this).ForEachKey(KeyReplacer(section, prefix + "."));
     return true;
+}
+
+RecordFields BiasInfo::Fields() const {
+    RecordFields fields;
+    BiasInfo(*this).ForEachKey(KeyLister(fields));
+    return fields;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <marlin/core/export.h>
+#include <marlin/records/record_field.h>
 
 #include <string>
 
@@ -26,4 +27,10 @@ public:
     /// True.
     bool Write(Section& section) const;
     bool Write(const std::string& prefix, Section& section) const;
+    /// The keys in the order of `Write` with the values of this record.
+    [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
+
+private:
+    template <class Keys>
+    void ForEachKey(const Keys& keys);
 };

@@ -66,11 +66,16 @@ public:
     /// leave; other items that are no number count as 0. A list of 14 items is the older layout:
     /// no color word and no item for the last two flags.
     void FromString(const std::string& text);
+    /// The items in the order of `ToString` with the values of this record.
+    [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 protected:
     using TextInfo::FromString;
 
 private:
+    template <class Items>
+    void ForEachItem(Items& items);
+
     int m_Precision = 2;
     PRESENTATION m_Presentation = PRESENTATION_0;
     PLACEMENT m_Placement = PLACEMENT_0;

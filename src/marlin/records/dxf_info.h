@@ -2,6 +2,7 @@
 #pragma once
 
 #include <marlin/core/export.h>
+#include <marlin/records/record_field.h>
 
 #include <string>
 
@@ -35,8 +36,13 @@ public:
     bool Read(const Section& section);
     /// Appends four keys, whether or not the section has keys of those names; true.
     bool Write(Section& section) const;
+    /// The keys in the order of `Write` with the values of this record.
+    [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:
+    template <class Keys>
+    void ForEachKey(const Keys& keys);
+
     float m_Width = 0.0F;
     unsigned long m_Color = 0;
     int m_ColorMode = 0;

@@ -1,24 +1,38 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/math.h>
-#include <marlin/color/dxf_color.h>
+#include <marlin/records/detail/palette_index.h>
+#include <marlin/records/detail/record_keys.h>
 #include <marlin/records/geo_grid_info.h>
-#include <marlin/settings/section.h>
 
 #include <cmath>
 #include <string>
 
+using namespace MARLINSUITE;
+using namespace MARLINSUITE::detail;
+
 namespace {
 
-SectionKey IntervalKey(const char* name, double interval) {
-    std::string text;
-    MARLINSUITE::AppendFixed(text, interval, GetDoublePrecision(interval) + 2);
-    return {name, text};
-}
+constexpr NamedValue hemisphereLetter[] = {
+    {0, "", "the hemisphere's letter leads"},
+    {1, "", "the hemisphere's letter follows"},
+};
 
-void ReadInterval(const SectionKey& key, double& interval) {
-    key >> interval;
-    interval = std::fabs(interval);
-}
+// Six decimals of a degree are 0.1 m, too coarse for an interval that is added many times: each
+// is written with as many decimals as it needs and two more.
+struct Interval {
+    double& Angle;
+
+    void Read(const SectionKey& key) {
+        key >> Angle;
+        Angle = std::fabs(Angle);
+    }
+    void Write(SectionKey& key) const {
+        std::string text;
+        AppendFixed(text, Angle, GetDoublePrecision(Angle) + 2);
+        key << text;
+    }
+    [[nodiscard]] RecordValue Value() const { return Angle; }
+};
 
 }  // namespace
 
@@ -41,30 +55,37 @@ bool GeoGridInfo::operator==(const GeoGridInfo& other) const noexcept {
            m_DegMinSecSymbols == other.m_DegMinSecSymbols;
 }
 
+template <class Keys>
+void GeoGridInfo::ForEachKey(const Keys& keys) {
+    keys({"LonInterval", 1, "distance of the meridians", RecordKey::Degrees},
+         Interval{m_LonInterval});
+    keys({"LatInterval", 2, "distance of the parallels", RecordKey::Degrees},
+         Interval{m_LatInterval});
+    keys({"LatLonStyle", 3, "style code of the labels"}, m_LatLonStyle);
+    keys({"LatLonDecimals", 4, "decimals of the labels"}, m_LatLonDecimals);
+    keys({"TrailingHemisphereIndicator", 5, "where the hemisphere's letter is", "",
+          hemisphereLetter},
+         m_TrailingHemisphereIndicator);
+    keys({"DegMinSecSymbols", 6, "symbols of degrees and minutes"}, m_DegMinSecSymbols);
+    keys({.Name = "GridStyle", .Field = 7, .Meaning = "style code of the lines", .IsCommon = true},
+         m_GridStyle);
+    keys({.Name = "GridColor", .Field = 8, .Meaning = "color", .IsCommon = true},
+         PaletteIndex(m_GridColor));
+    keys({.Name = "GridTrueColor", .Field = 8, .Meaning = "color", .IsCommon = true}, m_GridColor);
+}
+
 bool GeoGridInfo::Read(const Section& section) {
-    ReadInterval(section["LonInterval"], m_LonInterval);
-    ReadInterval(section["LatInterval"], m_LatInterval);
-    section["LatLonStyle"] >> m_LatLonStyle;
-    section["LatLonDecimals"] >> m_LatLonDecimals;
-    section["TrailingHemisphereIndicator"] >> m_TrailingHemisphereIndicator;
-    section["DegMinSecSymbols"] >> m_DegMinSecSymbols;
-    section["GridStyle"] >> m_GridStyle;
-    int index = 0;
-    section["GridColor"] >> index;
-    m_GridColor = static_cast<unsigned long>(DXFColor(index));
-    section["GridTrueColor"] >> m_GridColor;
+    ForEachKey(KeyReader(section));
     return true;
 }
 
 bool GeoGridInfo::Write(Section& section) const {
-    section += IntervalKey("LonInterval", m_LonInterval);
-    section += IntervalKey("LatInterval", m_LatInterval);
-    section += SectionKey("LatLonStyle", m_LatLonStyle);
-    section += SectionKey("LatLonDecimals", m_LatLonDecimals);
-    section += SectionKey("TrailingHemisphereIndicator", m_TrailingHemisphereIndicator);
-    section += SectionKey("DegMinSecSymbols", m_DegMinSecSymbols);
-    section += SectionKey("GridStyle", m_GridStyle);
-    section += SectionKey("GridColor", DXFColor(m_GridColor).Index());
-    section += SectionKey("GridTrueColor", m_GridColor);
+    GeoGridInfo(*this).ForEachKey(KeyAppender(section));
     return true;
+}
+
+RecordFields GeoGridInfo::Fields() const {
+    RecordFields fields;
+    GeoGridInfo(*this).ForEachKey(KeyLister(fields));
+    return fields;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <marlin/core/export.h>
+#include <marlin/records/record_field.h>
 
 class Section;
 
@@ -51,8 +52,13 @@ public:
     /// Appends nine keys, whether or not the section has keys of those names. The intervals are
     /// written with as many decimals as they need and two more; true.
     bool Write(Section& section) const;
+    /// The keys in the order of `Write` with the values of this record.
+    [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:
+    template <class Keys>
+    void ForEachKey(const Keys& keys);
+
     unsigned long m_GridColor = 0;
     int m_LatLonStyle = 0;
     int m_LatLonDecimals = 2;

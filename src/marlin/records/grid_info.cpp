@@ -2,28 +2,47 @@
 #include <marlin/base/format_string.h>
 #include <marlin/base/math.h>
 #include <marlin/base/text_functions.h>
+#include <marlin/records/detail/record_keys.h>
 #include <marlin/records/grid_info.h>
-#include <marlin/settings/section.h>
 
-#include <cstddef>
-#include <iterator>
+using namespace MARLINSUITE;
+using namespace MARLINSUITE::detail;
 
 namespace {
 
-// The word of each bit, the lowest first.
-constexpr const char* styleWords[] = {"POINTS",  "X_LINES",      "Y_LINES",      "X_TICKS",
-                                      "Y_TICKS", "X_MINORTICKS", "Y_MINORTICKS", "LONG_NORTHTICK"};
+constexpr NamedValue parts[] = {
+    {0, "", "nothing is drawn"},
+    {1, "POINTS", "points"},
+    {2, "X_LINES", "x lines"},
+    {4, "Y_LINES", "y lines"},
+    {8, "X_TICKS", "x ticks"},
+    {16, "Y_TICKS", "y ticks"},
+    {32, "X_MINORTICKS", "x minor ticks"},
+    {64, "Y_MINORTICKS", "y minor ticks"},
+    {128, "LONG_NORTHTICK", "long tick at north"},
+};
 
-std::string Quoted(const std::string& mark) {
-    return '"' + mark + '"';
-}
+// A mark is kept between double quotes, which save its blanks from being trimmed.
+struct QuotedMark {
+    std::string& Mark;
 
-void ReadMark(const SectionKey& key, std::string& mark) {
-    key >> mark;
-    trim(mark, "\"");
-}
+    void Read(const SectionKey& key) {
+        key >> Mark;
+        trim(Mark, "\"");
+    }
+    void Write(SectionKey& key) const { key << '"' + Mark + '"'; }
+    [[nodiscard]] RecordValue Value() const { return Mark; }
+};
 
 }  // namespace
+
+struct GridInfo::StyleWords {
+    GridInfo& Grid;
+
+    void Read(const SectionKey& key) { Grid.UnFormatGridStyle(key.GetValue()); }
+    void Write(SectionKey& key) const { key << Grid.FormatGridStyle(); }
+    [[nodiscard]] RecordValue Value() const { return Grid.Style; }
+};
 
 GridInfo::~GridInfo() = default;
 
@@ -34,33 +53,44 @@ bool GridInfo::operator==(const GridInfo& other) const noexcept {
            NorthingMark == other.NorthingMark;
 }
 
+template <class Keys>
+void GridInfo::ForEachKey(const Keys& keys) {
+    keys({"XInterval", 1, "distance of the lines in x"}, XInterval);
+    keys({"YInterval", 2, "distance of the lines in y"}, YInterval);
+    keys({.Name = "GridStyle",
+          .Field = 3,
+          .Meaning = "what is drawn",
+          .Values = parts,
+          .AreBits = true,
+          .IsCommon = true},
+         StyleWords{*this});
+    keys({"TickSize", 4, "length of the ticks"}, TickSize);
+    keys({"MinorTickSize", 5, "length of the minor ticks"}, MinorTickSize);
+    keys({"EastingMark", 6, "text beside the eastings"}, QuotedMark{EastingMark});
+    keys({"NorthingMark", 7, "text beside the northings"}, QuotedMark{NorthingMark});
+}
+
 bool GridInfo::Read(const Section& section) {
-    section["XInterval"] >> XInterval;
-    section["YInterval"] >> YInterval;
-    UnFormatGridStyle(section["GridStyle"].GetValue());
-    section["TickSize"] >> TickSize;
-    section["MinorTickSize"] >> MinorTickSize;
-    ReadMark(section["EastingMark"], EastingMark);
-    ReadMark(section["NorthingMark"], NorthingMark);
+    ForEachKey(KeyReader(section));
     return true;
 }
 
 bool GridInfo::Write(Section& section) const {
-    section += SectionKey("XInterval", XInterval);
-    section += SectionKey("YInterval", YInterval);
-    section += SectionKey("GridStyle", FormatGridStyle());
-    section += SectionKey("TickSize", TickSize);
-    section += SectionKey("MinorTickSize", MinorTickSize);
-    section += SectionKey("EastingMark", Quoted(EastingMark));
-    section += SectionKey("NorthingMark", Quoted(NorthingMark));
+    GridInfo(*this).ForEachKey(KeyAppender(section));
     return true;
+}
+
+RecordFields GridInfo::Fields() const {
+    RecordFields fields;
+    GridInfo(*this).ForEachKey(KeyLister(fields));
+    return fields;
 }
 
 std::string GridInfo::FormatGridStyle() const {
     FormatString words(',');
-    for (std::size_t bit = 0; bit < std::size(styleWords); ++bit) {
-        if ((Style & (1 << bit)) != 0) {
-            words += styleWords[bit];
+    for (const auto& [bit, word, meaning] : parts) {
+        if ((Style & bit) != 0) {
+            words += word;
         }
     }
     return words.String();
@@ -69,9 +99,9 @@ std::string GridInfo::FormatGridStyle() const {
 void GridInfo::UnFormatGridStyle(const std::string& text) {
     Style = 0;
     const FormatString words(text, ',');
-    for (std::size_t bit = 0; bit < std::size(styleWords); ++bit) {
-        if (words.HasSubString(styleWords[bit])) {
-            Style |= 1 << bit;
+    for (const auto& [bit, word, meaning] : parts) {
+        if (words.HasSubString(word)) {
+            Style |= bit;
         }
     }
 }

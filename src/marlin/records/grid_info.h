@@ -2,6 +2,7 @@
 #pragma once
 
 #include <marlin/core/export.h>
+#include <marlin/records/record_field.h>
 
 #include <string>
 
@@ -38,8 +39,15 @@ public:
     /// between double quotes, which keep their blanks; quotes at the ends of a mark itself do not
     /// survive. True.
     bool Write(Section& section) const;
+    /// The keys in the order of `Write` with the values of this record.
+    [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:
+    struct StyleWords;
+
+    template <class Keys>
+    void ForEachKey(const Keys& keys);
+
     [[nodiscard]] std::string FormatGridStyle() const;
     void UnFormatGridStyle(const std::string& text);
 };

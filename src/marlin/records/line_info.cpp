@@ -1,20 +1,40 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/base/marlin_string.h>
-#include <marlin/base/text_functions.h>
-#include <marlin/color/dxf_color.h>
 #include <marlin/core/detail/load_order.h>
-#include <marlin/records/detail/color_items.h>
+#include <marlin/records/detail/palette_index.h>
+#include <marlin/records/detail/pen_items.h>
+#include <marlin/records/detail/record_keys.h>
 #include <marlin/records/line_info.h>
-#include <marlin/settings/section.h>
 
 #include <cassert>
 #include <cmath>
 #include <cstddef>
 #include <iterator>
 
-[[gnu::init_priority(
-    MARLINSUITE::detail::LoadValues)]] const std::string LineInfo::STYLEDESCRIPTIONS[4] = {
-    "Solid Line", "Dashed", "Dot", "Dash dot"};
+using namespace MARLINSUITE;
+using namespace MARLINSUITE::detail;
+
+namespace {
+
+constexpr NamedValue styles[] = {
+    {LineInfo::SOLID_LINE, "Solid Line", "solid"},
+    {LineInfo::DASHED_LINE, "Dashed", "dashed"},
+    {LineInfo::DOTTED_LINE, "Dot", "dotted"},
+    {LineInfo::DASH_DOT_LINE, "Dash dot", "dashes and dots in turn"},
+};
+
+struct StyleText {
+    LineInfo& Line;
+
+    // A missing key reads as an empty text, which makes the line solid.
+    void Read(const SectionKey& key) { Line.SetStyleStr(key.GetValue()); }
+    void Write(SectionKey& key) const { key << Line.StyleStr(); }
+    [[nodiscard]] RecordValue Value() const { return Line.StyleStr(); }
+};
+
+}  // namespace
+
+[[gnu::init_priority(LoadValues)]] const std::string LineInfo::STYLEDESCRIPTIONS[4] = {
+    styles[0].Text, styles[1].Text, styles[2].Text, styles[3].Text};
 
 const std::string& LineInfo::StyleStr() const noexcept {
     const auto style = static_cast<std::size_t>(m_Style);
@@ -38,46 +58,44 @@ void LineInfo::SetStyleStr(const std::string& text) noexcept {
 }
 
 std::string LineInfo::ToString() const {
-    CMarlinString items(',');
-    MARLINSUITE::SetValue(items, 0, m_Width);
-    MARLINSUITE::SetValue(items, 1, DXFColor(m_Color).Index());
-    items.SetItem(2, CString(StyleStr().c_str()));
-    MARLINSUITE::SetValue(items, 3, m_Color);
-    MARLINSUITE::SetValue(items, 4, m_Enable);
-    return items.String().GetString();
+    return JoinPen(m_Width, DXFColor(m_Color).Index(), StyleStr().c_str(), m_Color, m_Enable);
 }
 
 void LineInfo::FromString(const std::string& text) {
     *this = LineInfo();
-    const CMarlinString items(CString(std::string_view(text)), ',', true);
-    if (items.Size() < 3) {
+    const CMarlinString items = SplitPen(text);
+    if (items.Size() < FewestPenItems) {
         return;
     }
     items.GetItem(0, m_Width);
-    m_Color = MARLINSUITE::PaletteColorItem(items, 1);
-    CString style;
-    items.GetItem(2, style);
-    SetStyleStr(style.GetString());
-    MARLINSUITE::ReadColorItem(items, 3, m_Color);
+    m_Color = PenColor(items);
+    SetStyleStr(items[2].GetString());
     items.GetItem(4, m_Enable);
 }
 
+template <class Keys>
+void LineInfo::ForEachKey(const Keys& keys) {
+    keys({"LineColor", 3, "color"}, PaletteIndex(m_Color));
+    keys({.Name = "LineWidth", .Field = 2, .Meaning = "width", .IsCommon = true}, m_Width);
+    keys({.Name = "LineStyle", .Field = 4, .Meaning = "dash pattern", .Values = styles},
+         StyleText{*this});
+    keys({"LineTrueColor", 3, "color"}, m_Color);
+    keys({.Name = "Enable", .Field = 1, .Meaning = "the line is drawn", .IsCommon = true},
+         m_Enable);
+}
+
 bool LineInfo::Read(const Section& section) {
-    int index = 0;
-    section["LineColor"] >> index;
-    m_Color = static_cast<unsigned long>(DXFColor(index));
-    section["LineWidth"] >> m_Width;
-    SetStyleStr(section["LineStyle"].GetValue());
-    section["LineTrueColor"] >> m_Color;
-    section["Enable"] >> m_Enable;
+    ForEachKey(KeyReader(section));
     return true;
 }
 
 bool LineInfo::Write(Section& section) const {
-    section += SectionKey("LineColor", DXFColor(m_Color).Index());
-    section += SectionKey("LineWidth", m_Width);
-    section += SectionKey("LineStyle", StyleStr());
-    section += SectionKey("LineTrueColor", m_Color);
-    section += SectionKey("Enable", m_Enable);
+    LineInfo(*this).ForEachKey(KeyAppender(section));
     return true;
+}
+
+RecordFields LineInfo::Fields() const {
+    RecordFields fields;
+    LineInfo(*this).ForEachKey(KeyLister(fields));
+    return fields;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <marlin/core/export.h>
+#include <marlin/records/record_field.h>
 
 #include <string>
 
@@ -53,8 +54,13 @@ public:
     bool Read(const Section& section);
     /// Appends five keys, whether or not the section has keys of those names; true.
     bool Write(Section& section) const;
+    /// The keys in the order of `Write` with the values of this record.
+    [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:
+    template <class Keys>
+    void ForEachKey(const Keys& keys);
+
     float m_Width = 0.1F;
     unsigned long m_Color = 0;
     LINESTYLE m_Style = SOLID_LINE;

@@ -1,29 +1,35 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/records/detail/record_keys.h>
 #include <marlin/records/map_info.h>
-#include <marlin/settings/section.h>
+
+using namespace MARLINSUITE;
+using namespace MARLINSUITE::detail;
+
+template <class Keys>
+void CMapInfo::ForEachKey(const Keys& keys) {
+    keys({"SymbolizationType", 1, "code of the symbols"}, m_SymbolizationType);
+    keys({"ScaleLevel", 2, "code of the scale"}, m_ScaleLevel);
+    keys({"DisplayType", 3, "code of the display"}, m_DisplayType);
+    keys({"ShowTextGeneric", 4, "generic texts are shown"}, m_TextGeneric);
+    keys({"ShowTextOther", 5, "other texts are shown"}, m_TextOther);
+    keys({"ShowChartContour", 6, "the chart's contours are shown"}, m_ChartContour);
+    keys({"ShowLightsInfo", 7, "lights are described"}, m_LightsInfo);
+    keys({"AntiCluttering", 8, "crowded symbols are thinned out"}, m_AntiCluttering);
+    keys({"ShowBoundaries", 9, "boundaries are shown"}, m_Boundaries);
+}
 
 bool CMapInfo::Read(const Section& section) {
-    section["SymbolizationType"] >> m_SymbolizationType;
-    section["ScaleLevel"] >> m_ScaleLevel;
-    section["DisplayType"] >> m_DisplayType;
-    section["ShowTextGeneric"] >> m_TextGeneric;
-    section["ShowTextOther"] >> m_TextOther;
-    section["ShowChartContour"] >> m_ChartContour;
-    section["ShowLightsInfo"] >> m_LightsInfo;
-    section["AntiCluttering"] >> m_AntiCluttering;
-    section["ShowBoundaries"] >> m_Boundaries;
+    ForEachKey(KeyReader(section));
     return true;
 }
 
 bool CMapInfo::Write(Section& section) const {
-    section += SectionKey("SymbolizationType", m_SymbolizationType);
-    section += SectionKey("ScaleLevel", m_ScaleLevel);
-    section += SectionKey("DisplayType", m_DisplayType);
-    section += SectionKey("ShowTextGeneric", m_TextGeneric);
-    section += SectionKey("ShowTextOther", m_TextOther);
-    section += SectionKey("ShowChartContour", m_ChartContour);
-    section += SectionKey("ShowLightsInfo", m_LightsInfo);
-    section += SectionKey("AntiCluttering", m_AntiCluttering);
-    section += SectionKey("ShowBoundaries", m_Boundaries);
+    CMapInfo(*this).ForEachKey(KeyAppender(section));
     return true;
+}
+
+RecordFields CMapInfo::Fields() const {
+    RecordFields fields;
+    CMapInfo(*this).ForEachKey(KeyLister(fields));
+    return fields;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <marlin/core/export.h>
+#include <marlin/records/record_field.h>
 
 class Section;
 
@@ -37,8 +38,13 @@ public:
     bool Read(const Section& section);
     /// Appends nine keys, whether or not the section has keys of those names; true.
     bool Write(Section& section) const;
+    /// The keys in the order of `Write` with the values of this record.
+    [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:
+    template <class Keys>
+    void ForEachKey(const Keys& keys);
+
     int m_SymbolizationType = 0;
     int m_ScaleLevel = 0;
     int m_DisplayType = 2;

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/math.h>
+#include <marlin/records/detail/record_keys.h>
 #include <marlin/records/panel_info.h>
-#include <marlin/settings/section.h>
+
+using namespace MARLINSUITE;
+using namespace MARLINSUITE::detail;
 
 namespace {
 
@@ -9,22 +12,33 @@ bool Equal(float a, float b) noexcept {
     return MATH::Equal(static_cast<double>(a), static_cast<double>(b));
 }
 
-// Files in use hold positions of single precision.
-void ReadPosition(const SectionKey& key, double& position) {
-    float value = 0.0F;
-    if (MARLINSUITE::ParseNumber(key.GetValue(), value)) {
-        position = static_cast<double>(value);
+// Files in use hold positions of single precision, so more digits than that are not read.
+struct Position {
+    double& Coordinate;
+
+    void Read(const SectionKey& key) {
+        float value = 0.0F;
+        if (ParseNumber(key.GetValue(), value)) {
+            Coordinate = static_cast<double>(value);
+        }
     }
-}
+    void Write(SectionKey& key) const { key << Coordinate; }
+    [[nodiscard]] RecordValue Value() const { return Coordinate; }
+};
+
+// A panel whose file names no anchor has the default one, whichever it had before.
+struct Anchor {
+    int& Code;
+
+    void Read(const SectionKey& key) {
+        Code = 0;
+        key >> Code;
+    }
+    void Write(SectionKey& key) const { key << Code; }
+    [[nodiscard]] RecordValue Value() const { return Code; }
+};
 
 }  // namespace
-
-// The positions have names of their own behind a prefix.
-struct PanelInfo::KeyNames {
-    std::string Start;
-    const char* X = "PosX";
-    const char* Y = "PosY";
-};
 
 PanelInfo::~PanelInfo() = default;
 
@@ -34,41 +48,58 @@ bool PanelInfo::operator==(const PanelInfo& other) const noexcept {
            LockPosSize == other.LockPosSize && Justification == other.Justification;
 }
 
+template <class Keys>
+void PanelInfo::ForEachKey(const Keys& keys) {
+    keys({.Name = "Width",
+          .Field = 3,
+          .Meaning = "width on the paper",
+          .Unit = RecordKey::Paper,
+          .IsCommon = true},
+         Width);
+    keys({.Name = "Height",
+          .Field = 4,
+          .Meaning = "height on the paper",
+          .Unit = RecordKey::Paper,
+          .IsCommon = true},
+         Height);
+    keys({.Name = "PosX",
+          .Field = 1,
+          .Meaning = "x on the paper",
+          .Unit = RecordKey::Paper,
+          .PrefixedName = "X"},
+         Position{PosX});
+    keys({.Name = "PosY",
+          .Field = 2,
+          .Meaning = "y on the paper",
+          .Unit = RecordKey::Paper,
+          .PrefixedName = "Y"},
+         Position{PosY});
+    keys({"LockPosSize", 5, "must not be moved or resized"}, LockPosSize);
+    keys({"Justification", 6, "code of the point at the position"}, Anchor{Justification});
+}
+
 bool PanelInfo::Read(const Section& section) {
-    ReadKeys({}, section);
+    ForEachKey(KeyReader(section));
     return true;
 }
 
 bool PanelInfo::Read(const std::string& prefix, const Section& section) {
-    ReadKeys({prefix + ".", "X", "Y"}, section);
+    ForEachKey(KeyReader(section, prefix + "."));
     return true;
 }
 
 bool PanelInfo::Write(Section& section) const {
-    WriteKeys({}, section);
+    PanelInfo(*this).ForEachKey(KeyReplacer(section));
     return true;
 }
 
 bool PanelInfo::Write(const std::string& prefix, Section& section) const {
-    WriteKeys({prefix + ".", "X", "Y"}, section);
+    PanelInfo(*this).ForEachKey(KeyReplacer(section, prefix + "."));
     return true;
 }
 
-void PanelInfo::ReadKeys(const KeyNames& names, const Section& section) {
-    section[names.Start + "Width"] >> Width;
-    section[names.Start + "Height"] >> Height;
-    ReadPosition(section[names.Start + names.X], PosX);
-    ReadPosition(section[names.Start + names.Y], PosY);
-    section[names.Start + "LockPosSize"] >> LockPosSize;
-    Justification = 0;
-    section[names.Start + "Justification"] >> Justification;
-}
-
-void PanelInfo::WriteKeys(const KeyNames& names, Section& section) const {
-    section[names.Start + "Width"] << Width;
-    section[names.Start + "Height"] << Height;
-    section[names.Start + names.X] << PosX;
-    section[names.Start + names.Y] << PosY;
-    section[names.Start + "LockPosSize"] << LockPosSize;
-    section[names.Start + "Justification"] << Justification;
+RecordFields PanelInfo::Fields() const {
+    RecordFields fields;
+    PanelInfo(*this).ForEachKey(KeyLister(fields));
+    return fields;
 }

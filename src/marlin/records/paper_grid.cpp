@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/records/detail/record_keys.h>
 #include <marlin/records/paper_grid.h>
-#include <marlin/settings/section.h>
 
 #include <algorithm>
 #include <cmath>
 
-namespace {
+using namespace MARLINSUITE;
+using namespace MARLINSUITE::detail;
 
-// The spelling is that of the files in use.
-const char* const originXKey = "OringinX";
-const char* const originYKey = "OringinY";
+namespace {
 
 double SetStep(double step) noexcept {
     return std::max(1.0, std::fabs(step));
@@ -25,10 +24,17 @@ double Snap(double position, double step, double origin) noexcept {
     return steps * sign * step + origin;
 }
 
-void ReadStep(const SectionKey& key, double& step) {
-    key >> step;
-    step = std::fabs(step);
-}
+// Files hold steps of any size, also below the 1 of the setters.
+struct Step {
+    double& Length;
+
+    void Read(const SectionKey& key) {
+        key >> Length;
+        Length = std::fabs(Length);
+    }
+    void Write(SectionKey& key) const { key << Length; }
+    [[nodiscard]] RecordValue Value() const { return Length; }
+};
 
 }  // namespace
 
@@ -55,22 +61,29 @@ void PaperGrid::YStep(double step) noexcept {
     m_YStep = SetStep(step);
 }
 
+// The spelling of the origin is that of the files in use.
+template <class Keys>
+void PaperGrid::ForEachKey(const Keys& keys) {
+    keys({"XStep", 1, "distance of the points in x", RecordKey::Paper}, Step{m_XStep});
+    keys({"YStep", 2, "distance of the points in y", RecordKey::Paper}, Step{m_YStep});
+    keys({.Name = "Visible", .Field = 5, .Meaning = "shown", .IsCommon = true}, m_Visible);
+    keys({"SnapOn", 6, "positions snap to the points"}, m_SnapOn);
+    keys({"OringinX", 3, "x of one of the points", RecordKey::Paper}, m_Origin.x);
+    keys({"OringinY", 4, "y of one of the points", RecordKey::Paper}, m_Origin.y);
+}
+
 ErrorString PaperGrid::Read(const Section& section) {
-    ReadStep(section["XStep"], m_XStep);
-    ReadStep(section["YStep"], m_YStep);
-    section["Visible"] >> m_Visible;
-    section["SnapOn"] >> m_SnapOn;
-    section[originXKey] >> m_Origin.x;
-    section[originYKey] >> m_Origin.y;
+    ForEachKey(KeyReader(section));
     return ErrorString(true);
 }
 
 ErrorString PaperGrid::Write(Section& section) const {
-    section += SectionKey("XStep", m_XStep);
-    section += SectionKey("YStep", m_YStep);
-    section += SectionKey("Visible", m_Visible);
-    section += SectionKey("SnapOn", m_SnapOn);
-    section += SectionKey(originXKey, m_Origin.x);
-    section += SectionKey(originYKey, m_Origin.y);
+    PaperGrid(*this).ForEachKey(KeyAppender(section));
     return ErrorString(true);
+}
+
+RecordFields PaperGrid::Fields() const {
+    RecordFields fields;
+    PaperGrid(*this).ForEachKey(KeyLister(fields));
+    return fields;
 }

@@ -4,6 +4,7 @@
 #include <marlin/base/error_string.h>
 #include <marlin/core/export.h>
 #include <marlin/geometry/point_2d.h>
+#include <marlin/records/record_field.h>
 
 class Section;
 
@@ -40,8 +41,13 @@ public:
     ErrorString Read(const Section& section);
     /// Appends six keys, whether or not the section has keys of those names; a success.
     ErrorString Write(Section& section) const;
+    /// The keys in the order of `Write` with the values of this record.
+    [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:
+    template <class Keys>
+    void ForEachKey(const Keys& keys);
+
     double m_XStep;
     double m_YStep;
     GTL::Point2D<float> m_Origin;

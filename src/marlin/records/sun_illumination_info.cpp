@@ -1,49 +1,43 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/records/detail/record_keys.h>
 #include <marlin/records/sun_illumination_info.h>
-#include <marlin/settings/section.h>
 
-namespace {
-
-// The spelling is that of the files in use.
-const char* const enableKey = "SunIllumunationEnable";
-const char* const azimuthKey = "SunIllumunationAzimuth";
-const char* const elevationKey = "SunIllumunationElevation";
-const char* const contrastKey = "SunIllumunationContrast";
-
-}  // namespace
+using namespace MARLINSUITE;
+using namespace MARLINSUITE::detail;
 
 SunIlluminationInfo::~SunIlluminationInfo() = default;
 
+// The spelling is that of the files in use.
+template <class Keys>
+void SunIlluminationInfo::ForEachKey(const Keys& keys) {
+    keys({"SunIllumunationEnable", 1, "the surface is shaded"}, Enable);
+    keys({"SunIllumunationAzimuth", 2, "direction of the light", RecordKey::Degrees}, Azimuth);
+    keys({"SunIllumunationElevation", 3, "its height", RecordKey::Degrees}, Elevation);
+    keys({"SunIllumunationContrast", 4, "contrast, a factor"}, Contrast);
+}
+
 bool SunIlluminationInfo::Read(const Section& section) {
-    ReadKeys("", section);
+    ForEachKey(KeyReader(section));
     return true;
 }
 
 bool SunIlluminationInfo::Read(const std::string& prefix, const Section& section) {
-    ReadKeys(prefix + ".", section);
+    ForEachKey(KeyReader(section, prefix + "."));
     return true;
 }
 
 bool SunIlluminationInfo::Write(Section& section) const {
-    WriteKeys("", section);
+    SunIlluminationInfo(*this).ForEachKey(KeyReplacer(section));
     return true;
 }
 
 bool SunIlluminationInfo::Write(const std::string& prefix, Section& section) const {
-    WriteKeys(prefix + ".", section);
+    SunIlluminationInfo(*this).ForEachKey(KeyReplacer(section, prefix + "."));
     return true;
 }
 
-void SunIlluminationInfo::ReadKeys(const std::string& start, const Section& section) {
-    section[start + enableKey] >> Enable;
-    section[start + azimuthKey] >> Azimuth;
-    section[start + elevationKey] >> Elevation;
-    section[start + contrastKey] >> Contrast;
-}
-
-void SunIlluminationInfo::WriteKeys(const std::string& start, Section& section) const {
-    section[start + enableKey] << Enable;
-    section[start + azimuthKey] << Azimuth;
-    section[start + elevationKey] << Elevation;
-    section[start + contrastKey] << Contrast;
+RecordFields SunIlluminationInfo::Fields() const {
+    RecordFields fields;
+    SunIlluminationInfo(*this).ForEachKey(KeyLister(fields));
+    return fields;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <marlin/core/export.h>
+#include <marlin/records/record_field.h>
 
 #include <string>
 
@@ -30,8 +31,10 @@ public:
     /// True.
     bool Write(Section& section) const;
     bool Write(const std::string& prefix, Section& section) const;
+    /// The keys in the order of `Write` with the values of this record.
+    [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:
-    void ReadKeys(const std::string& start, const Section& section);
-    void WriteKeys(const std::string& start, Section& section) const;
+    template <class Keys>
+    void ForEachKey(const Keys& keys);
 };

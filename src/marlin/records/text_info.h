@@ -3,6 +3,7 @@
 
 #include <marlin/core/export.h>
 #include <marlin/geometry/angle.h>
+#include <marlin/records/record_field.h>
 
 #include <cmath>
 #include <string>
@@ -105,6 +106,8 @@ public:
     /// out of range, leave them; other items that are no number count as 0. The color word, when
     /// there is one, wins over the palette index. Sizes keep their sign.
     void FromString(const std::string& text);
+    /// The items in the order of `ToString` with the values of this record.
+    [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 protected:
     /// Reads the items that there are and returns the index of the first one that is not the
@@ -112,6 +115,9 @@ protected:
     virtual int FromString(const FormatString& items);
 
 private:
+    template <class Items>
+    void ForEachItem(Items& items);
+
     std::string m_Font = "Arial";
     float m_Size = 2.5F;
     STYLE m_Style = STYLE{0};

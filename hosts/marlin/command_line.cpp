@@ -2,12 +2,13 @@
 #include "command_line.h"
 
 #include "families.h"
+#include <marlin/platform/kernel/process.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <string_view>
 
 #include <CLI/CLI.hpp>
-#include <unistd.h>
 
 namespace HOST {
 
@@ -93,7 +94,7 @@ std::vector<std::string> WordsOf(int argc, char** argv) {
 
 int RunCommandLine(int argc, char** argv) {
     Output output;
-    output.HasColors = ::isatty(STDOUT_FILENO) != 0 && std::getenv("NO_COLOR") == nullptr;
+    output.HasColors = PLATFORM::IsTerminal(stdout) && std::getenv("NO_COLOR") == nullptr;
     try {
         const int code = CommandLine().Run(WordsOf(argc, argv), output);
         return Finish(output, code);

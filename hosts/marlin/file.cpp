@@ -120,7 +120,7 @@ Finding Look(std::string_view bytes) {
 
 std::string ReadBytes(const std::string& path) {
     std::string bytes;
-    Require(ReadInput(path, largestFile, bytes));
+    Require(MARLINSUITE::ReadFile(path, bytes, largestFile));
     return bytes;
 }
 

@@ -5,6 +5,7 @@
 #include "output/json.h"
 #include "output/table.h"
 #include <marlin/base/data_search.h>
+#include <marlin/base/files/file_replacement.h>
 #include <marlin/keywords/keywords.h>
 #include <marlin/keywords/list_keywords.h>
 #include <marlin/platform/text/code_page.h>
@@ -31,7 +32,7 @@ std::string ReadTextOrFile(const std::string& argument) {
         return TextOfArgument(argument);
     }
     std::string text;
-    Require(ReadInput(argument, LargestTextFile, text));
+    Require(MARLINSUITE::ReadFile(argument, text, LargestTextFile));
     return text;
 }
 

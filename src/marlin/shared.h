@@ -98,10 +98,10 @@
 #include <marlin/platform/kernel/clock.h>
 #include <marlin/platform/kernel/extension_module.h>
 #include <marlin/platform/kernel/mutex.h>
+#include <marlin/platform/kernel/process.h>
 #include <marlin/platform/kernel/version.h>
 #include <marlin/platform/kernel/waiting.h>
 #include <marlin/platform/kernel/win_thread.h>
-#include <marlin/platform/kernel/worker_control.h>
 #include <marlin/platform/text/c_string.h>
 #include <marlin/platform/text/code_page.h>
 #include <marlin/platform/text/string_table.h>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/gdi/gdi_scale_factor.h>
-
-#include <cstdlib>
+#include <marlin/platform/kernel/detail/test_levers.h>
 
 #include <gtest/gtest.h>
 
@@ -18,9 +17,9 @@ bool Is(double factor, unsigned int most) {
 // A program that is started anew loads the library anew.
 TEST(GDIScaleFactor, IsSmallOnAPlatformOfNarrowCoordinates) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    ::setenv("MARLIN_PLATFORM_ID", "1", 1);
+    PLATFORM::detail::SetPlatformId(1);
     EXPECT_EXIT(std::exit(Is(20.0, 32767U) ? 0 : 1), testing::ExitedWithCode(0), "");
-    ::unsetenv("MARLIN_PLATFORM_ID");
+    PLATFORM::detail::SetPlatformId(2);
     EXPECT_TRUE(Is(1000.0, 2147483647U));
 }
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Usage: check_layout.sh detail|umbrella|layers|names|internals|sizes|links SRC
+# Usage: check_layout.sh detail|umbrella|layers|names|internals|sizes|links|system SRC
 #   detail    no public header includes one of a detail/ folder
 #   umbrella  shared.h includes every public header but those of the Qt part, and nothing else
 #   layers    folders do not include each other in a circle, and docs/architecture.md draws them
@@ -8,6 +8,7 @@
 #   internals each file of a detail/ folder has a namespace detail
 #   sizes     files have at most 300 lines, and lines 100 columns
 #   links     the links of the documents lead to files that are there
+#   system    platform/kernel/ alone includes headers of the operating system, hosts not either
 set -euo pipefail
 rule=$1
 cd -- "$2"
@@ -96,6 +97,15 @@ check_links() {
         sed 's/\](//')
 }
 
+check_system() {
+    local line
+    while IFS= read -r line; do
+        fault "$line: calls the operating system past src/marlin/platform/kernel/"
+    done < <(cd ../.. && grep -rnE --include='*.h' --include='*.cpp' \
+        '^ *# *include *[<"](unistd|fcntl|sys/[a-z]+|pthread|dlfcn|poll|c?signal)(\.h)?[>"]' \
+        src/marlin hosts | grep -v '^src/marlin/platform/kernel/')
+}
+
 case $rule in
 detail) check_detail ;;
 umbrella) check_umbrella ;;
@@ -104,6 +114,7 @@ names) check_names ;;
 internals) check_internals ;;
 sizes) check_sizes ;;
 links) check_links ;;
+system) check_system ;;
 *) exit 2 ;;
 esac
 exit "$faults"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/platform/kernel/detail/test_levers.h>
 #include <marlin/platform/kernel/mutex.h>
 #include <marlin/platform/windowing/c_wnd.h>
 #include <marlin/runtime/thread.h>
@@ -166,10 +167,10 @@ TEST_F(ThreadTest, AStoppedRunEndsAfterItsStep) {
 }
 
 TEST_F(ThreadTest, ARunStoppedBeforeItsFirstStepCallsNothing) {
-    PLATFORM::HoldWorkers(true);
+    PLATFORM::detail::HoldWorkers(true);
     EXPECT_TRUE(thread.Start(&once));
     thread.Stop();
-    PLATFORM::HoldWorkers(false);
+    PLATFORM::detail::HoldWorkers(false);
     caller.AwaitEnd();
     EXPECT_EQ(once.Calls, 0);
     EXPECT_EQ(thread.ExitCode(), 1U);
@@ -233,9 +234,9 @@ TEST_F(ThreadTest, AMutexOfAnotherPartyEndsTheWorkerSilently) {
 }
 
 TEST_F(ThreadTest, AStartWithoutAWorkerFailsUntilReset) {
-    PLATFORM::SetWorkerLimit(0);
+    PLATFORM::detail::SetWorkerLimit(0);
     EXPECT_FALSE(thread.Start(&once));
-    PLATFORM::SetWorkerLimit(PLATFORM::NoWorkerLimit);
+    PLATFORM::detail::SetWorkerLimit(PLATFORM::detail::NoWorkerLimit);
     EXPECT_FALSE(thread.IsRunning());
     EXPECT_FALSE(thread.Start(&once)) << "the object stays recorded";
     thread.HandleEndThread();
@@ -252,12 +253,12 @@ TEST_F(ThreadTest, DestructionStopsAndWaits) {
         work.Called.acquire();
     }
     EXPECT_TRUE(work.Ended);
-    PLATFORM::HoldWorkers(true);
+    PLATFORM::detail::HoldWorkers(true);
     {
         Thread held;
         EXPECT_TRUE(held.Start(&once));
         held.Stop();
-        PLATFORM::HoldWorkers(false);
+        PLATFORM::detail::HoldWorkers(false);
     }
     EXPECT_EQ(once.Calls, 0);
 }

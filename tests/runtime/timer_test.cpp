@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/kernel/clock.h>
+#include <marlin/platform/kernel/detail/test_levers.h>
 #include <marlin/runtime/timer.h>
 
 #include <gtest/gtest.h>
@@ -11,9 +12,9 @@ unsigned long timeNow = 0;
 class TimerTest : public testing::Test {
 protected:
     TimerTest() {
-        PLATFORM::SetMillisecondClock([] { return timeNow; });
+        PLATFORM::detail::SetMillisecondClock([] { return timeNow; });
     }
-    ~TimerTest() override { PLATFORM::SetMillisecondClock(nullptr); }
+    ~TimerTest() override { PLATFORM::detail::SetMillisecondClock(nullptr); }
 };
 
 TEST_F(TimerTest, ATimerMeasuresFromTheLastStartToTheLastStopAcrossTheWrapOfTheClock) {
@@ -40,7 +41,7 @@ TEST_F(TimerTest, ATimerMeasuresFromTheLastStartToTheLastStopAcrossTheWrapOfTheC
 TEST_F(TimerTest, TheClockCountsModuloTwoToTheThirtySecond) {
     timeNow = 0x100000007;
     EXPECT_EQ(timeGetTime(), 7U);
-    PLATFORM::SetMillisecondClock(nullptr);
+    PLATFORM::detail::SetMillisecondClock(nullptr);
     const unsigned long first = timeGetTime();
     EXPECT_LE((timeGetTime() - first) & 0xFFFFFFFF, 60000U) << "the clock ran backwards";
 }

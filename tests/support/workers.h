@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/platform/kernel/detail/test_levers.h>
 #include <marlin/platform/kernel/win_thread.h>
-#include <marlin/platform/kernel/worker_control.h>
 
 #include <memory>
 #include <thread>
 
 /// Waits until the process has no worker: then, and not before, one fits under a limit of one.
 inline void AwaitNoWorkers() {
-    PLATFORM::SetWorkerLimit(1);
+    PLATFORM::detail::SetWorkerLimit(1);
     CWinThread* only = nullptr;
     while (!only) {
         std::this_thread::yield();
@@ -17,5 +17,5 @@ inline void AwaitNoWorkers() {
     }
     only->m_bAutoDelete = false;
     const std::unique_ptr<CWinThread> owner(only);
-    PLATFORM::SetWorkerLimit(PLATFORM::NoWorkerLimit);
+    PLATFORM::detail::SetWorkerLimit(PLATFORM::detail::NoWorkerLimit);
 }

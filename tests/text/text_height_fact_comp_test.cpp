@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/drawing/gdi_objects.h>
 #include <marlin/platform/fonts/font_catalog.h>
+#include <marlin/platform/kernel/detail/test_levers.h>
 #include <marlin/text/text_height_fact_comp.h>
 
 #include <cmath>
-#include <cstdlib>
 #include <limits>
 #include <string>
 #include <vector>
@@ -123,7 +123,7 @@ TEST(TextHeightFactComp, LeavesNoDrawingObjectBehind) {
 // A program that is started anew loads the library anew.
 TEST(TextHeightFactComp, MeasuresInCoarseUnitsOnAPlatformOfNarrowCoordinates) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    ::setenv("MARLIN_PLATFORM_ID", "1", 1);
+    PLATFORM::detail::SetPlatformId(1);
     EXPECT_EXIT(
         {
             PLATFORM::FontMatch match;
@@ -133,7 +133,7 @@ TEST(TextHeightFactComp, MeasuresInCoarseUnitsOnAPlatformOfNarrowCoordinates) {
             std::exit(found && std::fabs(factor - expected) < 1e-6 ? 0 : 1);
         },
         testing::ExitedWithCode(0), "");
-    ::unsetenv("MARLIN_PLATFORM_ID");
+    PLATFORM::detail::SetPlatformId(2);
 }
 
 }  // namespace

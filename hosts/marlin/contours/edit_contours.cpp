@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "contours.h"
+#include <marlin/base/error_string.h>
+#include <marlin/platform/kernel/process.h>
 
-#include <array>
-#include <cerrno>
 #include <filesystem>
-#include <system_error>
-
-#include <unistd.h>
 
 namespace HOST {
 
@@ -16,10 +13,8 @@ constexpr const char* editorName = "marlin-contour-editor";
 
 // Beside this program, as it is installed, or else the first one on the search path.
 std::string EditorPath() {
-    std::error_code error;
-    const std::filesystem::path own = std::filesystem::read_symlink("/proc/self/exe", error);
-    const std::filesystem::path beside = own.parent_path() / editorName;
-    return ::access(beside.c_str(), X_OK) == 0 ? beside.string() : editorName;
+    const std::string beside = std::filesystem::path(PLATFORM::ProgramFolder()) / editorName;
+    return PLATFORM::IsProgram(beside) ? beside : editorName;
 }
 
 struct EditContours {
@@ -29,12 +24,8 @@ struct EditContours {
 
     // This process becomes the editor, so that its exit code and its signals are the editor's.
     int Run(Output& /*output*/) {
-        std::string program = EditorPath();
-        std::string endOfOptions = "--";
-        const std::array<char*, 4> words = {program.data(), endOfOptions.data(), File.data(),
-                                            nullptr};
-        ::execvp(program.c_str(), words.data());
-        Fail(program + ": " + std::generic_category().message(errno));
+        const std::string program = EditorPath();
+        Fail(MARLINSUITE::SystemReason(program, PLATFORM::RunInstead(program, {"--", File})));
     }
 };
 

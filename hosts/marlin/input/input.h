@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <marlin/base/error_string.h>
-
 #include <cstddef>
 #include <string>
 
@@ -10,10 +8,6 @@ namespace HOST {
 
 /// The program refuses larger text files: somebody has mistaken the file.
 inline constexpr std::size_t LargestTextFile = 256U * 1024U * 1024U;
-
-/// Reads a file whole. A failure names the file and the reason: the system's, or that the file
-/// holds more than `limit` bytes, of which no more are read.
-[[nodiscard]] ErrorString ReadInput(const std::string& path, std::size_t limit, std::string& bytes);
 
 /// An argument as a text of a file: UTF-8 becomes single-byte characters, other bytes are taken
 /// for such already. Fails for a character that has no byte.

@@ -13,7 +13,7 @@ bool IsSealed(const Section& section) {
 
 ErrorString SettingsSource::Open(const std::string& path) {
     std::string text;
-    if (ErrorString error = ReadInput(path, LargestTextFile, text); !error.Empty()) {
+    if (ErrorString error = MARLINSUITE::ReadFile(path, text, LargestTextFile); !error.Empty()) {
         return error;
     }
     m_Path = path;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/error_string.h>
 
+#include <system_error>
+
 namespace {
 
 constinit thread_local bool isLastGone = false;
@@ -61,10 +63,19 @@ ErrorString ErrorString::LastError() {
     return last ? *last : ErrorString();
 }
 
+void ErrorString::RecordFailure(const std::string& cause) {
+    ErrorString failure(false);
+    failure.SetCause(cause);
+}
+
 ErrorString& ErrorString::Remember() {
     ErrorString* const last = m_Text.empty() ? nullptr : LastOfThisThread();
     if (last && last != this) {
         *last = *this;
     }
     return *this;
+}
+
+std::string MARLINSUITE::SystemReason(const std::string& name, int error) {
+    return name + ": " + std::generic_category().message(error);
 }

@@ -32,6 +32,9 @@ public:
     /// The failure that this thread made or appended to most recently; a success when there
     /// was none. Copies are not made errors.
     [[nodiscard]] static ErrorString LastError();
+    /// Records a failure, with a cause, for an operation that returns nothing; a host finds it by
+    /// `LastError`.
+    static void RecordFailure(const std::string& cause);
 
     friend bool operator==(const ErrorString& a, const ErrorString& b) noexcept = default;
 
@@ -41,3 +44,10 @@ private:
     std::string m_Text;
     std::string m_Cause;
 };
+
+namespace MARLINSUITE {
+
+/// "name: reason", with the system's text for its error number: "a.ini: Permission denied".
+[[nodiscard]] MARLIN_API std::string SystemReason(const std::string& name, int error);
+
+}  // namespace MARLINSUITE

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/core/crc32.h>
+#include <marlin/platform/kernel/detail/stream.h>
 #include <marlin/resources/texts.h>
 #include <marlin/settings/crc_file.h>
 
@@ -8,14 +9,10 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstring>
-#include <system_error>
 
 /// The open stream that copies share; without a file once any of them has closed it.
 struct CRCFile::Stream {
-    struct Closer {
-        void operator()(std::FILE* file) const noexcept { static_cast<void>(std::fclose(file)); }
-    };
-    std::unique_ptr<std::FILE, Closer> File;
+    PLATFORM::detail::Stream File;
     std::string Path;
     bool Writing = false;
 };
@@ -32,10 +29,10 @@ Trailer TrailerOf(unsigned int value) {
 
 // The four bytes at the end of a file, of which `length` bytes stand before them.
 bool ReadTrailer(std::FILE* file, unsigned int& value, std::uint64_t& length) {
-    if (::fseeko(file, -static_cast<off_t>(trailerSize), SEEK_END) != 0) {
+    if (!PLATFORM::detail::SeekFromEnd(file, -std::int64_t{trailerSize})) {
         return false;
     }
-    length = static_cast<std::uint64_t>(::ftello(file));
+    length = static_cast<std::uint64_t>(PLATFORM::detail::PositionOf(file));
     Trailer bytes{};
     if (std::fread(bytes.data(), 1, trailerSize, file) != trailerSize) {
         return false;
@@ -48,10 +45,6 @@ bool ReadTrailer(std::FILE* file, unsigned int& value, std::uint64_t& length) {
 std::string OpeningError(const std::string& path) {
     return std::string(MARLINSUITE::Message(MARLINSUITE::MESSAGE::ERROR_OPENING_FILE)) + path +
            "\".";
-}
-
-std::string SystemCause(const std::string& path, int error) {
-    return path + ": " + std::generic_category().message(error);
 }
 
 }  // namespace
@@ -88,7 +81,7 @@ ErrorString CRCFile::Open(const std::string& path, const char* mode) {
     stream->File.reset(std::fopen(path.c_str(), mode));
     if (!stream->File) {
         const int error = errno;
-        return ErrorString(OpeningError(path)).SetCause(SystemCause(path, error));
+        return ErrorString(OpeningError(path)).SetCause(MARLINSUITE::SystemReason(path, error));
     }
     m_Stream = std::move(stream);
     if (m_Stream->Writing) {
@@ -114,7 +107,7 @@ void CRCFile::Close() {
     good = std::fclose(m_Stream->File.release()) == 0 && good;
     if (!good) {
         const int error = errno;
-        ErrorString(false).SetCause(SystemCause(m_Stream->Path, error));
+        ErrorString::RecordFailure(MARLINSUITE::SystemReason(m_Stream->Path, error));
     }
     m_Stream.reset();
 }
@@ -146,7 +139,7 @@ bool CRCFile::Flush() {
 }
 
 unsigned int CRCFile::GetCRC(const std::string& path) {
-    const std::unique_ptr<std::FILE, Stream::Closer> file(std::fopen(path.c_str(), "rb"));
+    const PLATFORM::detail::Stream file(std::fopen(path.c_str(), "rb"));
     unsigned int value = 0;
     std::uint64_t length = 0;
     return file && ReadTrailer(file.get(), value, length) ? value : 0;
@@ -183,11 +176,12 @@ bool CRCFile::CheckCRC() {
 // A stream that cannot be read back (its mode lacked the "+") gets a trailer that matches
 // nothing, and the failure is reported.
 bool CRCFile::AddChecksum() {
-    if (std::fseek(File(), 0, SEEK_END) != 0) {
+    if (!PLATFORM::detail::SeekFromEnd(File(), 0)) {
         return false;
     }
-    const Trailer bytes = TrailerOf(ComputeCRC(static_cast<std::uint64_t>(::ftello(File()))));
+    const Trailer bytes =
+        TrailerOf(ComputeCRC(static_cast<std::uint64_t>(PLATFORM::detail::PositionOf(File()))));
     const bool readable = std::ferror(File()) == 0;
-    return std::fseek(File(), 0, SEEK_END) == 0 &&
+    return PLATFORM::detail::SeekFromEnd(File(), 0) &&
            std::fwrite(bytes.data(), 1, trailerSize, File()) == trailerSize && readable;
 }

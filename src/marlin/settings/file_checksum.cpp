@@ -1,54 +1,53 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/crc_checksum.h>
+#include <marlin/platform/kernel/detail/file.h>
 #include <marlin/settings/file_checksum.h>
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
 #include <memory>
 #include <string_view>
 
-#include <sys/stat.h>
-
 namespace {
 
-struct Closer {
-    void operator()(std::FILE* file) const noexcept { static_cast<void>(std::fclose(file)); }
-};
+using PLATFORM::detail::File;
+using PLATFORM::detail::FileStatus;
 
 // Words are fed low byte first, so feeding their bytes is the same.
-void AddWords(CRCChecksum& checksum, std::FILE* file, unsigned int wordLimit) {
+void AddWords(CRCChecksum& checksum, std::string_view bytes) noexcept {
+    checksum += bytes.substr(0, bytes.size() - bytes.size() % 4);
+}
+
+// A block that is not full is the last one: the file is a regular one, so no read is short before.
+// An error ends the words as the end of the file does.
+void AddContents(CRCChecksum& checksum, const File& file, unsigned int wordLimit) {
     constexpr std::size_t blockSize = 64 * 1024;
     const auto block = std::make_unique_for_overwrite<char[]>(blockSize);
     std::uint64_t left =
         wordLimit == FileChecksum::AllWords ? UINT64_MAX : std::uint64_t{wordLimit} * 4;
-    while (left > 0) {
-        const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(left, blockSize));
-        const std::size_t got = std::fread(block.get(), 1, wanted, file);
-        checksum += std::string_view(block.get(), got - got % 4);
-        if (got < wanted) {
-            return;
-        }
+    std::size_t wanted = 0;
+    std::size_t got = 0;
+    do {
+        wanted = static_cast<std::size_t>(std::min<std::uint64_t>(left, blockSize));
+        got = 0;
+        static_cast<void>(file.Read(block.get(), wanted, got));
+        AddWords(checksum, std::string_view(block.get(), got));
         left -= got;
-    }
+    } while (got == wanted && left > 0);
 }
 
 }  // namespace
 
 FileChecksum::FileChecksum(const std::string& path, unsigned int wordLimit) : m_Path(path) {
-    if (path.empty()) {
-        return;
-    }
-    struct stat status {};
-    if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
+    FileStatus status;
+    File file;
+    // Looked at before it is opened: opening a pipe may wait, and opening a device act.
+    if (PLATFORM::detail::StatusOf(path, status) != 0 ||
+        status.Kind != PLATFORM::detail::FILE_KIND::REGULAR || file.OpenForReading(path) != 0) {
         return;
     }
     CRCChecksum checksum;
-    checksum += static_cast<unsigned int>(status.st_mtime);
-    const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rb"));
-    if (!file) {
-        return;
-    }
-    AddWords(checksum, file.get(), wordLimit);
+    checksum += static_cast<unsigned int>(status.ModifiedSeconds);
+    AddContents(checksum, file, wordLimit);
     m_Value = checksum.Value();
 }

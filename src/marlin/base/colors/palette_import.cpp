@@ -2,13 +2,10 @@
 #include <marlin/base/colors/detail/palette_reader.h>
 #include <marlin/base/colors/palette_import.h>
 #include <marlin/core/number_text.h>
-#include <marlin/platform/kernel/detail/file_descriptor.h>
+#include <marlin/platform/kernel/detail/file.h>
 
-#include <algorithm>
+#include <cerrno>
 #include <cmath>
-#include <system_error>
-
-#include <fcntl.h>
 
 namespace {
 
@@ -16,34 +13,13 @@ using MARLINSUITE::Palette;
 using MARLINSUITE::PaletteColor;
 using MARLINSUITE::PaletteSlice;
 
-// What the file holds, but never more than one byte beyond the limit.
-int ReadUpTo(const std::string& path, std::size_t limit, std::string& text) {
-    PLATFORM::FileDescriptor file;
-    if (const int error = file.Open(path.c_str(), O_RDONLY); error != 0) {
-        return error;
-    }
-    std::size_t count = 1;
-    while (count != 0 && text.size() <= limit) {
-        const std::size_t size = text.size();
-        text.resize(std::min(size + 64 * 1024, limit + 1));
-        const int error = file.Read(text.data() + size, text.size() - size, count);
-        text.resize(size + count);
-        if (error != 0) {
-            return error;
-        }
-    }
-    return 0;
-}
-
 ErrorString ReadPaletteText(const std::string& path, std::string& text) {
     constexpr std::size_t largestFile = 4 * 1024 * 1024;
-    if (const int error = ReadUpTo(path, largestFile, text); error != 0) {
-        return ErrorString(path + ": " + std::generic_category().message(error));
-    }
-    if (text.size() > largestFile) {
+    const int error = PLATFORM::detail::ReadWhole(path, largestFile, text);
+    if (error == EFBIG) {
         return ErrorString(path + ": larger than 4 MiB, which no palette is");
     }
-    return {};
+    return error == 0 ? ErrorString() : ErrorString(MARLINSUITE::SystemReason(path, error));
 }
 
 double Scaled(double value, const std::pair<double, double>& range, bool hasHinge) noexcept {

@@ -4,6 +4,8 @@
 #include <marlin/base/error_string.h>
 #include <marlin/core/export.h>
 
+#include <cstddef>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -16,7 +18,9 @@ namespace MARLINSUITE {
 /// file and the system's reason and leaves the old file as it was.
 ErrorString MARLIN_API ReplaceFile(const std::string& path, std::string_view bytes);
 
-/// Reads a file whole. A failure names the file and the reason; the target is then unchanged.
-ErrorString MARLIN_API ReadFile(const std::string& path, std::string& bytes);
+/// Reads a file whole. A failure names the file and the reason: the system's, or that the file has
+/// more than `limit` bytes, of which no more are read. The target is then unchanged.
+ErrorString MARLIN_API ReadFile(const std::string& path, std::string& bytes,
+                                std::size_t limit = std::numeric_limits<std::size_t>::max());
 
 }  // namespace MARLINSUITE

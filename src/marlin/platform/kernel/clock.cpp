@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/kernel/clock.h>
+#include <marlin/platform/kernel/detail/test_levers.h>
 
-#include <atomic>
 #include <chrono>
 
 namespace {
 
-constinit std::atomic<PLATFORM::MillisecondClock> replacement{nullptr};
-
+// The steady clock: the time of day jumps when somebody sets it.
 unsigned long SystemMilliseconds() noexcept {
     const auto now = std::chrono::steady_clock::now().time_since_epoch();
     return static_cast<unsigned long>(
@@ -17,14 +16,6 @@ unsigned long SystemMilliseconds() noexcept {
 }  // namespace
 
 unsigned long timeGetTime() noexcept {
-    const PLATFORM::MillisecondClock clock = replacement.load();
-    return (clock ? clock() : SystemMilliseconds()) & 0xFFFFFFFFUL;
+    const PLATFORM::detail::MillisecondClock replaced = PLATFORM::detail::ReplacedClock();
+    return (replaced ? replaced() : SystemMilliseconds()) & 0xFFFFFFFFUL;
 }
-
-namespace PLATFORM {
-
-void SetMillisecondClock(MillisecondClock clock) noexcept {
-    replacement.store(clock);
-}
-
-}  // namespace PLATFORM

@@ -7,7 +7,8 @@
 
 namespace {
 
-class Mutex final : public PLATFORM::KernelObject, public std::enable_shared_from_this<Mutex> {
+class Mutex final : public PLATFORM::detail::KernelObject,
+                    public std::enable_shared_from_this<Mutex> {
 public:
     using KernelObject::KernelObject;
 
@@ -102,20 +103,22 @@ HANDLE CreateMutexA(const SECURITY_ATTRIBUTES*, int initialOwner, const char* na
         static_cast<void>(fresh->Wait(0));
     }
     if (fresh->Name().empty()) {
-        return PLATFORM::OpenHandle(fresh);
+        return PLATFORM::detail::OpenHandle(fresh);
     }
-    auto object = PLATFORM::NamedObject(fresh->Name(), fresh);
+    auto object = PLATFORM::detail::NamedObject(fresh->Name(), fresh);
     if (object != fresh && initialOwner != 0) {
         static_cast<void>(fresh->Release());
     }
-    return PLATFORM::OpenHandle(std::move(object));
+    return PLATFORM::detail::OpenHandle(std::move(object));
 }
 
 HANDLE OpenMutexA(unsigned long, int, const char* name) {
-    return name && *name ? PLATFORM::OpenHandle(PLATFORM::NamedObject(name, nullptr)) : nullptr;
+    return name && *name
+               ? PLATFORM::detail::OpenHandle(PLATFORM::detail::NamedObject(name, nullptr))
+               : nullptr;
 }
 
 int ReleaseMutex(HANDLE handle) {
-    const auto mutex = PLATFORM::ObjectOf<Mutex>(handle);
+    const auto mutex = PLATFORM::detail::ObjectOf<Mutex>(handle);
     return mutex && mutex->Release() ? 1 : 0;
 }

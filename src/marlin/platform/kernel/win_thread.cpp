@@ -4,11 +4,11 @@
 
 #include <utility>
 
-using PLATFORM::ObjectOf;
-using PLATFORM::Worker;
+using PLATFORM::detail::ObjectOf;
+using PLATFORM::detail::Worker;
 
 CWinThread::CWinThread(std::shared_ptr<Worker> worker)
-    : m_hThread(PLATFORM::OpenHandle(worker)), m_Worker(std::move(worker)) {}
+    : m_hThread(PLATFORM::detail::OpenHandle(worker)), m_Worker(std::move(worker)) {}
 
 CWinThread::~CWinThread() {
     m_Worker->Finish();

@@ -8,7 +8,7 @@
 
 struct SECURITY_ATTRIBUTES;
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 class Worker;
 }
 
@@ -33,19 +33,19 @@ public:
     bool m_bAutoDelete = true;
 
     /// `AfxBeginThread` makes them.
-    explicit CWinThread(std::shared_ptr<PLATFORM::Worker> worker);
+    explicit CWinThread(std::shared_ptr<PLATFORM::detail::Worker> worker);
     CWinThread(const CWinThread&) = delete;
     CWinThread& operator=(const CWinThread&) = delete;
     ~CWinThread();
 
 private:
-    std::shared_ptr<PLATFORM::Worker> m_Worker;
+    std::shared_ptr<PLATFORM::detail::Worker> m_Worker;
 };
 
 /// Makes a worker that runs `procedure` with `parameter`, at once or, with `CREATE_SUSPENDED`,
 /// once resumed. Below-normal priorities give way to the process's other threads; those above
 /// normal, the stack's size (0: the default) and security attributes have no meaning here. Null
-/// when the system or `PLATFORM::SetWorkerLimit` allows no further thread.
+/// when the system has no further thread.
 MARLIN_API CWinThread* AfxBeginThread(AFX_THREADPROC procedure, void* parameter,
                                       int priority = THREAD_PRIORITY_NORMAL,
                                       unsigned int stackSize = 0, unsigned long flags = 0,

@@ -5,20 +5,10 @@
 #include <cerrno>
 #include <new>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-
 namespace MARLINSUITE {
 
 int LineReader::Open(const std::string& path) {
-    if (const int error = m_File.Open(path.c_str(), O_RDONLY); error != 0) {
-        return error;
-    }
-    struct stat status {};
-    if (::fstat(m_File.Get(), &status) != 0) {
-        return errno;
-    }
-    return S_ISDIR(status.st_mode) ? EISDIR : 0;
+    return m_File.OpenForReading(path);
 }
 
 bool LineReader::NextAfterRefill(std::string_view& line) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <marlin/platform/kernel/detail/file_descriptor.h>
+#include <marlin/platform/kernel/detail/file.h>
 
 #include <cstddef>
 #include <cstring>
@@ -47,7 +47,7 @@ private:
     bool Refill();
     int Grow();
 
-    PLATFORM::FileDescriptor m_File;
+    PLATFORM::detail::File m_File;
     std::unique_ptr<char[]> m_Buffer;
     std::size_t m_Capacity = 0;
     std::string_view m_Rest = std::string_view("", 0);  // never null, for memchr

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/fonts/detail/font_face.h>
 #include <marlin/platform/fonts/detail/free_type.h>
-#include <marlin/platform/kernel/detail/file_descriptor.h>
+#include <marlin/platform/kernel/detail/file.h>
 #include <marlin/platform/text/code_page.h>
 
 #include <cstddef>
-
-#include <fcntl.h>
 
 namespace PLATFORM {
 
@@ -15,23 +13,13 @@ namespace {
 constexpr std::size_t LargestFile = std::size_t{1} << 28U;
 
 bool ReadFile(const std::string& path, std::vector<unsigned char>& bytes) {
-    FileDescriptor file;
+    std::string read;
     // Not waiting keeps a pipe of that name from holding the caller.
-    if (file.Open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK) != 0) {
+    if (detail::ReadWhole(path, LargestFile, read, detail::File::WAITING::DO_NOT_WAIT) != 0) {
         return false;
     }
-    std::size_t count = 1;
-    while (count > 0 && bytes.size() <= LargestFile) {
-        const std::size_t used = bytes.size();
-        bytes.resize(used + (used < 65536 ? 65536 : used));
-        if (file.Read(reinterpret_cast<char*>(bytes.data() + used), bytes.size() - used, count) !=
-            0) {
-            return false;
-        }
-        bytes.resize(used + count);
-    }
-    bytes.shrink_to_fit();
-    return !bytes.empty() && bytes.size() <= LargestFile;
+    bytes.assign(read.begin(), read.end());
+    return !bytes.empty();
 }
 
 std::string TextOrEmpty(const char* text) {

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <unordered_map>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 namespace {
 
@@ -76,13 +76,13 @@ std::shared_ptr<KernelObject> NamedObject(const std::string& name,
     return fresh;
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail
 
 unsigned long WaitForSingleObject(HANDLE handle, unsigned long milliseconds) {
-    const auto object = PLATFORM::ObjectOf(handle);
+    const auto object = PLATFORM::detail::ObjectOf(handle);
     return object ? object->Wait(milliseconds) : WAIT_FAILED;
 }
 
 int CloseHandle(HANDLE handle) {
-    return PLATFORM::Close(handle) ? 1 : 0;
+    return PLATFORM::detail::Close(handle) ? 1 : 0;
 }

@@ -9,7 +9,7 @@
 #include <mutex>
 #include <string>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 /// What a handle names: something that can be waited for. It lives as long as a handle or a
 /// waiting thread has it. An object with a name is found by it.
@@ -59,4 +59,4 @@ template <typename Object>
 [[nodiscard]] std::shared_ptr<KernelObject> NamedObject(const std::string& name,
                                                         const std::shared_ptr<KernelObject>& fresh);
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

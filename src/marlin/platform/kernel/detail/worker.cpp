@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/platform/kernel/detail/test_levers.h>
 #include <marlin/platform/kernel/detail/worker.h>
-#include <marlin/platform/kernel/worker_control.h>
 
 #include <algorithm>
 #include <atomic>
@@ -8,19 +8,17 @@
 
 #include <sys/resource.h>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 namespace {
 
-constinit std::atomic<unsigned int> workerLimit{NoWorkerLimit};
 constinit std::atomic<unsigned int> workerCount{0};
-constinit std::atomic<bool> workersHeld{false};
 constinit thread_local CWinThread* currentThread = nullptr;
 
 bool CountWorker() noexcept {
     unsigned int count = workerCount.load();
     do {
-        if (count >= workerLimit.load()) {
+        if (count >= WorkerLimit()) {
             return false;
         }
     } while (!workerCount.compare_exchange_weak(count, count + 1));
@@ -102,7 +100,7 @@ bool Worker::IsToRun() {
     const bool resumed = m_State == STATE::RESUMED;
     lock.unlock();
     if (resumed) {
-        workersHeld.wait(true);
+        AwaitRelease();
     }
     return resumed;
 }
@@ -127,17 +125,8 @@ void Worker::End(unsigned long code) {
     m_Changed.notify_all();
 }
 
-void SetWorkerLimit(unsigned int most) noexcept {
-    workerLimit.store(most);
-}
-
-void HoldWorkers(bool hold) noexcept {
-    workersHeld.store(hold);
-    workersHeld.notify_all();
-}
-
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail
 
 CWinThread* AfxGetThread() noexcept {
-    return PLATFORM::currentThread;
+    return PLATFORM::detail::currentThread;
 }

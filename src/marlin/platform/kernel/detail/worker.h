@@ -6,7 +6,7 @@
 
 #include <thread>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 /// The thread behind a `CWinThread`, which begins suspended. The running thread has it too.
 class Worker final : public KernelObject, public std::enable_shared_from_this<Worker> {
@@ -43,4 +43,4 @@ private:
     std::thread m_Thread;
 };
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

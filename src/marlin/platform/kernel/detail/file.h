@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+
+/// The file calls of the operating system. No other folder calls it, so that this one alone is
+/// swapped on another system.
+///
+/// Every operation that returns an `int` returns 0 or the error number of the system, one of
+/// `<cerrno>`; `std::generic_category().message()` has its text. On failure outputs keep their
+/// values. Calls that a signal interrupted are made again.
+namespace PLATFORM::detail {
+
+enum class FILE_KIND { REGULAR, FOLDER, OTHER };  ///< Other: a device, a pipe, a socket.
+
+/// What the system knows of a file.
+struct FileStatus {
+    FILE_KIND Kind = FILE_KIND::OTHER;
+    std::uint64_t Size = 0;            ///< Bytes; without meaning for other kinds.
+    std::int64_t ModifiedSeconds = 0;  ///< Since 1970.
+    unsigned int Mode = 0;             ///< Permission bits.
+    unsigned int Owner = 0;
+    unsigned int Group = 0;
+};
+
+/// Owns an open file, or none. Destroying it closes the file and drops the result: whoever wrote
+/// calls `Close`.
+class File {
+public:
+    enum class WAITING { WAIT, DO_NOT_WAIT };
+
+    File() noexcept = default;
+    File(File&& other) noexcept : m_Descriptor(std::exchange(other.m_Descriptor, -1)) {}
+    File& operator=(File&& other) noexcept;
+    ~File() { static_cast<void>(Close()); }
+
+    /// EISDIR for a folder. A pipe is waited for until it has a writer, unless not to be.
+    [[nodiscard]] int OpenForReading(const std::string& path,
+                                     WAITING waiting = WAITING::WAIT) noexcept;
+    /// Opens a file that exists, at position 0; its contents stay.
+    [[nodiscard]] int OpenForWriting(const std::string& path) noexcept;
+    /// Makes a file for writing, with the mode bits that the process's mask leaves. EEXIST when
+    /// the path has one.
+    [[nodiscard]] int Create(const std::string& path, unsigned int mode) noexcept;
+
+    [[nodiscard]] bool IsOpen() const noexcept { return m_Descriptor >= 0; }
+    /// A failure may be that of an earlier write. The file is closed in any case.
+    int Close() noexcept;
+
+    /// Reads up to `size` bytes; `count` is how many, 0 at the end of the file.
+    [[nodiscard]] int Read(char* buffer, std::size_t size, std::size_t& count) const noexcept;
+    /// Writes all bytes at the position. On failure some of them may have been written.
+    [[nodiscard]] int WriteAll(std::string_view bytes) const noexcept;
+
+    [[nodiscard]] int Status(FileStatus& status) const noexcept;
+    /// Takes space on the disk for so many bytes, so that writing them cannot fill it. A file that
+    /// was shorter gets that size, after a failure too. Success on a disk that cannot reserve.
+    [[nodiscard]] int Reserve(std::uint64_t size) const noexcept;
+    [[nodiscard]] int Resize(std::uint64_t size) const noexcept;
+    /// Returns once the contents are on the disk.
+    [[nodiscard]] int Sync() const noexcept;
+    /// Gives the file the mode, owner and group of another one. Only a privileged process may
+    /// give files away; without the privilege the owner stays, and that is no failure.
+    [[nodiscard]] int TakeAttributes(const FileStatus& other) const noexcept;
+
+private:
+    [[nodiscard]] int Open(const std::string& path, int flags, unsigned int mode = 0) noexcept;
+
+    int m_Descriptor = -1;
+};
+
+/// Of the file that a path leads to through symbolic links. ENOENT when there is none.
+[[nodiscard]] int StatusOf(const std::string& path, FileStatus& status) noexcept;
+/// Whether this process may write the file: 0, or EACCES, EROFS and the like.
+[[nodiscard]] int CheckWritable(const std::string& path) noexcept;
+/// Replaces a path by the one that its symbolic links lead to, where no file needs to exist.
+/// ELOOP for links in a circle.
+[[nodiscard]] int FollowLinks(std::string& path);
+/// The folder part of a path, with an ending "/"; "./" for a name alone.
+[[nodiscard]] std::string FolderOf(const std::string& path);
+
+/// Reads a file whole. EFBIG when it has more than `limit` bytes, of which no more are read.
+[[nodiscard]] int ReadWhole(const std::string& path, std::size_t limit, std::string& bytes,
+                            File::WAITING waiting = File::WAITING::WAIT);
+
+}  // namespace PLATFORM::detail

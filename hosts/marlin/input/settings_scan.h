@@ -8,34 +8,35 @@
 
 namespace HOST {
 
-/// Something about a line of a settings file that reading it does not tell.
+/// A remark about a line of a settings file, on something that readers pass over in silence.
 struct SettingsRemark {
     enum KIND {
         WARNING,
         ERROR,  ///< Two keys of one name.
-        LOSS,   ///< A warning: what saving the file again would drop.
+        LOSS,   ///< A warning about text that saving the file would drop.
     };
     int Line = 0;
     KIND Kind = WARNING;
     std::string Cause;
 };
 
-/// The lines of a settings file, looked at one by one. It ends with the line at which reading
-/// the file fails.
+/// The findings of a walk over the lines of a settings file. The walk ends at the line at which
+/// readers fail.
 struct SettingsScan {
-    /// What makes the file no settings file at all; then nothing else is said.
+    /// Why the file is no settings file at all, or empty. The findings before the fault stay.
     std::string Fault;
     int FaultLine = 0;
 
-    /// The bytes before the first section header. Reading ignores them.
+    /// The number of bytes before the first section header, which readers ignore.
     std::size_t PreambleSize = 0;
-    /// The lines of the headers.
+    /// The lines of the section headers.
     std::vector<int> HeaderLines;
-    /// Where the first section of the name that stands twice begins; 0 when none does.
+    /// The line of the first section whose name comes again, or 0.
     int FirstOfDuplicate = 0;
     std::vector<SettingsRemark> Remarks;
 
     [[nodiscard]] static SettingsScan Of(std::string_view text);
+    /// Null when saving drops nothing.
     [[nodiscard]] const SettingsRemark* FirstLoss() const noexcept;
 };
 

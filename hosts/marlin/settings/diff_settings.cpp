@@ -1,26 +1,20 @@
 // SPDX-License-Identifier: MIT
+#include "input/ignoring_case.h"
 #include "input/settings_source.h"
 #include "output/json.h"
 #include "settings.h"
-#include <marlin/core/ascii.h>
 #include <marlin/platform/text/code_page.h>
 
 #include <algorithm>
 #include <cstddef>
 #include <string_view>
-#include <unordered_map>
 
 namespace HOST {
 
 namespace {
 
-std::string LowerCase(std::string_view text) {
-    std::string lower(text);
-    std::ranges::transform(lower, lower.begin(), PLATFORM::ToLower);
-    return lower;
-}
-
-// One difference; a null pointer is what one side lacks. Without keys it is a whole section's.
+// One difference. A null pointer is for what one side lacks; a difference without keys is that of a
+// whole section.
 struct Difference {
     const Section* InSection = nullptr;
     const Section* OldSection = nullptr;
@@ -32,7 +26,7 @@ struct Difference {
 };
 using Differences = std::vector<Difference>;
 
-// The keys of one name in their order, of which the first are compared already.
+// The keys of one name in their order; the first `NumTaken` of them have been compared.
 struct NamedKeys {
     std::vector<const SectionKey*> Keys;
     std::size_t NumTaken = 0;
@@ -40,11 +34,11 @@ struct NamedKeys {
     const SectionKey* Take() { return NumTaken < Keys.size() ? Keys[NumTaken++] : nullptr; }
 };
 
-std::unordered_map<std::string, NamedKeys> KeysByName(const Section& section) {
-    std::unordered_map<std::string, NamedKeys> keys;
+ByName<NamedKeys> KeysByName(const Section& section) {
+    ByName<NamedKeys> keys;
     for (const SectionKey& key : section.Keys()) {
         if (key.IsValid()) {
-            keys[LowerCase(*key.GetName())].Keys.push_back(&key);
+            keys[*key.GetName()].Keys.push_back(&key);
         }
     }
     return keys;
@@ -57,14 +51,15 @@ void CompareKeys(const Section& a, const Section& b, Differences& differences) {
         if (!key.IsValid()) {
             continue;
         }
-        const SectionKey* const other = others[LowerCase(*key.GetName())].Take();
+        const SectionKey* const other = others[*key.GetName()].Take();
         if (!other || other->GetValue() != key.GetValue()) {
             differences.push_back({&a, &a, &b, &key, other});
         }
     }
-    std::unordered_map<std::string, std::size_t> numSeen;
+    // Those that are left, in the order of the file.
+    ByName<std::size_t> numSeen;
     for (const SectionKey& key : b.Keys()) {
-        const std::string name = LowerCase(*key.GetName());
+        const std::string& name = *key.GetName();
         if (key.IsValid() && numSeen[name]++ >= others[name].NumTaken) {
             differences.push_back({&a, &a, &b, nullptr, &key});
         }
@@ -73,12 +68,12 @@ void CompareKeys(const Section& a, const Section& b, Differences& differences) {
 
 Differences Compare(const IniFile& a, const IniFile& b) {
     Differences differences;
-    std::unordered_map<std::string, const Section*> others;
+    ByName<const Section*> others;
     for (const Section& section : b.Sections()) {
-        others.emplace(LowerCase(*section.GetName()), &section);
+        others.emplace(*section.GetName(), &section);
     }
     for (const Section& section : a.Sections()) {
-        const auto other = others.find(LowerCase(*section.GetName()));
+        const auto other = others.find(*section.GetName());
         if (other == others.end()) {
             differences.push_back({&section, &section, nullptr, nullptr, nullptr});
         } else {
@@ -87,7 +82,7 @@ Differences Compare(const IniFile& a, const IniFile& b) {
         }
     }
     for (const Section& section : b.Sections()) {
-        if (others.contains(LowerCase(*section.GetName()))) {
+        if (others.contains(*section.GetName())) {
             differences.push_back({&section, nullptr, &section, nullptr, nullptr});
         }
     }

@@ -14,11 +14,6 @@ namespace HOST {
 
 namespace {
 
-[[noreturn]] void FailOption(std::string_view option, const std::string& text,
-                             std::string_view forms) {
-    Fail(std::string(option) + ": \"" + text + "\" is not " + std::string(forms));
-}
-
 unsigned long ParseColorWord(const std::string& text) {
     const std::optional<RGBColor> color = ParseColor(text);
     if (!color) {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "level.h"
 
-#include <marlin/base/math.h>
+#include "output/printable.h"
 #include <marlin/core/number_text.h>
 
-#include <algorithm>
 #include <cmath>
 
 namespace HOST {
@@ -24,9 +23,7 @@ double StoredLevel(double level) {
 }
 
 std::string LevelText(double level) {
-    std::string text;
-    MARLINSUITE::AppendFixed(text, level, std::min(GetDoublePrecision(level), decimals));
-    return text;
+    return PlainText(level, decimals);
 }
 
 bool ParseLevel(std::string_view text, double& level) {

@@ -11,6 +11,10 @@ void Fail(const std::string& message) {
     throw Failure(UNUSABLE, message);
 }
 
+void FailOption(std::string_view option, const std::string& value, std::string_view forms) {
+    Fail(std::string(option) + ": \"" + value + "\" is not " + std::string(forms));
+}
+
 void Refuse(const std::string& message) {
     throw Failure(FOUND, message);
 }

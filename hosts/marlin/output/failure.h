@@ -5,6 +5,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace HOST {
 
@@ -32,6 +33,9 @@ private:
 
 /// Throws `UNUSABLE`.
 [[noreturn]] void Fail(const std::string& message);
+/// Throws `UNUSABLE` for the value of an option; `forms` are the values that it takes.
+[[noreturn]] void FailOption(std::string_view option, const std::string& value,
+                             std::string_view forms);
 /// Throws `FOUND`.
 [[noreturn]] void Refuse(const std::string& message);
 /// Throws `UNUSABLE` unless the outcome is a success.

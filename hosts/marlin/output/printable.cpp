@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "printable.h"
 
+#include <marlin/base/math.h>
 #include <marlin/core/number_text.h>
 #include <marlin/platform/text/code_page.h>
+
+#include <algorithm>
 
 namespace HOST {
 
@@ -58,6 +61,17 @@ std::string NumberText(float value) {
     std::string text;
     MARLINSUITE::AppendShortest(text, value);
     return text;
+}
+
+std::string PlainText(double value, int decimals) {
+    // Beyond its own decimals a large number would show digits that nobody wrote.
+    std::string text;
+    MARLINSUITE::AppendFixed(text, value, std::min(GetDoublePrecision(value), decimals));
+    if (text.find('.') != std::string::npos) {
+        text.erase(text.find_last_not_of('0') + 1);
+        text.erase(text.find_last_not_of('.') + 1);
+    }
+    return text == "-0" ? "0" : text;
 }
 
 std::string CountText(std::size_t count, std::string_view unit) {

@@ -18,6 +18,8 @@ namespace HOST {
 /// The shortest text that reads back to the same value.
 [[nodiscard]] std::string NumberText(double value);
 [[nodiscard]] std::string NumberText(float value);
+/// Plain decimals, at most so many, without zeros at the end and without a negative zero.
+[[nodiscard]] std::string PlainText(double value, int decimals);
 /// "1 level", "2 levels".
 [[nodiscard]] std::string CountText(std::size_t count, std::string_view unit);
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "measurement.h"
 
-#include <marlin/core/number_text.h>
 #include <marlin/platform/text/code_page.h>
 
 #include <cmath>
@@ -52,13 +51,7 @@ void Measurement::Append(const char* name, Json measured, Output& output) const 
 }
 
 std::string LengthText(double length) {
-    std::string text;
-    MARLINSUITE::AppendFixed(text, length, 3);
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.ends_with('.')) {
-        text.pop_back();
-    }
-    return text == "-0" ? "0" : text;
+    return PlainText(length, 3);
 }
 
 std::string CornersText(const TextRectComp::Rect& rect) {

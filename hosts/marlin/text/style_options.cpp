@@ -19,11 +19,6 @@ constexpr std::array<std::string_view, 12> justifications = {
     "middle-center", "baseline-left", "baseline-center", "baseline-right",
 };
 
-[[noreturn]] void FailOption(std::string_view option, const std::string& text,
-                             std::string_view forms) {
-    Fail(std::string(option) + ": \"" + text + "\" is not " + std::string(forms));
-}
-
 template <class NUMBER>
 bool ParseFinite(const std::string& text, NUMBER& number) {
     return MARLINSUITE::ParseWhole(text, number) && std::isfinite(number);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "command_line.h"
-#include "output.h"
+#include "output/output.h"
 
 #include <exception>
 

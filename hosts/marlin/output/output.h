@@ -13,7 +13,6 @@ namespace HOST {
 struct Output {
     std::string Text;        ///< UTF-8.
     bool HasColors = false;  ///< For a terminal.
-    bool Json = false;       ///< For a program.
 };
 
 /// Writes "marlin: message" to standard error.

@@ -22,8 +22,8 @@ struct ShownField {
 /// A record that a section holds.
 struct Record {
     std::string Kind;
-    std::string
-        Name;  ///< The prefix or the key that holds the record; empty for the whole section.
+    /// The prefix or the key that holds the record; empty for the whole section.
+    std::string Name;
     std::vector<ShownField> Fields;
 };
 

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "input/ignoring_case.h"
 #include "record.h"
 #include <marlin/contours/record_kinds.h>
-#include <marlin/core/ascii.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <span>
-#include <unordered_map>
+#include <string_view>
 
 namespace HOST {
 
@@ -24,18 +23,17 @@ struct Prefixed {
 
 std::vector<Prefixed> PrefixesOf(const Section& section) {
     std::vector<Prefixed> prefixes;
-    std::unordered_map<std::string, std::size_t> places;
+    ByName<std::size_t> places;
     for (const SectionKey& key : section.Keys()) {
         const std::string& name = key.GetName();
         const auto dot = name.rfind('.');
         if (dot == std::string::npos || dot == 0) {
             continue;
         }
-        std::string lower = name.substr(0, dot);
-        std::ranges::transform(lower, lower.begin(), PLATFORM::ToLower);
-        const auto [place, isNew] = places.try_emplace(std::move(lower), prefixes.size());
+        const std::string_view prefix = std::string_view(name).substr(0, dot);
+        const auto [place, isNew] = places.try_emplace(prefix, prefixes.size());
         if (isNew) {
-            prefixes.push_back({name.substr(0, dot)});
+            prefixes.push_back({std::string(prefix)});
         }
         prefixes[place->second].Keys.AddKey(key);
     }

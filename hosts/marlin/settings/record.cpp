@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "record.h"
 
+#include "output/printable.h"
 #include <marlin/color/dxf_color.h>
-#include <marlin/core/number_text.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -18,19 +18,17 @@ using MARLINSUITE::RecordField;
 using MARLINSUITE::RecordKey;
 
 std::string ValueText(const MARLINSUITE::RecordValue& value) {
-    const auto textOf = [](const auto& typed) {
+    const auto textOf = [](const auto& typed) -> std::string {
         using Type = std::decay_t<decltype(typed)>;
-        std::string text;
         if constexpr (std::is_same_v<Type, std::string>) {
-            text = typed;
+            return typed;
         } else if constexpr (std::is_same_v<Type, bool>) {
-            text = typed ? "yes" : "no";
-        } else if constexpr (std::is_same_v<Type, int>) {
-            MARLINSUITE::AppendNumber(text, typed);
-        } else if constexpr (std::is_floating_point_v<Type>) {
-            MARLINSUITE::AppendShortest(text, typed);
+            return typed ? "yes" : "no";
+        } else if constexpr (std::is_arithmetic_v<Type>) {
+            return NumberText(typed);
+        } else {
+            return "";  // colors are shown by themselves
         }
-        return text;  // colors are shown by themselves
     };
     return std::visit(textOf, value);
 }
@@ -41,9 +39,8 @@ std::string MeaningOf(const RecordField& field) {
         if constexpr (std::is_arithmetic_v<Type>) {
             return key.MeaningOf(static_cast<double>(typed));
         } else if constexpr (std::is_same_v<Type, RGBColor>) {
-            std::string meaning = key.Meaning + std::string(", palette index ");
-            MARLINSUITE::AppendNumber(meaning, DXFColor(typed).Index());
-            return meaning;
+            return key.Meaning + std::string(", palette index ") +
+                   NumberText(DXFColor(typed).Index());
         } else {
             return key.Meaning;
         }

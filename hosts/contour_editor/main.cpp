@@ -2,7 +2,7 @@
 // The contour editor as a program of its own.
 #include <marlin/base/error_string.h>
 #include <marlin/contours/dialogs/contour_editor.h>
-#include <marlin/platform/windowing/window_messages.h>
+#include <marlin/platform/windowing/windowing_constants.h>
 #include <marlin/qt/window_system.h>
 #include <marlin/settings/ini_file.h>
 

@@ -19,10 +19,11 @@ TEST_P(ContourEditorTest, OpensWithoutFileNameEmptyAndUntitled) {
         EXPECT_EQ(screen.Rows(), Texts());
         const Texts headings = {"Color Level", "Annotation", "Width", "Type"};
         const int widths[] = {70, 50, 50, 50};
+        ASSERT_EQ(screen.List().ColumnCount(), 4);
         for (int column = 0; column < 4; ++column) {
-            EXPECT_EQ(std::string(screen.System().Heading(screen.List(), column)),
+            EXPECT_EQ(std::string(screen.List().Heading(column)),
                       headings[static_cast<size_t>(column)]);
-            EXPECT_EQ(screen.System().ColumnWidth(screen.List(), column), widths[column]);
+            EXPECT_EQ(screen.List().ColumnWidth(column), widths[column]);
         }
     });
 }

@@ -3,20 +3,9 @@
 #include <marlin/contours/dialogs/contour_generation_dlg.h>
 #include <marlin/platform/windowing/c_file_dialog.h>
 
-#include <cstdlib>
-
 namespace {
 
-class ContourGenerationTest : public EditorTest {
-protected:
-    ContourGenerationTest() {
-        std::filesystem::create_directory(m_Data.File("contours"));
-        ::setenv("MARLIN_DATA_DIR", m_Data.File("").c_str(), 1);
-    }
-    ~ContourGenerationTest() override { ::unsetenv("MARLIN_DATA_DIR"); }
-
-    const TemporaryFolder m_Data;
-};
+class ContourGenerationTest : public EditorTest {};
 
 constexpr const char* failed = "Error: Failed to generate contours.";
 

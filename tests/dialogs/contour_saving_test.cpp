@@ -2,21 +2,11 @@
 #include "editor_test.h"
 #include <marlin/platform/windowing/c_file_dialog.h>
 
-#include <cstdlib>
 #include <filesystem>
 
 namespace {
 
-class ContourSavingTest : public EditorTest {
-protected:
-    ContourSavingTest() {
-        std::filesystem::create_directory(m_Data.File("contours"));
-        ::setenv("MARLIN_DATA_DIR", m_Data.File("").c_str(), 1);
-    }
-    ~ContourSavingTest() override { ::unsetenv("MARLIN_DATA_DIR"); }
-
-    const TemporaryFolder m_Data;
-};
+class ContourSavingTest : public EditorTest {};
 
 TEST_P(ContourSavingTest, ReachesTheDiskWithOkAndNotBefore) {
     const int result = EditThree([this](Screen& screen) {

@@ -14,7 +14,7 @@ using namespace MARLINSUITE;
 using PLATFORM::DialogUser;
 using Texts = std::vector<std::string>;
 
-/// What a person sees of a running dialog, and does in it.
+/// A running dialog as a person sees it, and that person.
 class Screen {
 public:
     Screen(Stage& stage, DialogUser& user) : m_Stage(stage), User(user) {}
@@ -30,43 +30,45 @@ public:
         return System().Focus(User.Dialog()) == Window(id);
     }
 
-    /// The rows of the list, the cells of each with "|" between them.
+    /// The rows of the contour list, the cells of each with "|" between them.
     [[nodiscard]] Texts Rows() const {
-        Texts rows;
-        for (int row = 0; row < System().RowCount(List()); ++row) {
-            std::string cells;
-            for (int column = 0; column < 4; ++column) {
-                cells += (column ? "|" : "") + std::string(System().Cell(List(), row, column));
+        Texts rows = Column(0);
+        for (int row = 0; row < List().RowCount(); ++row) {
+            for (int column = 1; column < List().ColumnCount(); ++column) {
+                rows[static_cast<size_t>(row)] += "|" + std::string(List().Cell(row, column));
             }
-            rows.push_back(cells);
         }
         return rows;
     }
-    /// The cells of one column.
     [[nodiscard]] Texts Column(int column) const {
         Texts cells;
-        for (int row = 0; row < System().RowCount(List()); ++row) {
-            cells.emplace_back(System().Cell(List(), row, column));
+        for (int row = 0; row < List().RowCount(); ++row) {
+            cells.emplace_back(List().Cell(row, column));
         }
         return cells;
     }
     [[nodiscard]] std::vector<int> SelectedRows() const {
         std::vector<int> rows;
-        for (int row = 0; row < System().RowCount(List()); ++row) {
-            if (System().IsSelected(List(), row)) {
+        for (int row = 0; row < List().RowCount(); ++row) {
+            if (List().IsSelected(row)) {
                 rows.push_back(row);
             }
         }
         return rows;
     }
-    /// Whether the row is the one shown as the place where the user is.
+    /// True when the row alone is selected, is where the keyboard is, and is in view.
     [[nodiscard]] bool IsThePlace(int row) const {
-        return SelectedRows() == std::vector{row} && System().FocusedRow(List()) == row &&
-               System().SelectionMark(List()) == row && HasFocus(CONTROL_CONTOUR_LIST) &&
-               m_Stage.IsInView(List(), row);
+        return SelectedRows() == std::vector{row} && List().FocusedRow() == row &&
+               List().SelectionMark() == row && HasFocus(CONTROL_CONTOUR_LIST) &&
+               m_Stage.IsInView(Window(CONTROL_CONTOUR_LIST), row);
     }
-    [[nodiscard]] COLORREF Swatch(int row) const { return m_Stage.SwatchPixel(List(), row, 8, 8); }
-    [[nodiscard]] HWND List() const { return Window(CONTROL_CONTOUR_LIST); }
+    /// A pixel in the middle of a row's swatch.
+    [[nodiscard]] COLORREF Swatch(int row) const {
+        return m_Stage.SwatchPixel(Window(CONTROL_CONTOUR_LIST), row, 8, 8);
+    }
+    [[nodiscard]] PLATFORM::ReportList& List() const {
+        return *System().FindList(Window(CONTROL_CONTOUR_LIST));
+    }
     [[nodiscard]] PLATFORM::WindowSystem& System() const { return m_Stage.System(); }
 
 private:
@@ -90,7 +92,7 @@ protected:
     }
 
     [[nodiscard]] PLATFORM::UserScript& Script() const { return m_Stage->Script(); }
-    /// What is done in the next dialog that is shown.
+    /// Acts in the next dialog that is shown.
     void InDialog(const Act& act) const {
         Script().InDialog([this, act](DialogUser& user) {
             Screen screen(*m_Stage, user);

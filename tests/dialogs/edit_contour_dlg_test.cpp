@@ -15,6 +15,10 @@ protected:
         return m_Dialog.Definition();
     }
 
+    static PLATFORM::DropDownList& LineStyles(const Screen& screen) {
+        return *screen.System().FindDropDown(screen.Window(CONTROL_LINE_STYLE));
+    }
+
     CEditContourDlg m_Dialog;
     int m_Result = 0;
 };
@@ -25,7 +29,7 @@ TEST_P(EditContourDlgTest, ShowsTheDefinition) {
         EXPECT_EQ(screen.Text(CONTROL_LEVEL), "10.12");
         EXPECT_TRUE(screen.IsEnabled(CONTROL_LEVEL));
         EXPECT_EQ(screen.Text(CONTROL_LINE_WIDTH), "2.5");
-        EXPECT_EQ(screen.System().CurrentItem(screen.Window(CONTROL_LINE_STYLE)), 1);
+        EXPECT_EQ(LineStyles(screen).CurrentItem(), 1);
         EXPECT_TRUE(screen.System().IsChecked(screen.Window(CONTROL_SHOW_LABELS)));
         EXPECT_EQ(screen.Text(CONTROL_COLOR), "Click to Change");
         EXPECT_EQ(m_Stage->FacePixel(screen.Window(CONTROL_COLOR), 2, 2), 0x203040U);
@@ -34,11 +38,11 @@ TEST_P(EditContourDlgTest, ShowsTheDefinition) {
 
 TEST_P(EditContourDlgTest, OffersTheThreeLineStyles) {
     Show({}, [](Screen& screen) {
-        const HWND combo = screen.Window(CONTROL_LINE_STYLE);
-        ASSERT_EQ(screen.System().ItemCount(combo), 3);
-        EXPECT_EQ(std::string(screen.System().ItemText(combo, 0)), "CONTINUOUS");
-        EXPECT_EQ(std::string(screen.System().ItemText(combo, 1)), "DASHED");
-        EXPECT_EQ(std::string(screen.System().ItemText(combo, 2)), "DOTTED");
+        const char* const styles[] = {"CONTINUOUS", "DASHED", "DOTTED"};
+        ASSERT_EQ(LineStyles(screen).ItemCount(), 3);
+        for (int style = 0; style < 3; ++style) {
+            EXPECT_EQ(std::string(LineStyles(screen).ItemText(style)), styles[style]);
+        }
         EXPECT_FALSE(screen.System().IsChecked(screen.Window(CONTROL_SHOW_LABELS)));
     });
 }

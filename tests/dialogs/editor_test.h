@@ -6,14 +6,21 @@
 #include <marlin/contours/contour_definition_list.h>
 #include <marlin/contours/dialogs/contour_editor.h>
 
-#include <optional>
+#include <cstdlib>
+#include <filesystem>
 
-/// An editor opened on a file, and what is done in it.
+/// An editor opened on a file, with a data folder of its own.
 class EditorTest : public DialogTest {
 protected:
     using Definition = ContourDefinitionList::ContourDefInfo;
 
-    /// Writes the definitions and opens the editor on them; how it ended.
+    EditorTest() {
+        std::filesystem::create_directory(m_Data.File("contours"));
+        ::setenv("MARLIN_DATA_DIR", m_Data.File("").c_str(), 1);
+    }
+    ~EditorTest() override { ::unsetenv("MARLIN_DATA_DIR"); }
+
+    /// Opens the editor on a file with these definitions; returns how it ended.
     int Edit(const std::vector<Definition>& definitions, const Act& act) {
         m_Path = m_Folder.File("sheet.cdf");
         ContourDefinitionList list;
@@ -78,6 +85,7 @@ protected:
         return texts;
     }
 
+    const TemporaryFolder m_Data;
     const TemporaryFolder m_Folder;
     std::string m_Path;
 };

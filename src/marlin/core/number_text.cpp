@@ -190,8 +190,8 @@ void AppendShortest(std::string& text, double value) {
     AppendChars(text, value);
 }
 
-void AppendGeneral(std::string& text, double value) {
-    AppendChars(text, value, std::chars_format::general, 6);
+void AppendGeneral(std::string& text, double value, int digits) {
+    AppendChars(text, value, std::chars_format::general, digits);
 }
 
 }  // namespace MARLINSUITE

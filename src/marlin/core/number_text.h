@@ -41,7 +41,7 @@ MARLIN_API void AppendFixed(std::string& text, double value, int decimals);
 /// Appends the shortest text that reads back to the same value.
 MARLIN_API void AppendShortest(std::string& text, float value);
 MARLIN_API void AppendShortest(std::string& text, double value);
-/// Appends general notation with six significant digits, as a stream in its default state.
-MARLIN_API void AppendGeneral(std::string& text, double value);
+/// Appends general notation with that many significant digits, 1 to 17, as a stream does.
+MARLIN_API void AppendGeneral(std::string& text, double value, int digits = 6);
 
 }  // namespace MARLINSUITE

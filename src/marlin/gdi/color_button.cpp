@@ -30,7 +30,8 @@ void ColorButton::DrawItem(DRAWITEMSTRUCT* draw) {
     if (!dc || (draw->itemAction & ODA_DRAWENTIRE) == 0) {
         return;
     }
-    const unsigned long inverse = ~m_Color & everyColorBit;  // 255 less each component
+    // 255 less each component.
+    const unsigned long inverse = ~m_Color & everyColorBit;
     CBrush face(m_Color);
     CBrush frame(inverse);
     dc->FillRect(&draw->rcItem, &face);

@@ -4,7 +4,8 @@
 #include <marlin/platform/drawing/drawing_constants.h>
 #include <marlin/platform/fonts/fonts.h>
 
-static_assert(sizeof(long) == sizeof(void*), "the argument of an enumeration holds an address");
+// The framework's callback takes a long, which has to hold the address of the control.
+static_assert(sizeof(long) == sizeof(void*));
 
 BEGIN_MESSAGE_MAP(FontCombo, CComboBox)
 END_MESSAGE_MAP()

@@ -4,13 +4,13 @@
 #include <marlin/platform/fonts/font_types.h>
 #include <marlin/platform/windowing/c_combo_box.h>
 
-/// A drop-down list of the installed outline font faces.
+/// A drop-down list of the installed outline font faces. Empty until it is filled.
 class MARLIN_API FontCombo : public CComboBox {
 public:
     FontCombo() noexcept = default;
     ~FontCombo() override;
 
-    /// Appends every face; a second call lists each twice. Nothing happens without a window.
+    /// Appends every face, so a second call lists each twice. Does nothing without a control.
     void FillCombo();
 
 protected:

@@ -1,15 +1,32 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/qt/detail/application.h>
+#include <marlin/qt/detail/boxes.h>
+#include <marlin/qt/detail/dialog_window.h>
+#include <marlin/qt/detail/drop_down_widget.h>
 #include <marlin/qt/detail/form_layout.h>
+#include <marlin/qt/detail/list_widget.h>
+#include <marlin/qt/detail/make.h>
 #include <marlin/qt/detail/owner_button.h>
 #include <marlin/qt/detail/qt_text.h>
-#include <marlin/qt/detail/state.h>
+#include <marlin/qt/detail/spin_arrows.h>
 #include <marlin/qt/detail/widgets.h>
+#include <marlin/qt/window_system.h>
 
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QWindow>
+#include <algorithm>
+#include <unordered_map>
 
 namespace PLATFORM {
+
+using namespace detail;
+
+struct QtWindowSystem::State {
+    std::unordered_map<HWND, std::unique_ptr<DialogWindow>> Dialogs;
+    std::unordered_map<HWND, QWidget*> Widgets;  ///< Dialogs and controls.
+};
 
 namespace {
 
@@ -32,6 +49,11 @@ QWidget* QtWindowSystem::Widget(HWND window) const noexcept {
     return found == m_State->Widgets.end() ? nullptr : found->second;
 }
 
+template <typename Kind>
+Kind* QtWindowSystem::Find(HWND window) const noexcept {
+    return dynamic_cast<Kind*>(Widget(window));
+}
+
 bool QtWindowSystem::CreateDialog(HWND dialog, const DialogTemplate& form,
                                   std::span<const HWND> controls, HWND parent) {
     auto window = std::make_unique<DialogWindow>(dialog);
@@ -39,15 +61,11 @@ bool QtWindowSystem::CreateDialog(HWND dialog, const DialogTemplate& form,
     const std::vector<QWidget*> widgets = MakeWidgets(form, controls, *window);
     LayOut(form, widgets, *window);
     PutAbove(*window, Widget(parent));
-    m_State->Widgets[dialog] = window.get();
     for (std::size_t i = 0; i < controls.size(); ++i) {
         m_State->Widgets[controls[i]] = widgets[i];
-        m_State->Handles[widgets[i]] = controls[i];
-        if (form.Controls[i].Sorted) {
-            m_State->Sorted[controls[i]] = true;
-        }
     }
-    m_State->Dialogs[dialog] = {std::move(window), {controls.begin(), controls.end()}};
+    m_State->Widgets[dialog] = window.get();
+    m_State->Dialogs[dialog] = std::move(window);
     return true;
 }
 
@@ -67,14 +85,10 @@ void QtWindowSystem::DestroyDialog(HWND dialog) {
     if (found == m_State->Dialogs.end()) {
         return;
     }
-    for (const HWND control : found->second.Controls) {
-        m_State->Handles.erase(Widget(control));
-        m_State->Widgets.erase(control);
-        m_State->Sorted.erase(control);
-    }
-    m_State->Widgets.erase(dialog);
-    const auto window = std::move(found->second.Window);
+    const auto window = std::move(found->second);
     m_State->Dialogs.erase(found);
+    std::erase_if(m_State->Widgets,
+                  [&window](const auto& entry) { return entry.second->window() == window.get(); });
 }
 
 CString QtWindowSystem::Text(HWND window) const {
@@ -105,8 +119,8 @@ void QtWindowSystem::SetText(HWND window, const CString& text) {
     }
 }
 
-bool QtWindowSystem::IsEnabled(HWND control) const {
-    const QWidget* const widget = Widget(control);
+bool QtWindowSystem::IsEnabled(HWND window) const {
+    const QWidget* const widget = Widget(window);
     return widget && widget->isEnabledTo(widget->parentWidget());
 }
 
@@ -117,25 +131,74 @@ void QtWindowSystem::Enable(HWND control, bool enable) {
 }
 
 void QtWindowSystem::SetFocus(HWND control) {
-    if (QWidget* const widget = Widget(control)) {
-        widget->setFocus();
-        if (auto* const edit = qobject_cast<QLineEdit*>(widget)) {
-            edit->selectAll();
-        }
+    QWidget* const widget = Widget(control);
+    if (!widget) {
+        return;
+    }
+    widget->setFocus();
+    if (auto* const edit = qobject_cast<QLineEdit*>(widget)) {
+        edit->selectAll();
     }
 }
 
 HWND QtWindowSystem::Focus(HWND dialog) const {
     const QWidget* const window = Widget(dialog);
     const QWidget* const focus = window ? window->focusWidget() : nullptr;
-    const auto found = m_State->Handles.find(focus);
-    return found == m_State->Handles.end() ? nullptr : found->second;
+    const auto isFocus = [focus](const auto& entry) { return entry.second == focus; };
+    const auto found = std::ranges::find_if(m_State->Widgets, isFocus);
+    return found == m_State->Widgets.end() ? nullptr : found->first;
 }
 
 void QtWindowSystem::Invalidate(HWND control) {
     if (auto* const button = Find<OwnerButton>(control)) {
-        button->DrawAnew();
+        button->DrawAgain();
     }
 }
 
+bool QtWindowSystem::IsChecked(HWND box) const {
+    const auto* const found = Find<QCheckBox>(box);
+    return found && found->isChecked();
+}
+
+void QtWindowSystem::SetChecked(HWND box, bool checked) {
+    if (auto* const found = Find<QCheckBox>(box)) {
+        found->setChecked(checked);
+    }
+}
+
+void QtWindowSystem::SetRange(HWND spin, const SpinRange& range) {
+    if (auto* const found = Find<SpinArrows>(spin)) {
+        found->SetRange(range);
+    }
+}
+
+DropDownList* QtWindowSystem::FindDropDown(HWND window) const {
+    return Find<DropDownWidget>(window);
+}
+
+ReportList* QtWindowSystem::FindList(HWND window) const {
+    return Find<ListWidget>(window);
+}
+
+int QtWindowSystem::ShowMessage(HWND parent, const MessageRequest& request) {
+    return detail::ShowMessage(Widget(parent), request);
+}
+
+bool QtWindowSystem::ChooseFile(HWND parent, const FileRequest& request, CString& path) {
+    return detail::ChooseFile(Widget(parent), request, path);
+}
+
+bool QtWindowSystem::ChooseColor(HWND parent, const ColorRequest& request, COLORREF& color) {
+    return detail::ChooseColor(Widget(parent), request, color);
+}
+
 }  // namespace PLATFORM
+
+bool MARLINSUITE::UseQtWindows() {
+    if (!PLATFORM::detail::HaveApplication()) {
+        return false;
+    }
+    static auto* const windows = PLATFORM::detail::MakeForever<PLATFORM::QtWindowSystem>();
+    PLATFORM::WindowSystem::SetCurrent(windows);
+    return true;
+}

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/windowing/dialog_template.h>
-#include <marlin/platform/windowing/window_messages.h>
+#include <marlin/platform/windowing/windowing_constants.h>
 #include <marlin/resources/dialogs.h>
 
 #include <array>

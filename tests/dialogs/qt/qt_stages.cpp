@@ -19,7 +19,7 @@ public:
     PLATFORM::UserScript& Script() override { return m_Windows.Script(); }
 
     COLORREF FacePixel(HWND button, int x, int y) override {
-        return PLATFORM::ColorOf(Button(button).Face().pixelColor(x, y));
+        return PLATFORM::detail::ColorOf(Button(button).Face().pixelColor(x, y));
     }
     SIZE FaceSize(HWND button) override {
         const QSize size = Button(button).Face().size();
@@ -28,7 +28,7 @@ public:
     COLORREF SwatchPixel(HWND list, int row, int x, int y) override {
         const QIcon icon = List(list).topLevelItem(row)->icon(0);
         const QColor color = icon.pixmap(16, 16).toImage().pixelColor(x, y);
-        return color.alpha() == 0 ? CLR_INVALID : PLATFORM::ColorOf(color);
+        return color.alpha() == 0 ? CLR_INVALID : PLATFORM::detail::ColorOf(color);
     }
     bool IsInView(HWND list, int row) override {
         const auto& shown = List(list);
@@ -36,11 +36,11 @@ public:
     }
 
 private:
-    PLATFORM::OwnerButton& Button(HWND button) {
-        return dynamic_cast<PLATFORM::OwnerButton&>(*m_Windows.Widget(button));
+    PLATFORM::detail::OwnerButton& Button(HWND button) {
+        return dynamic_cast<PLATFORM::detail::OwnerButton&>(*m_Windows.Widget(button));
     }
-    PLATFORM::ListWidget& List(HWND list) {
-        return dynamic_cast<PLATFORM::ListWidget&>(*m_Windows.Widget(list));
+    PLATFORM::detail::ListWidget& List(HWND list) {
+        return dynamic_cast<PLATFORM::detail::ListWidget&>(*m_Windows.Widget(list));
     }
 
     ScriptedWindows m_Windows;

@@ -2,7 +2,7 @@
 #include "qt_user.h"
 
 #include <marlin/platform/windowing/c_wnd.h>
-#include <marlin/platform/windowing/window_messages.h>
+#include <marlin/platform/windowing/windowing_constants.h>
 #include <marlin/qt/detail/spin_arrows.h>
 
 #include <QApplication>
@@ -89,7 +89,7 @@ bool QtUser::Type(int edit, const CString& text) {
 }
 
 bool QtUser::Spin(int spin, int steps) {
-    auto* const arrows = Reach<PLATFORM::SpinArrows>(spin);
+    auto* const arrows = Reach<PLATFORM::detail::SpinArrows>(spin);
     for (int i = 0; arrows && i < std::abs(steps); ++i) {
         QTest::mouseClick(arrows->Arrow(steps > 0), Qt::LeftButton);
     }

@@ -2,7 +2,7 @@
 #include "scripted_windows.h"
 
 #include "qt_user.h"
-#include <marlin/platform/windowing/window_messages.h>
+#include <marlin/platform/windowing/windowing_constants.h>
 #include <marlin/qt/detail/qt_text.h>
 
 #include <QApplication>
@@ -49,7 +49,7 @@ int ScriptedWindows::RunDialog(HWND dialog) {
 int ScriptedWindows::ShowMessage(HWND parent, const PLATFORM::MessageRequest& request) {
     const int button = m_Script.NextMessage(request);
     InNext<QMessageBox>([&](QMessageBox& box) {
-        EXPECT_EQ(box.text(), PLATFORM::QtText(request.Text.View()));
+        EXPECT_EQ(box.text(), PLATFORM::detail::QtText(request.Text.View()));
         QTest::mouseClick(box.button(ButtonOf(button)), Qt::LeftButton);
     });
     const int result = QtWindowSystem::ShowMessage(parent, request);
@@ -65,7 +65,7 @@ bool ScriptedWindows::ChooseFile(HWND parent, const PLATFORM::FileRequest& reque
             return;
         }
         auto* const name = box.findChild<QLineEdit*>("fileNameEdit");
-        name->setText(PLATFORM::QtPath(*chosen));
+        name->setText(PLATFORM::detail::QtPath(*chosen));
         QTest::keyClick(name, Qt::Key_Return);
     });
     return QtWindowSystem::ChooseFile(parent, request, path);
@@ -75,12 +75,12 @@ bool ScriptedWindows::ChooseColor(HWND parent, const PLATFORM::ColorRequest& req
                                   COLORREF& color) {
     const std::optional<COLORREF> chosen = m_Script.NextColor(request);
     InNext<QColorDialog>([&](QColorDialog& box) {
-        EXPECT_EQ(PLATFORM::ColorOf(box.currentColor()), request.Color);
+        EXPECT_EQ(PLATFORM::detail::ColorOf(box.currentColor()), request.Color);
         if (!chosen) {
             QTest::keyClick(&box, Qt::Key_Escape);
             return;
         }
-        box.setCurrentColor(PLATFORM::QtColor(*chosen));
+        box.setCurrentColor(PLATFORM::detail::QtColor(*chosen));
         QTest::keyClick(&box, Qt::Key_Return);
     });
     return QtWindowSystem::ChooseColor(parent, request, color);

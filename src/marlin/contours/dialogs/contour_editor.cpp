@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/colors/color_table.h>
+#include <marlin/base/data_search.h>
 #include <marlin/base/files/file_name.h>
 #include <marlin/base/files/file_object.h>
 #include <marlin/base/help_provider.h>
 #include <marlin/contours/dialogs/contour_editor.h>
 #include <marlin/contours/dialogs/contour_generation_dlg.h>
+#include <marlin/contours/dialogs/detail/contour_rows.h>
 #include <marlin/platform/windowing/c_data_exchange.h>
 #include <marlin/platform/windowing/c_file_dialog.h>
 #include <marlin/resources/dialogs.h>
@@ -13,12 +15,15 @@
 #include <algorithm>
 
 using MARLINSUITE::MESSAGE;
+using MARLINSUITE::Message;
+using MARLINSUITE::detail::SelectedRows;
 using enum MARLINSUITE::DIALOG;
 using enum MARLINSUITE::CONTROL_ID;
 
 namespace {
 
 constexpr unsigned int readOnlySharedByAll = 0x20;
+constexpr unsigned int contourData = 4;
 
 }  // namespace
 
@@ -38,8 +43,6 @@ END_MESSAGE_MAP()
 CContourEditor::CContourEditor(CWnd* parent)
     : CDialog(DIALOG_CONTOURS, parent), m_Properties(this) {}
 
-CContourEditor::~CContourEditor() = default;
-
 void CContourEditor::DoDataExchange(CDataExchange* exchange) {
     CDialog::DoDataExchange(exchange);
     DDX_Control(exchange, CONTROL_CONTOUR_LIST, m_List);
@@ -47,7 +50,7 @@ void CContourEditor::DoDataExchange(CDataExchange* exchange) {
 
 BOOL CContourEditor::OnInitDialog() {
     const BOOL result = CDialog::OnInitDialog();
-    InsertColumns();
+    MARLINSUITE::detail::InsertContourColumns(m_List);
     if (m_FileName.IsEmpty()) {
         return result;
     }
@@ -58,6 +61,33 @@ BOOL CContourEditor::OnInitDialog() {
         UpdateContourList(0.0, false);
     }
     return result;
+}
+
+void CContourEditor::UpdateContourList(double level, bool select) {
+    MARLINSUITE::detail::ShowContours(m_Definitions, m_Images, m_List);
+    const int row = select ? MARLINSUITE::detail::RowOfLevel(m_List, level) : -1;
+    if (row >= 0) {
+        SelectCountourInList(row);
+    }
+    SetAddRemoveButtonState();
+}
+
+void CContourEditor::SelectCountourInList(int row) {
+    constexpr UINT states = LVIS_SELECTED | LVIS_FOCUSED;
+    m_List.EnsureVisible(row, false);
+    m_List.SetSelectionMark(row);
+    m_List.SetItemState(row, states, states);
+    m_List.SetFocus();
+}
+
+void CContourEditor::SetAddRemoveButtonState() {
+    const bool hasSelection = m_List.GetSelectedCount() > 0;
+    GetDlgItem(CONTROL_EDIT)->EnableWindow(hasSelection);
+    GetDlgItem(CONTROL_REMOVE)->EnableWindow(hasSelection);
+}
+
+int CContourEditor::DefinitionOfRow(int row) const noexcept {
+    return m_Definitions.NumContours() - 1 - row;
 }
 
 void CContourEditor::OnAddContour() {
@@ -74,7 +104,7 @@ void CContourEditor::OnAddContour() {
 }
 
 void CContourEditor::OnEditContour() {
-    const std::vector<int> rows = SelectedRows();
+    const std::vector<int> rows = SelectedRows(m_List);
     if (rows.empty()) {
         return;
     }
@@ -112,11 +142,11 @@ void CContourEditor::ApplyToRows(const ContourDefInfo& edited, const std::vector
 }
 
 void CContourEditor::OnRemoveContour() {
-    const std::vector<int> rows = SelectedRows();
-    std::vector<int> indices(rows.size());
-    std::ranges::transform(rows, indices.begin(), [this](int row) { return DefinitionOfRow(row); });
-    for (const int index : indices) {
-        m_Definitions.Remove(index);
+    const std::vector<int> rows = SelectedRows(m_List);
+    // Rows at the top are definitions at the end, so neither moves what is still to be removed.
+    const int last = DefinitionOfRow(0);
+    for (const int row : rows) {
+        m_Definitions.Remove(last - row);
     }
     std::for_each(rows.rbegin(), rows.rend(), [this](int row) { m_List.DeleteItem(row); });
     SelectCountourInList(rows.empty() ? 0 : rows.front());
@@ -136,6 +166,7 @@ void CContourEditor::OnGenerateFromColorTable() {
     if (!AskForFile("col", MESSAGE::COLOR_TABLE_FILES, OFN_HIDEREADONLY, path)) {
         return;
     }
+    // A file that cannot be read leaves the table empty, which is refused.
     FileObject file;
     ColorTable table;
     file.FileOpen(path, readOnlySharedByAll);
@@ -190,8 +221,7 @@ void CContourEditor::OnOK() {
         CDialog::OnOK();
         return;
     }
-    CString question;
-    question.LoadString(static_cast<unsigned int>(MESSAGE::SAVE_CHANGES));
+    const CString question(Message(MESSAGE::SAVE_CHANGES));
     if (MessageBox(question, nullptr, MB_YESNO | MB_ICONQUESTION) == IDYES) {
         SaveUnderChosenName();
         CDialog::OnOK();
@@ -203,4 +233,24 @@ void CContourEditor::SaveUnderChosenName() {
     if (AskForFile("cdf", MESSAGE::CONTOUR_FILES, OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, path)) {
         m_HasSaveFailed = !m_Definitions.Save(path);
     }
+}
+
+void CContourEditor::ShowError(MESSAGE message) {
+    MessageBox(CString(Message(message)), CString(Message(MESSAGE::ERROR_CAPTION)),
+               MB_OK | MB_ICONERROR);
+}
+
+bool CContourEditor::AskForFile(const char* extension, MESSAGE description, unsigned long flags,
+                                CString& path) {
+    const CString filter = CString(Message(description)) + "|*." + extension + "||";
+    CString folder;
+    DataSearch::GetDataSearch().GetFilePath(contourData, folder);
+    // Also asks for the name to save under, by the dialog for opening.
+    CFileDialog dialog(true, extension, nullptr, flags, filter, this);
+    dialog.m_ofn.lpstrInitialDir = folder;
+    if (dialog.DoModal() != IDOK) {
+        return false;
+    }
+    path = dialog.GetPathName();
+    return true;
 }

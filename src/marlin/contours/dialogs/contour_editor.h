@@ -10,25 +10,31 @@
 
 #include <vector>
 
-/// The editor of a contour definition file. It shows the definitions from the highest level
-/// down. Nothing reaches the disk before OK, which saves under the file name with the extension
-/// "cdf", or asks for a name where there is none. For one run.
+/// The editor of a contour definition file. It shows the definitions from the highest level down.
+/// Nothing reaches the disk before OK, which saves under the file name with the extension "cdf",
+/// or asks for a name where there is none. An object is for one run.
+/// @code
+/// CContourEditor editor;
+/// editor.FileName("harbour.cdf");
+/// if (editor.DoModal() == IDOK && editor.HasSaveFailed()) {
+///     std::puts(ErrorString::LastError().Text().c_str());
+/// }
+/// @endcode
 class MARLIN_API CContourEditor : public CDialog {
 public:
     explicit CContourEditor(CWnd* parent = nullptr);
-    ~CContourEditor() override;
 
     /// The file that is edited; empty for none.
     [[nodiscard]] const CString& FileName() const noexcept { return m_FileName; }
     void FileName(const CString& path) { m_FileName = path; }
 
-    /// What stood in the list when the editor was last changed.
+    /// The definitions as the user left them.
     [[nodiscard]] const ContourDefinitionList& Definitions() const noexcept {
         return m_Definitions;
     }
 
-    /// Whether OK could not save the list, which nothing tells the user. `ErrorString::LastError`
-    /// then has the cause.
+    /// True when OK could not save the list, of which the user sees nothing.
+    /// `ErrorString::LastError` then has the cause.
     [[nodiscard]] bool HasSaveFailed() const noexcept { return m_HasSaveFailed; }
 
 protected:
@@ -55,11 +61,6 @@ private:
     void SelectCountourInList(int row);
     void SetAddRemoveButtonState();
 
-    void InsertColumns();
-    void RebuildSwatches();
-    void InsertRow(int index);
-    void SelectLevel(double level);
-    [[nodiscard]] std::vector<int> SelectedRows() const;
     [[nodiscard]] int DefinitionOfRow(int row) const noexcept;
     [[nodiscard]] bool MovesOntoAnother(const ContourDefInfo& edited, int index) const noexcept;
     void ApplyToRows(const ContourDefInfo& edited, const std::vector<int>& rows);

@@ -14,8 +14,6 @@ END_MESSAGE_MAP()
 CContourGenerationDlg::CContourGenerationDlg(CWnd* parent)
     : CDialog(DIALOG_GENERATE_CONTOURS, parent) {}
 
-CContourGenerationDlg::~CContourGenerationDlg() = default;
-
 void CContourGenerationDlg::DoDataExchange(CDataExchange* exchange) {
     CDialog::DoDataExchange(exchange);
     DDX_Text(exchange, CONTROL_HIGHEST_LEVEL, m_HighestLevel);

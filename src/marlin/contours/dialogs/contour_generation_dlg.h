@@ -3,12 +3,11 @@
 
 #include <marlin/platform/windowing/c_dialog.h>
 
-/// Asks for the range of levels to generate contours in. All values are 0 at first, and nothing
-/// is checked but that they are numbers.
+/// Asks for a range of levels to generate contours in. All values are 0 at first; any numbers are
+/// taken.
 class MARLIN_API CContourGenerationDlg : public CDialog {
 public:
     explicit CContourGenerationDlg(CWnd* parent = nullptr);
-    ~CContourGenerationDlg() override;
 
     [[nodiscard]] double HighestLevel() const noexcept { return m_HighestLevel; }
     [[nodiscard]] double LowestLevel() const noexcept { return m_LowestLevel; }

@@ -5,8 +5,8 @@
 #include <marlin/platform/windowing/c_data_exchange.h>
 #include <marlin/resources/dialogs.h>
 
-using MARLINSUITE::FixedNumber;
-using MARLINSUITE::LevelDecimals;
+using MARLINSUITE::detail::FixedNumber;
+using MARLINSUITE::detail::LevelDecimals;
 using enum MARLINSUITE::DIALOG;
 using enum MARLINSUITE::CONTROL_ID;
 
@@ -23,9 +23,8 @@ END_MESSAGE_MAP()
 
 CEditContourDlg::CEditContourDlg(CWnd* parent) : CDialog(DIALOG_CONTOUR_PROPERTIES, parent) {}
 
-CEditContourDlg::~CEditContourDlg() = default;
-
 void CEditContourDlg::ExchangeLevel(CDataExchange& exchange) {
+    // Shown with two decimals, and read back from them even when nothing was typed.
     if (exchange.m_bSaveAndValidate) {
         DDX_Text(&exchange, CONTROL_LEVEL, m_Definition.Level);
     } else {
@@ -35,6 +34,7 @@ void CEditContourDlg::ExchangeLevel(CDataExchange& exchange) {
 }
 
 void CEditContourDlg::ExchangeColor(const CDataExchange& exchange) {
+    // The button has no text that could be refused, but others may have been.
     if (exchange.HasFailed()) {
         return;
     }

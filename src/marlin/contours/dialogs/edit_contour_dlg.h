@@ -6,21 +6,28 @@
 #include <marlin/platform/windowing/c_dialog.h>
 #include <marlin/platform/windowing/c_spin_button_ctrl.h>
 
-/// Shows the properties of one contour definition, or of several that keep their levels. It may
-/// be run again and again, and begins with a blank definition.
+/// Edits the properties of one contour definition, or of several that keep their levels. The
+/// object may be run again and again, and starts with a blank definition.
+/// @code
+/// CEditContourDlg dialog;
+/// dialog.SetDefinition({0.5F, 1, 20.0, 0x0000FF, true});
+/// if (dialog.DoModal() == IDOK) {
+///     ContourDefinitionList list;
+///     list.Add(dialog.Definition());
+/// }
+/// @endcode
 class MARLIN_API CEditContourDlg : public CDialog {
 public:
     explicit CEditContourDlg(CWnd* parent = nullptr);
-    ~CEditContourDlg() override;
 
-    /// Its level has the two decimals of its text once the dialog was confirmed.
+    /// After the dialog was confirmed, its level has the two decimals that were shown.
     [[nodiscard]] const ContourDefinitionList::ContourDefInfo& Definition() const noexcept {
         return m_Definition;
     }
     void SetDefinition(const ContourDefinitionList::ContourDefInfo& definition) noexcept {
         m_Definition = definition;
     }
-    /// Whether it stands for several definitions; then the level cannot be typed.
+    /// True: the definition is for several ones, and its level cannot be typed.
     void SetSeveral(bool several) noexcept { m_Several = several; }
 
 protected:

@@ -6,9 +6,15 @@
 
 namespace DLG {
 
-/// Lets the user edit a contour definition file, or a new list for an empty path. True when the
-/// editor was closed with OK; whether the file could be saved is not told. False also when
-/// nothing can be shown.
+/// Lets the user edit a contour definition file, or a new list for an empty path, in the current
+/// window system. True when the editor was closed with OK, also when the file could not be saved:
+/// for that ask `CContourEditor::HasSaveFailed`. False also without a display.
+/// @code
+/// if (DLG::EditContourList("harbour.cdf")) {
+///     ContourDefinitionList list;
+///     list.Load("harbour.cdf");
+/// }
+/// @endcode
 MARLIN_API bool EditContourList(const CString& path);
 
 }  // namespace DLG

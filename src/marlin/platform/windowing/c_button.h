@@ -6,9 +6,6 @@
 /// A push button.
 class MARLIN_API CButton : public CWnd {
 public:
-    CButton() noexcept = default;
-    ~CButton() override;
-
     /// Called to draw a button whose template makes it owner-drawn; the default draws nothing.
     virtual void DrawItem(DRAWITEMSTRUCT* draw);
 

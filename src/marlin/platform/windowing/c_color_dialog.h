@@ -2,13 +2,14 @@
 #pragma once
 
 #include <marlin/core/export.h>
-#include <marlin/platform/windowing/window_types.h>
+#include <marlin/platform/drawing/handles.h>
 
 class CWnd;
 
+/// Shows the part with the custom colors from the start.
 inline constexpr unsigned long CC_FULLOPEN = 0x2;
 
-/// What a color dialog begins with, and the color chosen.
+/// The color that a color dialog starts with, and afterwards the chosen one.
 struct CHOOSECOLORA {
     COLORREF rgbResult = 0;
     unsigned long Flags = 0;
@@ -23,7 +24,7 @@ public:
                           CWnd* parent = nullptr) noexcept
         : m_cc{color, flags}, m_Parent(parent) {}
 
-    /// `IDOK` when a color was chosen, which `m_cc.rgbResult` then is, else `IDCANCEL`.
+    /// `IDOK` when a color was chosen, which is then in `m_cc.rgbResult`, else `IDCANCEL`.
     int DoModal();
 
 private:

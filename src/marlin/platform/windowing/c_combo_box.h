@@ -6,15 +6,9 @@
 /// A drop-down list of texts.
 class MARLIN_API CComboBox : public CWnd {
 public:
-    CComboBox() noexcept = default;
-    ~CComboBox() override;
-
-    /// -1 for none.
-    [[nodiscard]] int GetCurSel() const;
     [[nodiscard]] int GetCount() const;
+    /// An empty text for an index that is not there.
     void GetLBText(int item, CString& text) const;
-
-    void SetCurSel(int item);
-    /// Appends an item, or puts it in its place in a sorted list. Returns where it stands.
+    /// Appends an item, or inserts it in its place in a sorted list. Returns its index.
     int AddString(const char* text);
 };

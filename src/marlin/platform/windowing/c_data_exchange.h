@@ -3,21 +3,22 @@
 
 #include <marlin/platform/windowing/c_wnd.h>
 
-/// One exchange between the fields of a dialog and its controls. Once a text was refused, the
-/// exchanges that follow do nothing.
+/// One exchange of values between the fields of a dialog and its controls. After a text was
+/// refused, the rest of the exchange does nothing.
 class MARLIN_API CDataExchange {
 public:
     CDataExchange(CWnd* dialog, bool saveAndValidate) noexcept
         : m_bSaveAndValidate(saveAndValidate), m_pDlgWnd(dialog) {}
 
+    /// True after a text was refused.
     [[nodiscard]] bool HasFailed() const noexcept { return m_Failed; }
 
-    /// The control of that number; null when there is none and after a refusal.
+    /// The control of that number; null when there is none, and after a refusal.
     [[nodiscard]] CWnd* PrepareCtrl(int id) const;
     /// Refuses: shows a message and puts the focus back on the control.
     void Fail(CWnd& control, const char* message);
 
-    const bool m_bSaveAndValidate;  ///< From the controls to the fields.
+    const bool m_bSaveAndValidate;  ///< True: from the controls to the fields.
     CWnd* const m_pDlgWnd;
 
 private:
@@ -26,8 +27,9 @@ private:
 
 /// Attaches a field to its control, the first time.
 MARLIN_API void DDX_Control(CDataExchange* exchange, int id, CWnd& control);
-/// The text of an edit. A number takes all of the text, blanks around it aside; another text is
-/// refused with a message and the focus stays on the edit.
+/// The text of an edit. A number has to be all of the text, but for blanks around it, and finite;
+/// another text is refused with a message, the field keeps its value and the edit gets the focus.
+/// A `double` is shown with up to 15 significant digits, a `float` with up to 6.
 MARLIN_API void DDX_Text(CDataExchange* exchange, int id, CString& value);
 MARLIN_API void DDX_Text(CDataExchange* exchange, int id, float& value);
 MARLIN_API void DDX_Text(CDataExchange* exchange, int id, double& value);

@@ -6,17 +6,15 @@
 #include <vector>
 
 using PLATFORM::WindowSystem;
-using PLATFORM::WindowTable;
+using PLATFORM::detail::WindowTable;
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
-ON_BN_CLICKED(IDOK, CallOnOK)
-ON_BN_CLICKED(IDCANCEL, CallOnCancel)
+ON_BN_CLICKED(IDOK, OnOK)
+ON_BN_CLICKED(IDCANCEL, OnCancel)
 END_MESSAGE_MAP()
 
 CDialog::CDialog(UINT templateId, CWnd* parent) noexcept
     : m_Template(PLATFORM::FindDialogTemplate(templateId)), m_Parent(parent) {}
-
-CDialog::~CDialog() = default;
 
 bool CDialog::InitModalIndirect(const PLATFORM::DialogTemplate* form, CWnd* parent) noexcept {
     if (!form || m_hWnd) {
@@ -43,12 +41,6 @@ bool CDialog::CreateWindows() {
     return true;
 }
 
-void CDialog::Destroy() {
-    const HWND dialog = m_hWnd;
-    WindowSystem::Current().DestroyDialog(dialog);
-    WindowTable::Get().Remove(dialog);
-}
-
 void CDialog::FocusFirst() {
     for (const PLATFORM::ControlTemplate& control : m_Template->Controls) {
         CWnd* const window = GetDlgItem(control.Id);
@@ -63,23 +55,19 @@ int CDialog::DoModal() {
     if (!m_Template || m_hWnd || !CreateWindows()) {
         return WindowSystem::Failed;
     }
-    m_HasEnded = false;
-    m_IsRunning = false;
+    const HWND dialog = m_hWnd;
     if (OnInitDialog()) {
         FocusFirst();
     }
-    m_IsRunning = true;
-    const int result = m_HasEnded ? m_EarlyResult : WindowSystem::Current().RunDialog(m_hWnd);
-    Destroy();
+    WindowSystem& system = WindowSystem::Current();
+    const int result = system.RunDialog(dialog);
+    system.DestroyDialog(dialog);
+    WindowTable::Get().Remove(dialog);
     return result;
 }
 
 void CDialog::EndDialog(int result) {
-    m_HasEnded = true;
-    m_EarlyResult = result;
-    if (m_hWnd && m_IsRunning) {
-        WindowSystem::Current().EndDialog(m_hWnd, result);
-    }
+    WindowSystem::Current().EndDialog(m_hWnd, result);
 }
 
 BOOL CDialog::OnInitDialog() {

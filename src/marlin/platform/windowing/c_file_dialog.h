@@ -3,16 +3,17 @@
 
 #include <marlin/core/export.h>
 #include <marlin/platform/text/c_string.h>
-#include <marlin/platform/windowing/window_types.h>
 
 #include <string>
 
 class CWnd;
 
+/// Asks before an existing file is taken.
 inline constexpr unsigned long OFN_OVERWRITEPROMPT = 0x2;
+/// Has no check box for opening read-only.
 inline constexpr unsigned long OFN_HIDEREADONLY = 0x4;
 
-/// What a file dialog begins with.
+/// The folder and the options that a file dialog starts with.
 struct OPENFILENAMEA {
     const char* lpstrInitialDir = nullptr;
     unsigned long Flags = 0;
@@ -23,8 +24,9 @@ class MARLIN_API CFileDialog {
 public:
     OPENFILENAMEA m_ofn;
 
-    /// `filter` holds pairs of a description and a pattern, each ended by "|", and ends with one
-    /// more. A typed name without an extension gets the default one. The texts are copied.
+    /// `filter` holds pairs of a description and a pattern, each ended by "|", and one more "|".
+    /// A name without an extension gets the default one. The texts are copied, but for
+    /// `m_ofn.lpstrInitialDir`, which has to last until `DoModal`.
     explicit CFileDialog(bool openFile, const char* defaultExtension = nullptr,
                          const char* fileName = nullptr, unsigned long flags = 0,
                          const char* filter = nullptr, CWnd* parent = nullptr);

@@ -11,31 +11,31 @@ inline constexpr int LVSIL_SMALL = 1;
 inline constexpr UINT LVIS_FOCUSED = 1;
 inline constexpr UINT LVIS_SELECTED = 2;
 
-/// A report list: rows of texts in columns, the first beside an image.
+/// A report list: rows of texts in columns, the text of column 0 beside an image. Without a
+/// control, and for a row or column that is not there, an operation does nothing and returns an
+/// empty result or -1.
 class MARLIN_API CListCtrl : public CWnd {
 public:
-    CListCtrl() noexcept = default;
-    ~CListCtrl() override;
-
     [[nodiscard]] int GetItemCount() const;
     [[nodiscard]] CString GetItemText(int row, int column) const;
     [[nodiscard]] UINT GetSelectedCount() const;
-    /// The next row below `after` (-1: from the top) that is selected, with `LVNI_SELECTED`;
-    /// with 0, just the next row. -1 for none.
+    /// The next row after `after` (-1: from the top) that is selected, with `LVNI_SELECTED`;
+    /// with 0, the next row. -1 for none.
     [[nodiscard]] int GetNextItem(int after, int flags) const;
-    /// Those states of the mask that the row has.
-    [[nodiscard]] UINT GetItemState(int row, UINT mask) const;
 
+    /// `width` in pixels. Returns the index of the column, which is always left-aligned.
     int InsertColumn(int column, const char* heading, int format = LVCFMT_LEFT, int width = -1);
-    /// Appends or inserts a row; returns where it stands.
+    /// Inserts a row, or appends it where `row` is beyond the last. Returns its index.
     int InsertItem(int row, const char* text, int image);
     void SetItemText(int row, int column, const char* text);
     void DeleteItem(int row);
     void DeleteAllItems();
 
-    /// The list shows the images that there are at that moment.
+    /// Copies the images that there are at that moment.
     void SetImageList(const CImageList* images, int kind);
     void EnsureVisible(int row, bool partialIsEnough);
+    /// The row that a range of rows is selected from.
     void SetSelectionMark(int row);
+    /// Sets the states of the mask to those in `state`; the focus can only be given.
     void SetItemState(int row, UINT state, UINT mask);
 };

@@ -3,12 +3,10 @@
 
 #include <marlin/platform/windowing/c_wnd.h>
 
-/// Two arrows that count the whole number in the edit before them up and down.
+/// Two arrows that count the whole number in the edit before them up and down, from 0 to 100
+/// unless another range is set.
 class MARLIN_API CSpinButtonCtrl : public CWnd {
 public:
-    CSpinButtonCtrl() noexcept = default;
-    ~CSpinButtonCtrl() override;
-
     /// Both ends included.
     void SetRange(int lower, int upper);
 };

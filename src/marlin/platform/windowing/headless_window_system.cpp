@@ -1,32 +1,23 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/platform/drawing/c_bitmap.h>
-#include <marlin/platform/drawing/c_dc.h>
-#include <marlin/platform/windowing/detail/headless_state.h>
-#include <marlin/platform/windowing/window_messages.h>
+#include <marlin/platform/drawing/drawing_constants.h>
+#include <marlin/platform/windowing/detail/headless_control.h>
+#include <marlin/platform/windowing/detail/headless_user.h>
+#include <marlin/platform/windowing/headless_window_system.h>
+#include <marlin/platform/windowing/user_events.h>
+#include <marlin/platform/windowing/windowing_constants.h>
+
+#include <unordered_map>
 
 namespace PLATFORM {
 
-namespace {
+using detail::HeadlessControl;
+using detail::HeadlessDialog;
 
-// The dialog font's average character is 6 by 13 pixels, which are 4 by 8 dialog units.
-constexpr SIZE FaceSizeOf(const ControlTemplate& form) noexcept {
-    return {form.Width * 6 / 4, form.Height * 13 / 8};
-}
-
-HeadlessControl MakeControl(HWND dialog, HWND window, const ControlTemplate& form) {
-    HeadlessControl control;
-    control.Window = window;
-    control.Dialog = dialog;
-    control.Form = &form;
-    control.Text = CString(form.Text);
-    control.Enabled = !form.Disabled;
-    for (const std::string_view item : form.Items) {
-        control.Items.emplace_back(item);
-    }
-    return control;
-}
-
-}  // namespace
+struct HeadlessWindowSystem::State {
+    std::unordered_map<HWND, HeadlessDialog> Dialogs;
+    std::unordered_map<HWND, HeadlessControl> Controls;
+    std::vector<HWND> Running;  ///< The last one is on top.
+};
 
 HeadlessWindowSystem::HeadlessWindowSystem() : m_State(std::make_unique<State>()) {}
 
@@ -42,20 +33,26 @@ HeadlessControl* HeadlessWindowSystem::FindControl(HWND control) const noexcept 
     return found == m_State->Controls.end() ? nullptr : &found->second;
 }
 
+HeadlessControl* HeadlessWindowSystem::FindControl(HWND control, CONTROL kind) const noexcept {
+    HeadlessControl* const found = FindControl(control);
+    return found && found->Is(kind) ? found : nullptr;
+}
+
+bool HeadlessWindowSystem::IsOnTop(HWND dialog) const noexcept {
+    const HeadlessDialog* const found = FindDialog(dialog);
+    return found && !found->HasEnded && m_State->Running.back() == dialog;
+}
+
 bool HeadlessWindowSystem::CreateDialog(HWND dialog, const DialogTemplate& form,
                                         std::span<const HWND> controls, HWND) {
-    HeadlessDialog made;
-    made.Window = dialog;
+    HeadlessDialog& made = m_State->Dialogs[dialog];
     made.Title = CString(form.Caption);
     made.Controls.assign(controls.begin(), controls.end());
     HWND before = nullptr;
     for (std::size_t i = 0; i < controls.size(); ++i) {
-        HeadlessControl control = MakeControl(dialog, controls[i], form.Controls[i]);
-        control.Buddy = before;
+        m_State->Controls.try_emplace(controls[i], controls[i], dialog, form.Controls[i], before);
         before = controls[i];
-        m_State->Controls[controls[i]] = std::move(control);
     }
-    m_State->Dialogs[dialog] = std::move(made);
     return true;
 }
 
@@ -64,17 +61,21 @@ int HeadlessWindowSystem::RunDialog(HWND dialog) {
     if (!shown) {
         return Failed;
     }
+    if (shown->HasEnded) {
+        return shown->Result;
+    }
     for (const HWND control : shown->Controls) {
-        Draw(*FindControl(control), ODA_DRAWENTIRE);
+        Invalidate(control);
     }
     m_State->Running.push_back(dialog);
     if (const UserScript::DialogAct act = m_Script.NextAct()) {
-        User user(*this, dialog);
+        detail::HeadlessUser user(*this, dialog);
         act(user);
     }
     if (!shown->HasEnded) {
-        Deliver(dialog, WM_CLOSE, 0, 0);
+        SendClose(dialog);
     }
+    // A dialog may refuse to close, but nobody is left who could close it.
     EndDialog(dialog, IDCANCEL);
     m_State->Running.pop_back();
     return shown->Result;
@@ -110,33 +111,33 @@ void HeadlessWindowSystem::SetText(HWND window, const CString& text) {
         dialog->Title = text;
     } else if (HeadlessControl* const control = FindControl(window)) {
         control->Text = text;
-        Draw(*control, ODA_DRAWENTIRE);
+        control->Draw(ODA_DRAWENTIRE);
     }
 }
 
-bool HeadlessWindowSystem::IsEnabled(HWND control) const {
-    const HeadlessControl* const found = FindControl(control);
-    return found ? found->Enabled : FindDialog(control) != nullptr;
+bool HeadlessWindowSystem::IsEnabled(HWND window) const {
+    const HeadlessControl* const control = FindControl(window);
+    return control ? control->IsEnabled : FindDialog(window) != nullptr;
 }
 
 void HeadlessWindowSystem::Enable(HWND control, bool enable) {
     if (HeadlessControl* const found = FindControl(control)) {
-        found->Enabled = enable;
+        found->IsEnabled = enable;
     }
 }
 
 void HeadlessWindowSystem::SetFocus(HWND control) {
-    HeadlessControl* const found = FindControl(control);
-    if (!found || !found->Enabled) {
+    const HeadlessControl* const found = FindControl(control);
+    if (!found || !found->IsEnabled) {
         return;
     }
     HWND& focus = FindDialog(found->Dialog)->Focus;
-    HeadlessControl* const before = FindControl(focus);
+    const HeadlessControl* const before = FindControl(focus);
     focus = control;
     if (before && before != found) {
-        Draw(*before, ODA_FOCUS);
+        before->Draw(ODA_FOCUS);
     }
-    Draw(*found, ODA_FOCUS);
+    found->Draw(ODA_FOCUS);
 }
 
 HWND HeadlessWindowSystem::Focus(HWND dialog) const {
@@ -145,50 +146,36 @@ HWND HeadlessWindowSystem::Focus(HWND dialog) const {
 }
 
 void HeadlessWindowSystem::Invalidate(HWND control) {
-    if (HeadlessControl* const found = FindControl(control)) {
-        Draw(*found, ODA_DRAWENTIRE);
+    if (const HeadlessControl* const found = FindControl(control)) {
+        found->Draw(ODA_DRAWENTIRE);
     }
 }
 
-void HeadlessWindowSystem::Draw(HeadlessControl& button, UINT action) {
-    const SIZE size = FaceSizeOf(*button.Form);
-    CDC dc;
-    CBitmap surface;
-    if (!button.Is(CONTROL::OWNER_BUTTON) || !dc.CreateCompatibleDC(nullptr) ||
-        !surface.CreateCompatibleBitmap(&dc, size.cx, size.cy)) {
-        return;
-    }
-    CBitmap* const before = dc.SelectObject(&surface);
-    dc.SelectStockObject(DEFAULT_GUI_FONT);
-    const bool isNew = button.Face.empty();
-    for (int y = 0; y < size.cy && !isNew; ++y) {
-        for (int x = 0; x < size.cx; ++x) {
-            dc.SetPixel(x, y, button.Face[static_cast<std::size_t>(y * size.cx + x)]);
-        }
-    }
-    DeliverDraw(button.Window, action, dc, {0, 0, size.cx, size.cy});
-    button.FaceSize = size;
-    button.Face.clear();
-    for (int y = 0; y < size.cy; ++y) {
-        for (int x = 0; x < size.cx; ++x) {
-            button.Face.push_back(dc.GetPixel(x, y));
-        }
-    }
-    dc.SelectObject(before);
+bool HeadlessWindowSystem::IsChecked(HWND box) const {
+    const HeadlessControl* const found = FindControl(box);
+    return found && found->IsChecked;
 }
 
-COLORREF HeadlessWindowSystem::FacePixel(HWND button, int x, int y) const noexcept {
-    const HeadlessControl* const found = FindControl(button);
-    const SIZE size = found ? found->FaceSize : SIZE();
-    if (x < 0 || y < 0 || x >= size.cx || y >= size.cy) {
-        return CLR_INVALID;
+void HeadlessWindowSystem::SetChecked(HWND box, bool checked) {
+    if (HeadlessControl* const found = FindControl(box)) {
+        found->IsChecked = checked;
     }
-    return found->Face[static_cast<std::size_t>(y * size.cx + x)];
 }
 
-SIZE HeadlessWindowSystem::FaceSize(HWND button) const noexcept {
-    const HeadlessControl* const found = FindControl(button);
-    return found ? found->FaceSize : SIZE();
+void HeadlessWindowSystem::SetRange(HWND spin, const SpinRange& range) {
+    if (HeadlessControl* const found = FindControl(spin)) {
+        found->Range = range;
+    }
+}
+
+DropDownList* HeadlessWindowSystem::FindDropDown(HWND window) const {
+    HeadlessControl* const found = FindControl(window, CONTROL::DROP_DOWN_LIST);
+    return found ? &found->Items : nullptr;
+}
+
+ReportList* HeadlessWindowSystem::FindList(HWND window) const {
+    HeadlessControl* const found = FindControl(window, CONTROL::REPORT_LIST);
+    return found ? &found->List : nullptr;
 }
 
 int HeadlessWindowSystem::ShowMessage(HWND, const MessageRequest& request) {
@@ -197,9 +184,7 @@ int HeadlessWindowSystem::ShowMessage(HWND, const MessageRequest& request) {
 
 bool HeadlessWindowSystem::ChooseFile(HWND, const FileRequest& request, CString& path) {
     const std::optional<CString> chosen = m_Script.NextFile(request);
-    if (chosen) {
-        path = WithExtension(*chosen, request.DefaultExtension);
-    }
+    path = chosen.value_or(path);
     return chosen.has_value();
 }
 
@@ -207,6 +192,26 @@ bool HeadlessWindowSystem::ChooseColor(HWND, const ColorRequest& request, COLORR
     const std::optional<COLORREF> chosen = m_Script.NextColor(request);
     color = chosen.value_or(color);
     return chosen.has_value();
+}
+
+COLORREF HeadlessWindowSystem::FacePixel(HWND button, int x, int y) const noexcept {
+    const HeadlessControl* const found = FindControl(button);
+    return found ? found->Face.GetPixel(x, y) : CLR_INVALID;
+}
+
+SIZE HeadlessWindowSystem::FaceSize(HWND button) const noexcept {
+    const HeadlessControl* const found = FindControl(button);
+    return found ? found->FaceSize() : SIZE();
+}
+
+COLORREF HeadlessWindowSystem::SwatchPixel(HWND list, int row, int x, int y) const noexcept {
+    const HeadlessControl* const found = FindControl(list);
+    return found ? found->List.SwatchPixel(row, x, y) : CLR_INVALID;
+}
+
+int HeadlessWindowSystem::RowInView(HWND list) const noexcept {
+    const HeadlessControl* const found = FindControl(list);
+    return found ? found->List.RowInView() : -1;
 }
 
 }  // namespace PLATFORM

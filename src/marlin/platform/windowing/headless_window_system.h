@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/platform/drawing/size.h>
 #include <marlin/platform/windowing/user_script.h>
 #include <marlin/platform/windowing/window_system.h>
 
@@ -8,12 +9,22 @@
 
 namespace PLATFORM {
 
+namespace detail {
 struct HeadlessControl;
 struct HeadlessDialog;
+class HeadlessUser;
+}  // namespace detail
 
-/// Dialogs without a display: the state of every control is kept, and a script acts as the user.
-/// Without one, a dialog ends with Cancel as soon as it is shown. Owner-drawn buttons draw on a
-/// surface of their own, at 96 dots an inch.
+/// Dialogs without a display, for tests and for hosts without windows: it keeps the state of every
+/// control in memory, and a script acts as the user. Without a script, a dialog ends with Cancel
+/// as soon as it is shown. Owner-drawn buttons draw on a surface of their own, at 96 dots an inch.
+/// @code
+/// PLATFORM::HeadlessWindowSystem windows;
+/// PLATFORM::WindowSystem::SetCurrent(&windows);
+/// windows.Script().InDialog([](PLATFORM::DialogUser& user) { user.Click(IDOK); });
+/// assert(DLG::EditContourList("sheet.cdf"));
+/// PLATFORM::WindowSystem::SetCurrent(nullptr);
+/// @endcode
 class MARLIN_API HeadlessWindowSystem final : public WindowSystem {
 public:
     HeadlessWindowSystem();
@@ -21,8 +32,8 @@ public:
 
     [[nodiscard]] UserScript& Script() noexcept { return m_Script; }
 
-    /// What stands on the screen: a pixel of an owner-drawn button as it was last drawn, and of
-    /// the image beside a row; CLR_INVALID where there is none, or where it is transparent.
+    /// A pixel of an owner-drawn button as it was last drawn, or of the image in a list's row;
+    /// CLR_INVALID where there is none, or a transparent one.
     [[nodiscard]] COLORREF FacePixel(HWND button, int x, int y) const noexcept;
     [[nodiscard]] SIZE FaceSize(HWND button) const noexcept;
     [[nodiscard]] COLORREF SwatchPixel(HWND list, int row, int x, int y) const noexcept;
@@ -37,7 +48,7 @@ public:
 
     [[nodiscard]] CString Text(HWND window) const override;
     void SetText(HWND window, const CString& text) override;
-    [[nodiscard]] bool IsEnabled(HWND control) const override;
+    [[nodiscard]] bool IsEnabled(HWND window) const override;
     void Enable(HWND control, bool enable) override;
     void SetFocus(HWND control) override;
     [[nodiscard]] HWND Focus(HWND dialog) const override;
@@ -45,46 +56,22 @@ public:
 
     [[nodiscard]] bool IsChecked(HWND box) const override;
     void SetChecked(HWND box, bool checked) override;
-    [[nodiscard]] int CurrentItem(HWND combo) const override;
-    void SetCurrentItem(HWND combo, int item) override;
-    [[nodiscard]] int ItemCount(HWND combo) const override;
-    [[nodiscard]] CString ItemText(HWND combo, int item) const override;
-    int AddItem(HWND combo, const CString& text) override;
-    void SetRange(HWND spin, int lower, int upper) override;
-
-    void InsertColumn(HWND list, int column, const CString& heading, int width) override;
-    [[nodiscard]] CString Heading(HWND list, int column) const override;
-    [[nodiscard]] int ColumnWidth(HWND list, int column) const override;
-    void SetImages(HWND list, const CImageList* images) override;
-    void InsertRow(HWND list, int row, const CString& text, int image) override;
-    void SetCell(HWND list, int row, int column, const CString& text) override;
-    [[nodiscard]] CString Cell(HWND list, int row, int column) const override;
-    [[nodiscard]] int RowImage(HWND list, int row) const override;
-    [[nodiscard]] int RowCount(HWND list) const override;
-    void DeleteRow(HWND list, int row) override;
-    void DeleteRows(HWND list) override;
-    void ScrollTo(HWND list, int row) override;
-    [[nodiscard]] bool IsSelected(HWND list, int row) const override;
-    [[nodiscard]] int SelectedCount(HWND list) const override;
-    [[nodiscard]] int NextSelected(HWND list, int after) const override;
-    void SelectRow(HWND list, int row, bool selected) override;
-    void SetFocusedRow(HWND list, int row) override;
-    [[nodiscard]] int FocusedRow(HWND list) const override;
-    void SetSelectionMark(HWND list, int row) override;
-    [[nodiscard]] int SelectionMark(HWND list) const override;
+    void SetRange(HWND spin, const SpinRange& range) override;
+    [[nodiscard]] DropDownList* FindDropDown(HWND window) const override;
+    [[nodiscard]] ReportList* FindList(HWND window) const override;
 
     int ShowMessage(HWND parent, const MessageRequest& request) override;
     bool ChooseFile(HWND parent, const FileRequest& request, CString& path) override;
     bool ChooseColor(HWND parent, const ColorRequest& request, COLORREF& color) override;
 
 private:
-    class User;
+    friend class detail::HeadlessUser;
     struct State;
 
-    [[nodiscard]] HeadlessDialog* FindDialog(HWND dialog) const noexcept;
-    [[nodiscard]] HeadlessControl* FindControl(HWND control) const noexcept;
-    [[nodiscard]] HeadlessControl* FindList(HWND list) const noexcept;
-    void Draw(HeadlessControl& button, UINT action);
+    [[nodiscard]] detail::HeadlessDialog* FindDialog(HWND dialog) const noexcept;
+    [[nodiscard]] detail::HeadlessControl* FindControl(HWND control) const noexcept;
+    [[nodiscard]] detail::HeadlessControl* FindControl(HWND control, CONTROL kind) const noexcept;
+    [[nodiscard]] bool IsOnTop(HWND dialog) const noexcept;
 
     UserScript m_Script;
     std::unique_ptr<State> m_State;

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <marlin/platform/windowing/window_messages.h>
+#include <marlin/platform/windowing/message_records.h>
+#include <marlin/platform/windowing/windowing_constants.h>
 
 #include <variant>
 
 class CWnd;
 
-/// Names the handler of one message. Handlers of a class are named in its own type.
+/// The handler of one message, a member of the class that the map belongs to.
 struct AFX_MSGMAP_ENTRY {
     using Handler =
         std::variant<void (CWnd::*)(), void (CWnd::*)(NMHDR*, LRESULT*), BOOL (CWnd::*)(HELPINFO*)>;
@@ -18,15 +19,15 @@ struct AFX_MSGMAP_ENTRY {
     Handler pfn;
 };
 
-/// The handlers of a class, after which those of its base are looked through.
+/// The handlers of a class. Messages without one here are looked up in the base's map.
 struct AFX_MSGMAP {
     const AFX_MSGMAP* (*pfnGetBaseMap)();
     const AFX_MSGMAP_ENTRY* lpEntries;
     int nEntries;
 };
 
-// Message maps are written with the framework's macros: the first in the class, the others
-// around the list of entries in its source. The list ends with the last macro.
+// Message maps are written with the framework's macros: DECLARE_MESSAGE_MAP in the class, BEGIN_
+// and END_MESSAGE_MAP around the entries in its source.
 
 #define DECLARE_MESSAGE_MAP()                                   \
 protected:                                                      \
@@ -49,8 +50,8 @@ protected:                                                      \
     return &map;                                                                                \
     }
 
-/// The handlers' forms: `void OnButton()`, `void OnNotify(NMHDR*, LRESULT*)`,
-/// `BOOL OnHelpInfo(HELPINFO*)`; `ON_CONTROL_REFLECT` stands in the class of the control itself.
+// The forms of handlers: `void OnButton()`, `void OnNotify(NMHDR*, LRESULT*)`,
+// `BOOL OnHelpInfo(HELPINFO*)`. `ON_CONTROL_REFLECT` is for the class of the control itself.
 #define ON_BN_CLICKED(id, handler) \
     {WM_COMMAND, BN_CLICKED, id, false, static_cast<void (CWnd::*)()>(&ThisClass::handler)},
 #define ON_CONTROL_REFLECT(code, handler) \

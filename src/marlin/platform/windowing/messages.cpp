@@ -3,11 +3,11 @@
 #include <marlin/platform/windowing/detail/window_table.h>
 #include <marlin/platform/windowing/messages.h>
 
-using PLATFORM::MessageQueue;
-using PLATFORM::MessageTarget;
-using PLATFORM::WindowTable;
+using PLATFORM::detail::MessageQueue;
+using PLATFORM::detail::MessageTarget;
+using PLATFORM::detail::WindowTable;
 
-int PostMessageA(HWND window, unsigned int message, WPARAM wParam, LPARAM lParam) {
+int PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const MessageTarget target = WindowTable::Get().Target(window);
     if (!target.Window) {
         return 0;
@@ -16,19 +16,19 @@ int PostMessageA(HWND window, unsigned int message, WPARAM wParam, LPARAM lParam
     return 1;
 }
 
-LRESULT SendMessageA(HWND window, unsigned int message, WPARAM wParam, LPARAM lParam) {
+LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const MessageTarget target = WindowTable::Get().Target(window);
     return target.IsOfThisThread() ? target.Window->WindowProc(message, wParam, lParam) : 0;
 }
 
-int PeekMessageA(MSG* message, HWND window, unsigned int first, unsigned int last,
-                 unsigned int remove) {
+int PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove) {
     const bool found = message && MessageQueue::OfThisThread()->Peek(
                                       *message, {window, first, last}, (remove & PM_REMOVE) != 0);
     return found ? 1 : 0;
 }
 
-int GetMessageA(MSG* message, HWND window, unsigned int first, unsigned int last) {
+int GetMessageA(MSG* message, HWND window, UINT first, UINT last) {
+    // A window of another thread, or none, would have the caller wait for ever.
     if (!message || (window && !WindowTable::Get().Target(window).IsOfThisThread())) {
         return -1;
     }

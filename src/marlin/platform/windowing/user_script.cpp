@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/windowing/user_script.h>
-#include <marlin/platform/windowing/window_messages.h>
+#include <marlin/platform/windowing/windowing_constants.h>
 
 #include <utility>
 
@@ -19,8 +19,6 @@ Step Next(std::deque<Step>& steps, Step otherwise) {
 }
 
 }  // namespace
-
-DialogUser::~DialogUser() = default;
 
 void UserScript::InDialog(DialogAct act) {
     m_Acts.push_back(std::move(act));

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/platform/windowing/box_requests.h>
 #include <marlin/platform/windowing/dialog_user.h>
-#include <marlin/platform/windowing/window_requests.h>
 
 #include <deque>
 #include <functional>
@@ -11,17 +11,25 @@
 
 namespace PLATFORM {
 
-/// What a person is going to do, each kind in the order given, and what was shown to them. A
-/// dialog or box beyond the script ends with Cancel, or with No, or with OK where it has no other
-/// button.
+/// The acts of a user who is played, and the boxes that were shown to the user. Acts of each kind
+/// are done in the order given. A dialog or box beyond the last act ends with Cancel, or with No,
+/// or with OK where it has no other button.
+/// @code
+/// PLATFORM::UserScript script;
+/// script.InDialog([](PLATFORM::DialogUser& user) { user.Click(IDOK); });
+/// script.AnswerMessage(IDYES);
+/// script.AnswerFile("sheet.cdf");
+/// assert(!script.IsDone());
+/// @endcode
 class MARLIN_API UserScript {
 public:
-    /// What is done in one dialog; where it leaves the dialog open, it ends with Cancel.
+    /// Acts in one dialog, which ends with Cancel where they leave it open.
     using DialogAct = std::function<void(DialogUser&)>;
 
     void InDialog(DialogAct act);
+    /// The button that closes the next message box.
     void AnswerMessage(int button);
-    /// Chooses a file, or cancels with nothing.
+    /// What is chosen in the next box of the kind; nothing cancels it.
     void AnswerFile(std::optional<CString> path);
     void AnswerColor(std::optional<COLORREF> color);
 
@@ -30,10 +38,11 @@ public:
     }
     [[nodiscard]] const std::vector<FileRequest>& Files() const noexcept { return m_Files; }
     [[nodiscard]] const std::vector<ColorRequest>& Colors() const noexcept { return m_Colors; }
-    /// Whether all that was to be done has been done.
+    /// True when no act is left.
     [[nodiscard]] bool IsDone() const noexcept;
 
-    /// For window systems: the next of each kind. The act is empty beyond the script's end.
+    /// For window systems: takes the next act of each kind. Beyond the last one a dialog's act is
+    /// empty.
     DialogAct NextAct();
     int NextMessage(const MessageRequest& request);
     std::optional<CString> NextFile(const FileRequest& request);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/platform/windowing/window_messages.h>
+#include <marlin/platform/windowing/windowing_constants.h>
 #include <marlin/qt/detail/dialog_window.h>
 #include <marlin/qt/detail/list_widget.h>
 
 #include <QKeyEvent>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 int DialogWindow::Run() {
     for (QObject* const child : children()) {
@@ -16,7 +16,8 @@ int DialogWindow::Run() {
     if (!m_HasEnded) {
         exec();
     }
-    End(IDCANCEL);  // the host's application has ended
+    // The host's application may end before the dialog does.
+    End(IDCANCEL);
     return m_Result;
 }
 
@@ -30,10 +31,10 @@ void DialogWindow::End(int result) {
 
 void DialogWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F1) {
-        QtWindowSystem::Events::Help(m_Handle);
+        SendHelp(m_Handle);
         return;
     }
     QDialog::keyPressEvent(event);
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -1,22 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <marlin/qt/detail/events.h>
+#include <marlin/platform/windowing/user_events.h>
 
 #include <QDialog>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
-/// The window of a dialog. Escape and its frame ask the dialog to close, F1 asks it for help.
+/// The window of a dialog. Escape and the frame ask the dialog to close, F1 asks it for help.
 class DialogWindow final : public QDialog {
 public:
     explicit DialogWindow(HWND handle) : m_Handle(handle) {}
 
-    /// Serves the user until `End`; what that was given.
+    /// Serves the user until `End` and returns the result given there, which may be before.
     int Run();
     void End(int result);
 
-    void reject() override { QtWindowSystem::Events::Close(m_Handle); }
+    void reject() override { SendClose(m_Handle); }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -27,4 +27,4 @@ private:
     int m_Result = 0;
 };
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 namespace {
 
@@ -176,4 +176,4 @@ void LayOut(const DialogTemplate& form, std::span<QWidget* const> widgets, QDial
     dialog.resize(dialog.sizeHint().expandedTo({units.X(form.Width), units.Y(form.Height)}));
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

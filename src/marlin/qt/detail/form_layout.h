@@ -8,7 +8,7 @@
 class QDialog;
 class QWidget;
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 /// Lays the widgets of a template's controls out in their dialog, in the same order. Edges that
 /// the template gives are the lines of a grid, at least as far apart as there. The widest column
@@ -16,4 +16,4 @@ namespace PLATFORM {
 /// row of buttons below all else stays at the right.
 void LayOut(const DialogTemplate& form, std::span<QWidget* const> widgets, QDialog& dialog);
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -5,7 +5,7 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 bool LeftTextBox::event(QEvent* event) {
     if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
@@ -35,4 +35,4 @@ void LeftTextBox::paintEvent(QPaintEvent*) {
     }
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -3,7 +3,7 @@
 
 #include <QCheckBox>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 /// A check box whose text begins at its left edge, as labels do; the box stands at the right edge.
 class LeftTextBox final : public QCheckBox {
@@ -16,4 +16,4 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -1,20 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/platform/windowing/window_messages.h>
-#include <marlin/qt/detail/events.h>
+#include <marlin/platform/windowing/user_events.h>
+#include <marlin/platform/windowing/windowing_constants.h>
 #include <marlin/qt/detail/list_widget.h>
 #include <marlin/qt/detail/make.h>
 #include <marlin/qt/detail/qt_text.h>
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 namespace {
-
-using Events = QtWindowSystem::Events;
 
 constexpr int imageRole = Qt::UserRole;
 
@@ -31,7 +30,7 @@ QIcon IconOf(const CImageList& images, int index) {
     return QPixmap::fromImage(icon);
 }
 
-// The number of a key that dialogs know; 0 for all others.
+// The framework's number of a key that dialogs handle; 0 for all others.
 int NumberOf(int key) noexcept {
     switch (key) {
         case Qt::Key_Insert:
@@ -62,95 +61,120 @@ ListWidget::ListWidget(HWND handle) : m_Handle(handle) {
     header()->setStretchLastSection(true);
 }
 
-void ListWidget::AddColumn(int column, const QString& heading, int width) {
-    const auto size = static_cast<std::ptrdiff_t>(m_Columns.size());
-    m_Columns.insert(m_Columns.begin() + std::clamp<std::ptrdiff_t>(column, 0, size),
-                     {heading, width});
-    setColumnCount(static_cast<int>(m_Columns.size()));
-    for (int i = 0; i < columnCount(); ++i) {
-        const Column& shown = m_Columns[static_cast<std::size_t>(i)];
-        headerItem()->setText(i, shown.Heading);
-        header()->resizeSection(i, shown.Width);
+void ListWidget::InsertColumn(int column, const CString& heading, int width) {
+    m_Widths.insert(m_Widths.begin() + column, width);
+    setColumnCount(static_cast<int>(m_Widths.size()));
+    // Qt adds a column after the last one, so the headings from there on move to the right.
+    for (int i = columnCount() - 1; i > column; --i) {
+        headerItem()->setText(i, headerItem()->text(i - 1));
     }
+    headerItem()->setText(column, QtText(heading.View()));
+    for (int i = 0; i < columnCount(); ++i) {
+        header()->resizeSection(i, ColumnWidth(i));
+    }
+}
+
+CString ListWidget::Heading(int column) const {
+    return TextOf(headerItem()->text(column));
+}
+
+int ListWidget::ColumnWidth(int column) const {
+    return m_Widths[static_cast<std::size_t>(column)];
 }
 
 void ListWidget::FitColumns() {
     int total = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
     for (int i = 0; i < columnCount(); ++i) {
         const int wanted =
-            std::max({WidthOf(i), header()->sectionSizeHint(i), sizeHintForColumn(i)});
+            std::max({ColumnWidth(i), header()->sectionSizeHint(i), sizeHintForColumn(i)});
         header()->resizeSection(i, std::max(header()->sectionSize(i), wanted));
         total += wanted;
     }
     setMinimumWidth(total);
 }
 
-QString ListWidget::Heading(int column) const {
-    const bool isThere = column >= 0 && static_cast<std::size_t>(column) < m_Columns.size();
-    return isThere ? m_Columns[static_cast<std::size_t>(column)].Heading : QString();
+void ListWidget::ShowImage(QTreeWidgetItem& item) const {
+    const auto image = static_cast<std::size_t>(item.data(0, imageRole).toInt());
+    item.setIcon(0, image < m_Icons.size() ? m_Icons[image] : QIcon());
 }
 
-int ListWidget::WidthOf(int column) const noexcept {
-    const bool isThere = column >= 0 && static_cast<std::size_t>(column) < m_Columns.size();
-    return isThere ? m_Columns[static_cast<std::size_t>(column)].Width : 0;
-}
-
-void ListWidget::SetImages(const CImageList& images) {
+void ListWidget::SetImages(const CImageList* images) {
     m_Icons.clear();
-    for (int i = 0; i < images.GetImageCount(); ++i) {
-        m_Icons.push_back(IconOf(images, i));
+    for (int i = 0; images && i < images->GetImageCount(); ++i) {
+        m_Icons.push_back(IconOf(*images, i));
     }
-    for (int row = 0; row < topLevelItemCount(); ++row) {
-        const auto image = static_cast<std::size_t>(ImageOf(row));
-        topLevelItem(row)->setIcon(0, image < m_Icons.size() ? m_Icons[image] : QIcon());
+    for (int row = 0; row < RowCount(); ++row) {
+        ShowImage(*topLevelItem(row));
     }
 }
 
-void ListWidget::AddRow(int row, const QString& text, int image) {
-    const Act act(*this);
-    if (topLevelItemCount() == 0) {
-        // Once the cells have their texts.
+void ListWidget::InsertRow(int row, const CString& text, int image) {
+    const QScopedValueRollback change(m_IsChangedByProgram, true);
+    if (RowCount() == 0) {
+        // The columns are fitted later, when the cells have their texts.
         QMetaObject::invokeMethod(
             this, [this] { FitColumns(); }, Qt::QueuedConnection);
     }
     auto* const item = Make<QTreeWidgetItem>();
-    item->setText(0, text);
+    item->setText(0, QtText(text.View()));
     item->setData(0, imageRole, image);
-    if (const auto index = static_cast<std::size_t>(image); index < m_Icons.size()) {
-        item->setIcon(0, m_Icons[index]);
-    }
-    insertTopLevelItem(std::clamp(row, 0, topLevelItemCount()), item);
+    ShowImage(*item);
+    insertTopLevelItem(row, item);
 }
 
-int ListWidget::ImageOf(int row) const {
-    return HasRow(row) ? topLevelItem(row)->data(0, imageRole).toInt() : -1;
-}
-
-void ListWidget::RemoveRow(int row) {
-    if (!HasRow(row)) {
-        return;
-    }
-    const Act act(*this);
-    if (currentIndex().row() == row) {
+void ListWidget::DeleteRow(int row) {
+    const QScopedValueRollback change(m_IsChangedByProgram, true);
+    // Qt would move the focus to another row.
+    if (FocusedRow() == row) {
         selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
     }
     const std::unique_ptr<QTreeWidgetItem> removed(takeTopLevelItem(row));
     m_Mark = m_Mark == row ? -1 : m_Mark > row ? m_Mark - 1 : m_Mark;
 }
 
-void ListWidget::RemoveAll() {
-    const Act act(*this);
+void ListWidget::DeleteRows() {
+    const QScopedValueRollback change(m_IsChangedByProgram, true);
     clear();
     m_Mark = -1;
 }
 
+void ListWidget::SetCell(int row, int column, const CString& text) {
+    topLevelItem(row)->setText(column, QtText(text.View()));
+}
+
+CString ListWidget::Cell(int row, int column) const {
+    return TextOf(topLevelItem(row)->text(column));
+}
+
+void ListWidget::ScrollTo(int row) {
+    scrollToItem(topLevelItem(row));
+}
+
+void ListWidget::SelectRow(int row, bool selected) {
+    const QScopedValueRollback change(m_IsChangedByProgram, true);
+    topLevelItem(row)->setSelected(selected);
+}
+
+bool ListWidget::IsSelected(int row) const {
+    return topLevelItem(row)->isSelected();
+}
+
+int ListWidget::SelectedCount() const {
+    return static_cast<int>(selectionModel()->selectedRows().size());
+}
+
+void ListWidget::SetFocusedRow(int row) {
+    const QScopedValueRollback change(m_IsChangedByProgram, true);
+    setCurrentItem(topLevelItem(row), 0, QItemSelectionModel::NoUpdate);
+}
+
 void ListWidget::keyPressEvent(QKeyEvent* event) {
     const int key = NumberOf(event->key());
-    if (key != 0 && Events::Key(m_Handle, key)) {
+    if (key != 0 && SendKey(m_Handle, key)) {
         return;
     }
     if (key == VK_RETURN) {
-        event->ignore();  // and the dialog presses its default button
+        event->ignore();  // so that the dialog presses its default button
         return;
     }
     QTreeWidget::keyPressEvent(event);
@@ -164,24 +188,25 @@ void ListWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void ListWidget::mouseReleaseEvent(QMouseEvent* event) {
+    // The second release of a double click is not a click of its own.
     QTreeWidget::mouseReleaseEvent(event);
     if (!m_IsSecondClick) {
-        Events::Notice(m_Handle, NM_CLICK);
+        SendNotice(m_Handle, NM_CLICK);
     }
 }
 
 void ListWidget::mouseDoubleClickEvent(QMouseEvent* event) {
     m_IsSecondClick = true;
     QTreeWidget::mouseDoubleClickEvent(event);
-    Events::Notice(m_Handle, NM_DBLCLK);
+    SendNotice(m_Handle, NM_DBLCLK);
 }
 
 void ListWidget::selectionChanged(const QItemSelection& selected,
                                   const QItemSelection& deselected) {
     QTreeWidget::selectionChanged(selected, deselected);
-    if (m_Acts == 0) {
-        Events::Notice(m_Handle, LVN_ITEMCHANGED);
+    if (!m_IsChangedByProgram) {
+        SendNotice(m_Handle, LVN_ITEMCHANGED);
     }
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -2,49 +2,43 @@
 #pragma once
 
 #include <marlin/platform/windowing/c_image_list.h>
-#include <marlin/platform/windowing/window_types.h>
+#include <marlin/platform/windowing/report_list.h>
 
 #include <QIcon>
 #include <QTreeWidget>
 #include <vector>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
-/// A report list. What the user does in it is told to the dialog, what the program does is not.
-class ListWidget final : public QTreeWidget {
+/// A report list as a widget.
+class ListWidget final : public QTreeWidget, public ReportList {
 public:
-    /// While one lives, the program acts.
-    class Act {
-    public:
-        explicit Act(ListWidget& list) noexcept : m_List(list) { ++list.m_Acts; }
-        Act(const Act&) = delete;
-        Act& operator=(const Act&) = delete;
-        ~Act() { --m_List.m_Acts; }
-
-    private:
-        ListWidget& m_List;
-    };
-
     explicit ListWidget(HWND handle);
 
-    void AddColumn(int column, const QString& heading, int width);
-    [[nodiscard]] QString Heading(int column) const;
-    /// As it was given; 0 for none.
-    [[nodiscard]] int WidthOf(int column) const noexcept;
-
-    /// Makes columns at least as wide as they were asked to be, their headings and the rows in
-    /// view, and the list wide enough for all of them.
+    [[nodiscard]] int ColumnCount() const override { return columnCount(); }
+    void InsertColumn(int column, const CString& heading, int width) override;
+    [[nodiscard]] CString Heading(int column) const override;
+    [[nodiscard]] int ColumnWidth(int column) const override;
+    /// Makes each column at least as wide as it was given and as its heading and the rows in view
+    /// need, and the list wide enough for all columns.
     void FitColumns();
 
-    void SetImages(const CImageList& images);
-    void AddRow(int row, const QString& text, int image);
-    /// -1 for none.
-    [[nodiscard]] int ImageOf(int row) const;
-    [[nodiscard]] bool HasRow(int row) const { return row >= 0 && row < topLevelItemCount(); }
-    [[nodiscard]] int Mark() const noexcept { return m_Mark; }
-    void SetMark(int row) { m_Mark = HasRow(row) ? row : -1; }
-    void RemoveRow(int row);
-    void RemoveAll();
+    [[nodiscard]] int RowCount() const override { return topLevelItemCount(); }
+    void InsertRow(int row, const CString& text, int image) override;
+    void DeleteRow(int row) override;
+    void DeleteRows() override;
+    void SetCell(int row, int column, const CString& text) override;
+    [[nodiscard]] CString Cell(int row, int column) const override;
+    void SetImages(const CImageList* images) override;
+    void ScrollTo(int row) override;
+
+    void SelectRow(int row, bool selected) override;
+    [[nodiscard]] bool IsSelected(int row) const override;
+    [[nodiscard]] int SelectedCount() const override;
+    void SetFocusedRow(int row) override;
+    [[nodiscard]] int FocusedRow() const override { return currentIndex().row(); }
+    void SetSelectionMark(int row) override { m_Mark = row; }
+    [[nodiscard]] int SelectionMark() const override { return m_Mark; }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -55,17 +49,14 @@ protected:
                           const QItemSelection& deselected) override;
 
 private:
-    struct Column {
-        QString Heading;
-        int Width;
-    };
+    void ShowImage(QTreeWidgetItem& item) const;
 
     HWND m_Handle;
-    std::vector<Column> m_Columns;
+    std::vector<int> m_Widths;  ///< Of the columns, as given.
     std::vector<QIcon> m_Icons;
-    int m_Acts = 0;
     int m_Mark = -1;
+    bool m_IsChangedByProgram = false;
     bool m_IsSecondClick = false;
 };
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -3,7 +3,8 @@
 #include <marlin/platform/drawing/c_dc.h>
 #include <marlin/platform/drawing/c_font.h>
 #include <marlin/platform/drawing/drawing_constants.h>
-#include <marlin/qt/detail/events.h>
+#include <marlin/platform/windowing/user_events.h>
+#include <marlin/platform/windowing/windowing_constants.h>
 #include <marlin/qt/detail/owner_button.h>
 #include <marlin/qt/detail/qt_text.h>
 
@@ -12,7 +13,7 @@
 #include <QStyleOptionFocusRect>
 #include <algorithm>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 namespace {
 
@@ -39,7 +40,7 @@ QImage ImageOf(CDC& dc, const QSize& size) {
 
 }  // namespace
 
-void OwnerButton::DrawAnew() {
+void OwnerButton::DrawAgain() {
     const QSize pixels = size() * devicePixelRatioF();
     CDC dc;
     CBitmap surface;
@@ -52,7 +53,7 @@ void OwnerButton::DrawAnew() {
     font.CreateFontIndirectA(&wanted);
     CBitmap* const surfaceBefore = dc.SelectObject(&surface);
     CFont* const fontBefore = dc.SelectObject(&font);
-    QtWindowSystem::Events::Draw(m_Handle, dc.m_hDC, {0, 0, pixels.width(), pixels.height()});
+    SendDraw(m_Handle, ODA_DRAWENTIRE, dc, {0, 0, pixels.width(), pixels.height()});
     m_Face = ImageOf(dc, pixels);
     dc.SelectObject(fontBefore);
     dc.SelectObject(surfaceBefore);
@@ -70,4 +71,4 @@ void OwnerButton::paintEvent(QPaintEvent*) {
     }
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

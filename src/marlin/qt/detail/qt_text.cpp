@@ -4,7 +4,7 @@
 
 #include <QFile>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 QString QtText(std::string_view text) {
     return QString::fromStdString(ToUtf8(text));
@@ -31,4 +31,4 @@ COLORREF ColorOf(const QColor& color) {
     return static_cast<COLORREF>(color.red() | color.green() << 8 | color.blue() << 16);
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

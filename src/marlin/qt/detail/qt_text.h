@@ -8,17 +8,17 @@
 #include <QString>
 #include <string_view>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
-/// Texts in Windows-1252. Characters that it lacks become "?".
+/// Texts in Windows-1252 and back. Characters that it does not have become "?".
 [[nodiscard]] QString QtText(std::string_view text);
 [[nodiscard]] CString TextOf(const QString& text);
 
-/// Paths keep their bytes.
+/// Paths and back, with the same bytes.
 [[nodiscard]] QString QtPath(const CString& path);
 [[nodiscard]] CString PathOf(const QString& path);
 
 [[nodiscard]] QColor QtColor(COLORREF color);
 [[nodiscard]] COLORREF ColorOf(const QColor& color);
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

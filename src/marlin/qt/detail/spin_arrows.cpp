@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/qt/detail/events.h>
 #include <marlin/qt/detail/make.h>
 #include <marlin/qt/detail/qt_text.h>
 #include <marlin/qt/detail/spin_arrows.h>
@@ -9,7 +8,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 SpinArrows::SpinArrows(QLineEdit* edit)
     : m_Edit(edit), m_Up(MakeArrow(Qt::UpArrow, 1)), m_Down(MakeArrow(Qt::DownArrow, -1)) {
@@ -35,15 +34,9 @@ QToolButton* SpinArrows::MakeArrow(Qt::ArrowType type, int steps) {
     return arrow;
 }
 
-void SpinArrows::SetRange(int lower, int upper) noexcept {
-    m_Lower = lower;
-    m_Upper = upper;
-}
-
 void SpinArrows::Step(int steps) {
     if (m_Edit) {
-        m_Edit->setText(QtText(
-            QtWindowSystem::Events::Spun(TextOf(m_Edit->text()), steps, m_Lower, m_Upper).View()));
+        m_Edit->setText(QtText(m_Range.Step(TextOf(m_Edit->text()), steps).View()));
     }
 }
 
@@ -58,4 +51,4 @@ bool SpinArrows::eventFilter(QObject* object, QEvent* event) {
     return QWidget::eventFilter(object, event);
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

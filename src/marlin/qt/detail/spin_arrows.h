@@ -1,21 +1,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/platform/windowing/spin_range.h>
+
 #include <QPointer>
 #include <QWidget>
 
 class QLineEdit;
 class QToolButton;
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
-/// Two arrows that set whole numbers in an edit, as its arrow keys do then.
+/// Two arrows that count the whole number in an edit up and down, as do then the edit's own arrow
+/// keys.
 class SpinArrows final : public QWidget {
 public:
     explicit SpinArrows(QLineEdit* edit);
 
-    void SetRange(int lower, int upper) noexcept;
-    /// Null without arrows to press.
+    void SetRange(const SpinRange& range) noexcept { m_Range = range; }
+    /// The upper or the lower arrow.
     [[nodiscard]] QToolButton* Arrow(bool up) const noexcept { return up ? m_Up : m_Down; }
 
 protected:
@@ -28,8 +31,7 @@ private:
     QPointer<QLineEdit> m_Edit;
     QToolButton* m_Up;
     QToolButton* m_Down;
-    int m_Lower = 0;
-    int m_Upper = 100;
+    SpinRange m_Range;
 };
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

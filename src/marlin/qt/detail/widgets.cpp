@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/platform/windowing/window_messages.h>
-#include <marlin/qt/detail/events.h>
+#include <marlin/platform/windowing/user_events.h>
+#include <marlin/platform/windowing/windowing_constants.h>
+#include <marlin/qt/detail/drop_down_widget.h>
 #include <marlin/qt/detail/left_text_box.h>
 #include <marlin/qt/detail/list_widget.h>
 #include <marlin/qt/detail/make.h>
@@ -9,30 +10,26 @@
 #include <marlin/qt/detail/spin_arrows.h>
 #include <marlin/qt/detail/widgets.h>
 
-#include <QComboBox>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 namespace {
 
-template <typename Button>
-Button* MakeButton(HWND handle, const QString& text) {
-    auto* button = Make<Button>();
+template <typename Button, typename... Arguments>
+Button* MakeButton(HWND handle, const QString& text, Arguments... arguments) {
+    auto* const button = Make<Button>(arguments...);
     button->setText(text);
     QObject::connect(button, &QAbstractButton::clicked, button,
-                     [handle] { QtWindowSystem::Events::Command(handle, BN_CLICKED); });
+                     [handle] { SendCommand(handle, BN_CLICKED); });
     return button;
 }
 
 QWidget* MakeOwnerButton(HWND handle, const QString& text) {
-    auto* const button = Make<OwnerButton>(handle);
-    button->setText(text);
+    auto* const button = MakeButton<OwnerButton>(handle, text, handle);
     button->setAutoDefault(false);
-    QObject::connect(button, &QAbstractButton::clicked, button,
-                     [handle] { QtWindowSystem::Events::Command(handle, BN_CLICKED); });
     return button;
 }
 
@@ -40,15 +37,6 @@ QWidget* MakePushButton(HWND handle, const QString& text, bool isDefault) {
     auto* const button = MakeButton<QPushButton>(handle, text);
     button->setDefault(isDefault);
     return button;
-}
-
-QWidget* MakeDropDown(const ControlTemplate& control) {
-    auto* const combo = Make<QComboBox>();
-    for (const std::string_view item : control.Items) {
-        combo->addItem(QtText(item));
-    }
-    combo->setCurrentIndex(-1);
-    return combo;
 }
 
 QWidget* MakeWidget(const ControlTemplate& control, HWND handle, QWidget* before) {
@@ -66,7 +54,7 @@ QWidget* MakeWidget(const ControlTemplate& control, HWND handle, QWidget* before
         case CONTROL::CHECK_BOX:
             return MakeButton<LeftTextBox>(handle, text);
         case CONTROL::DROP_DOWN_LIST:
-            return MakeDropDown(control);
+            return Make<DropDownWidget>(control);
         case CONTROL::SPIN:
             return Make<SpinArrows>(qobject_cast<QLineEdit*>(before));
         case CONTROL::REPORT_LIST:
@@ -75,7 +63,7 @@ QWidget* MakeWidget(const ControlTemplate& control, HWND handle, QWidget* before
     return Make<QWidget>();
 }
 
-// Without the mark of the mnemonic and the colon.
+// Leaves the marks out that are not spoken: that of the mnemonic and the colon.
 QString Spoken(std::string_view text) {
     QString spoken = QtText(text);
     spoken.remove('&');
@@ -95,7 +83,7 @@ void Name(const DialogTemplate& form, std::span<QWidget* const> widgets) {
         const ControlTemplate* const before = i > 0 ? &form.Controls[i - 1] : nullptr;
         widgets[i]->setAccessibleName(SpokenName(form.Controls[i], before));
         auto* const label = i > 0 ? qobject_cast<QLabel*>(widgets[i - 1]) : nullptr;
-        // A label without a mnemonic is a heading of several controls.
+        // A label without a mnemonic is the heading of several controls.
         if (label && before->Text.find('&') != std::string_view::npos) {
             label->setBuddy(widgets[i]);
         }
@@ -133,4 +121,4 @@ std::vector<QWidget*> MakeWidgets(const DialogTemplate& form, std::span<const HW
     return widgets;
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

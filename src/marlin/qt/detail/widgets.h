@@ -2,7 +2,7 @@
 #pragma once
 
 #include <marlin/platform/windowing/dialog_template.h>
-#include <marlin/platform/windowing/window_types.h>
+#include <marlin/platform/windowing/messages.h>
 
 #include <span>
 #include <vector>
@@ -10,11 +10,11 @@
 class QDialog;
 class QWidget;
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
-/// Makes the widgets of a template's controls, each with its spoken name and in tab order, owned
-/// by their dialog.
+/// Makes the widgets of a template's controls, owned by their dialog, each with the name that a
+/// screen reader says, and sets the tab order.
 [[nodiscard]] std::vector<QWidget*> MakeWidgets(const DialogTemplate& form,
                                                 std::span<const HWND> handles, QDialog& dialog);
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 const std::shared_ptr<MessageQueue>& MessageQueue::OfThisThread() {
     thread_local const auto queue = std::make_shared<MessageQueue>();
@@ -45,4 +45,4 @@ void MessageQueue::Drop(HWND window) {
     std::erase_if(m_Messages, [window](const MSG& message) { return message.hwnd == window; });
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

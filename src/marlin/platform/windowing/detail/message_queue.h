@@ -8,14 +8,14 @@
 #include <memory>
 #include <mutex>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
-/// Which messages a thread asks for: those for a window (null: any) with a number of a range,
+/// The messages that a thread asks for: those for a window (null: any) with a number in a range,
 /// both ends included (0 and 0: any).
 struct MessageFilter {
     HWND Window = nullptr;
-    unsigned int First = 0;
-    unsigned int Last = 0;
+    UINT First = 0;
+    UINT Last = 0;
 
     [[nodiscard]] bool Takes(const MSG& message) const noexcept {
         return (!Window || message.hwnd == Window) &&
@@ -23,19 +23,20 @@ struct MessageFilter {
     }
 };
 
-/// The messages posted to the windows of one thread, in their order. Every thread may post; the
-/// thread itself takes.
+/// The messages posted to the windows of one thread, in their order. Every thread may post; only
+/// the thread itself takes.
 class MessageQueue {
 public:
     /// The calling thread's queue, made on the first call.
     [[nodiscard]] static const std::shared_ptr<MessageQueue>& OfThisThread();
 
     void Post(const MSG& message);
-    /// Copies the oldest message that the filter takes, and removes it if asked to.
+    /// Copies the oldest message that the filter takes, and removes it when `remove` is set.
+    /// False, and `message` unchanged, for none.
     bool Peek(MSG& message, const MessageFilter& filter, bool remove);
-    /// Takes the oldest one, waiting for it.
+    /// Waits for such a message and removes it.
     void Get(MSG& message, const MessageFilter& filter);
-    /// Drops what waits for the window.
+    /// Drops the messages for the window.
     void Drop(HWND window);
 
 private:
@@ -46,4 +47,4 @@ private:
     std::deque<MSG> m_Messages;
 };
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -4,11 +4,18 @@
 
 #include <vector>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 namespace {
 
 [[gnu::init_priority(MARLINSUITE::detail::LoadValues)]] WindowTable all;
+
+// An object without a window does not come back here when it is destroyed, which would lock twice.
+void LetGo(CWnd* wrapper) noexcept {
+    if (wrapper) {
+        wrapper->m_hWnd = nullptr;
+    }
+}
 
 }  // namespace
 
@@ -17,17 +24,10 @@ WindowTable& WindowTable::Get() noexcept {
 }
 
 WindowTable::~WindowTable() {
+    // A host's static objects may be destroyed after the table.
     for (auto& [window, record] : m_Records) {
-        LetGo(record);
-    }
-}
-
-void WindowTable::LetGo(Record& record) noexcept {
-    if (record.Attached) {
-        record.Attached->m_hWnd = nullptr;
-    }
-    if (record.MadeUp) {
-        record.MadeUp->m_hWnd = nullptr;
+        LetGo(record.Attached);
+        LetGo(record.MadeUp.get());
     }
 }
 
@@ -36,29 +36,42 @@ WindowTable::Record* WindowTable::Find(HWND window) {
     return found == m_Records.end() ? nullptr : &found->second;
 }
 
-HWND WindowTable::Add(HWND parent, int id) {
-    Record record;
-    record.Parent = parent;
-    record.Id = id;
-    record.Queue = MessageQueue::OfThisThread();
-    const std::scoped_lock lock(m_Lock);
+HWND WindowTable::Insert(Record record) {
     const HWND window = reinterpret_cast<HWND>(++m_LastHandle);
     m_Records[window] = std::move(record);
     return window;
 }
 
-void WindowTable::AddOwned(CWnd* owner) {
-    const HWND window = Add(nullptr, 0);
+HWND WindowTable::Add(HWND parent, int id) {
     const std::scoped_lock lock(m_Lock);
-    Attach(window, owner);
-    Find(window)->IsOwned = true;
+    return Insert({parent, id});
+}
+
+void WindowTable::AddOwned(CWnd* owner) {
+    const std::scoped_lock lock(m_Lock);
+    owner->m_hWnd = Insert({nullptr, 0, owner, true});
 }
 
 void WindowTable::Erase(HWND window) {
-    auto record = m_Records.extract(window);
-    if (record) {
-        LetGo(record.mapped());
-        record.mapped().Queue->Drop(window);
+    if (auto erased = m_Records.extract(window)) {
+        const Record& record = erased.mapped();
+        LetGo(record.Attached);
+        LetGo(record.MadeUp.get());
+        record.Queue->Drop(window);
+    }
+}
+
+void WindowTable::Remove(HWND window) {
+    const std::scoped_lock lock(m_Lock);
+    std::vector<HWND> ending = {window};
+    for (const auto& [child, record] : m_Records) {
+        // A dialog has its parent window too, but not a number there, and outlives it.
+        if (record.Parent == window && record.Id != 0) {
+            ending.push_back(child);
+        }
+    }
+    for (const HWND ended : ending) {
+        Erase(ended);
     }
 }
 
@@ -71,32 +84,6 @@ bool WindowTable::RemoveOwned(const CWnd* owner) {
         Erase(window);
     }
     return isOwned;
-}
-
-MessageTarget WindowTable::Target(HWND window) {
-    const std::scoped_lock lock(m_Lock);
-    const Record* const record = Find(window);
-    return record ? MessageTarget{Wrapper(window), record->Queue} : MessageTarget();
-}
-
-CWnd* WindowTable::Attached(HWND window) {
-    const std::scoped_lock lock(m_Lock);
-    const Record* const record = Find(window);
-    return record ? record->Attached : nullptr;
-}
-
-void WindowTable::Remove(HWND window) {
-    const std::scoped_lock lock(m_Lock);
-    std::vector<HWND> children;
-    for (const auto& [child, record] : m_Records) {
-        if (record.Parent == window && record.Id != 0) {
-            children.push_back(child);
-        }
-    }
-    for (const HWND child : children) {
-        Erase(child);
-    }
-    Erase(window);
 }
 
 bool WindowTable::Has(HWND window) {
@@ -126,20 +113,33 @@ HWND WindowTable::Child(HWND parent, int id) {
     return nullptr;
 }
 
+MessageTarget WindowTable::Target(HWND window) {
+    const std::scoped_lock lock(m_Lock);
+    Record* const record = Find(window);
+    return record ? MessageTarget{WrapperOf(*record, window), record->Queue} : MessageTarget();
+}
+
+CWnd* WindowTable::Attached(HWND window) {
+    const std::scoped_lock lock(m_Lock);
+    const Record* const record = Find(window);
+    return record ? record->Attached : nullptr;
+}
+
+CWnd* WindowTable::WrapperOf(Record& record, HWND window) {
+    if (record.Attached) {
+        return record.Attached;
+    }
+    if (!record.MadeUp) {
+        record.MadeUp = std::make_unique<CWnd>();
+        record.MadeUp->m_hWnd = window;
+    }
+    return record.MadeUp.get();
+}
+
 CWnd* WindowTable::Wrapper(HWND window) {
     const std::scoped_lock lock(m_Lock);
     Record* const record = Find(window);
-    if (!record) {
-        return nullptr;
-    }
-    if (record->Attached) {
-        return record->Attached;
-    }
-    if (!record->MadeUp) {
-        record->MadeUp = std::make_unique<CWnd>();
-        record->MadeUp->m_hWnd = window;
-    }
-    return record->MadeUp.get();
+    return record ? WrapperOf(*record, window) : nullptr;
 }
 
 bool WindowTable::Attach(HWND window, CWnd* wrapper) {
@@ -161,4 +161,4 @@ void WindowTable::Detach(const CWnd* wrapper) {
     }
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

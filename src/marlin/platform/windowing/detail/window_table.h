@@ -8,10 +8,10 @@
 #include <mutex>
 #include <unordered_map>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
-/// The object that a message to a window goes to and the queue of the thread that made the
-/// window; null for none.
+/// The object that handles a window's messages and the queue of the thread that made the window;
+/// null for a handle of none.
 struct MessageTarget {
     CWnd* Window = nullptr;
     std::shared_ptr<MessageQueue> Queue;
@@ -21,7 +21,8 @@ struct MessageTarget {
     }
 };
 
-/// The windows of the process and the objects attached to them.
+/// The windows of the process and the `CWnd` objects attached to them. Handles are counted up and
+/// never used again, so an old one names no window. May be used from any thread.
 class WindowTable {
 public:
     WindowTable() = default;
@@ -31,21 +32,21 @@ public:
 
     [[nodiscard]] static WindowTable& Get() noexcept;
 
-    /// A new window of the calling thread; a control has a parent and its number.
+    /// A new window of the calling thread; a control has a parent and its number there.
     [[nodiscard]] HWND Add(HWND parent, int id);
     /// A new window that ends with its object.
     void AddOwned(CWnd* owner);
-    /// Ends a window and its controls; their objects have none afterwards, and messages that
+    /// Ends a window and its controls: their objects have none afterwards, and the messages that
     /// wait for them are dropped.
     void Remove(HWND window);
-    /// Ends the window that is owned by the object; false when it owns none.
+    /// Ends the window that the object owns; false when it owns none.
     bool RemoveOwned(const CWnd* owner);
-    [[nodiscard]] MessageTarget Target(HWND window);
 
     [[nodiscard]] bool Has(HWND window);
     [[nodiscard]] HWND Parent(HWND window);
     [[nodiscard]] int Id(HWND window);
     [[nodiscard]] HWND Child(HWND parent, int id);
+    [[nodiscard]] MessageTarget Target(HWND window);
 
     [[nodiscard]] CWnd* Attached(HWND window);
     /// The attached object, or one made up for the window.
@@ -58,19 +59,20 @@ private:
         HWND Parent = nullptr;
         int Id = 0;
         CWnd* Attached = nullptr;
-        bool IsOwned = false;
-        std::unique_ptr<CWnd> MadeUp;
-        std::shared_ptr<MessageQueue> Queue;
+        bool IsOwned = false;  ///< The window ends with the attached object.
+        std::unique_ptr<CWnd> MadeUp = nullptr;
+        std::shared_ptr<MessageQueue> Queue = MessageQueue::OfThisThread();
     };
 
+    // These are for callers that hold the lock.
     [[nodiscard]] Record* Find(HWND window);
+    HWND Insert(Record record);
     void Erase(HWND window);
-    static void LetGo(Record& record) noexcept;
+    [[nodiscard]] static CWnd* WrapperOf(Record& record, HWND window);
 
-    // Recursive: ending a made-up wrapper comes back here.
-    std::recursive_mutex m_Lock;
+    std::mutex m_Lock;
     std::unordered_map<HWND, Record> m_Records;
     std::uintptr_t m_LastHandle = 0;
 };
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -1,24 +1,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/platform/drawing/handles.h>
 #include <marlin/platform/text/c_string.h>
-#include <marlin/platform/windowing/window_types.h>
+#include <marlin/platform/windowing/messages.h>
 
 #include <string>
 
+// The boxes that a program asks its window system to show.
+
 namespace PLATFORM {
 
-/// A message box that is asked for: its buttons and icon as the framework's MB_ numbers.
+/// A message box.
 struct MessageRequest {
     CString Text;
     CString Caption;
-    UINT Type = 0;
+    UINT Type = 0;  ///< Buttons and icon, the framework's MB_ numbers.
 };
 
-/// A file dialog that is asked for.
+/// A file dialog.
 struct FileRequest {
     bool Open = true;
-    CString DefaultExtension;  ///< Added to a typed name without one.
+    CString DefaultExtension;
     /// Pairs of a description and a pattern, each ended by a null character; one more ends it.
     std::string Filter;
     CString InitialFolder;
@@ -26,7 +29,7 @@ struct FileRequest {
     CString FileName;
 };
 
-/// A color dialog that is asked for.
+/// A color dialog.
 struct ColorRequest {
     COLORREF Color = 0;
     UINT Flags = 0;  ///< The framework's CC_ numbers.

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/platform/windowing/c_color_dialog.h>
 #include <marlin/platform/windowing/c_file_dialog.h>
 #include <marlin/platform/windowing/c_wnd.h>
 #include <marlin/platform/windowing/window_system.h>
 
 #include <algorithm>
 
-using PLATFORM::WindowSystem;
-
 namespace {
 
-HWND HandleOf(const CWnd* window) noexcept {
-    return window ? window->GetSafeHwnd() : nullptr;
+// A name that starts with its only dot, as hidden files do, has no extension.
+CString WithExtension(const CString& path, const CString& extension) {
+    const CString name = path.Mid(path.ReverseFind('/') + 1);
+    const bool isComplete = extension.IsEmpty() || name.IsEmpty() || name.ReverseFind('.') > 0;
+    return isComplete ? path : path + '.' + extension;
 }
 
 }  // namespace
@@ -34,13 +34,11 @@ int CFileDialog::DoModal() {
                                            m_ofn.lpstrInitialDir,
                                            static_cast<UINT>(m_ofn.Flags),
                                            m_FileName};
-    const bool chosen = WindowSystem::Current().ChooseFile(HandleOf(m_Parent), request, m_Path);
-    return chosen ? IDOK : IDCANCEL;
-}
-
-int CColorDialog::DoModal() {
-    const PLATFORM::ColorRequest request = {m_cc.rgbResult, static_cast<UINT>(m_cc.Flags)};
-    const bool chosen =
-        WindowSystem::Current().ChooseColor(HandleOf(m_Parent), request, m_cc.rgbResult);
-    return chosen ? IDOK : IDCANCEL;
+    const HWND parent = m_Parent ? m_Parent->GetSafeHwnd() : nullptr;
+    CString path;
+    if (!PLATFORM::WindowSystem::Current().ChooseFile(parent, request, path)) {
+        return IDCANCEL;
+    }
+    m_Path = WithExtension(path, m_DefaultExtension);
+    return IDOK;
 }

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/windowing/c_file_dialog.h>
-#include <marlin/platform/windowing/window_messages.h>
+#include <marlin/platform/windowing/windowing_constants.h>
+#include <marlin/qt/detail/boxes.h>
 #include <marlin/qt/detail/qt_text.h>
-#include <marlin/qt/window_system.h>
 
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QMessageBox>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 namespace {
 
@@ -25,7 +25,7 @@ QMessageBox::Icon IconOf(UINT type) noexcept {
     }
 }
 
-// "Description (*.ext)" a line, from pairs that end in null characters.
+// Each filter as "Description (*.ext)", from the pairs that end in null characters.
 QStringList FiltersOf(const std::string& pairs) {
     QStringList filters;
     const QStringList parts = QtText(pairs).split(QChar(0));
@@ -38,8 +38,8 @@ QStringList FiltersOf(const std::string& pairs) {
 
 }  // namespace
 
-int QtWindowSystem::ShowMessage(HWND parent, const MessageRequest& request) {
-    QMessageBox box(Widget(parent));
+int ShowMessage(QWidget* parent, const MessageRequest& request) {
+    QMessageBox box(parent);
     box.setWindowTitle(QtText(request.Caption.View()));
     box.setTextFormat(Qt::PlainText);
     box.setText(QtText(request.Text.View()));
@@ -53,9 +53,9 @@ int QtWindowSystem::ShowMessage(HWND parent, const MessageRequest& request) {
     return box.exec() == QMessageBox::Yes ? IDYES : IDNO;
 }
 
-bool QtWindowSystem::ChooseFile(HWND parent, const FileRequest& request, CString& path) {
-    QFileDialog dialog(Widget(parent));
-    // The toolkit's own dialog looks and works the same everywhere.
+bool ChooseFile(QWidget* parent, const FileRequest& request, CString& path) {
+    QFileDialog dialog(parent);
+    // The toolkit's own dialog looks and works the same on every desktop.
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setFileMode(QFileDialog::AnyFile);
     const bool asksBefore = (request.Flags & OFN_OVERWRITEPROMPT) != 0;
@@ -70,12 +70,12 @@ bool QtWindowSystem::ChooseFile(HWND parent, const FileRequest& request, CString
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return false;
     }
-    path = WithExtension(PathOf(dialog.selectedFiles().first()), request.DefaultExtension);
+    path = PathOf(dialog.selectedFiles().first());
     return true;
 }
 
-bool QtWindowSystem::ChooseColor(HWND parent, const ColorRequest& request, COLORREF& color) {
-    QColorDialog dialog(QtColor(request.Color), Widget(parent));
+bool ChooseColor(QWidget* parent, const ColorRequest& request, COLORREF& color) {
+    QColorDialog dialog(QtColor(request.Color), parent);
     dialog.setOption(QColorDialog::DontUseNativeDialog);
     if (dialog.exec() != QDialog::Accepted) {
         return false;
@@ -84,4 +84,4 @@ bool QtWindowSystem::ChooseColor(HWND parent, const ColorRequest& request, COLOR
     return true;
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/core/number_text.h>
 #include <marlin/platform/windowing/c_data_exchange.h>
-#include <marlin/platform/windowing/detail/number_form.h>
 #include <marlin/platform/windowing/window_system.h>
 
+#include <limits>
+
+using PLATFORM::DropDownList;
 using PLATFORM::WindowSystem;
 
 namespace {
@@ -16,12 +19,16 @@ void ExchangeReal(CDataExchange& exchange, int id, Real& value) {
         return;
     }
     if (!exchange.m_bSaveAndValidate) {
-        edit->SetWindowText(PLATFORM::RealText(value).c_str());
+        // As many digits as survive a round trip, so that 0.1 + 0.2 is shown as 0.3.
+        std::string shown;
+        MARLINSUITE::AppendGeneral(shown, static_cast<double>(value),
+                                   std::numeric_limits<Real>::digits10);
+        edit->SetWindowText(shown.c_str());
         return;
     }
     CString text;
     edit->GetWindowText(text);
-    if (!PLATFORM::ParseReal(text.View(), value)) {
+    if (!MARLINSUITE::ParseWhole(text.View(), value)) {
         exchange.Fail(*edit, numberWanted);
     }
 }
@@ -74,12 +81,14 @@ void DDX_Check(CDataExchange* exchange, int id, int& value) {
 }
 
 void DDX_CBIndex(CDataExchange* exchange, int id, int& value) {
-    if (CWnd* const combo = exchange->PrepareCtrl(id)) {
-        WindowSystem& system = WindowSystem::Current();
-        if (exchange->m_bSaveAndValidate) {
-            value = system.CurrentItem(combo->m_hWnd);
-        } else {
-            system.SetCurrentItem(combo->m_hWnd, value);
-        }
+    const CWnd* const combo = exchange->PrepareCtrl(id);
+    if (!combo) {
+        return;
+    }
+    DropDownList* const items = WindowSystem::Current().FindDropDown(combo->m_hWnd);
+    if (exchange->m_bSaveAndValidate) {
+        value = items ? items->CurrentItem() : -1;
+    } else if (items) {
+        items->SetCurrentItem(value);
     }
 }

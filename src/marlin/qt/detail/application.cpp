@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/qt/window_system.h>
+#include <marlin/qt/detail/application.h>
+#include <marlin/qt/detail/make.h>
 
 #include <QApplication>
 #include <QFileInfo>
 #include <array>
-#include <memory>
 
 #include <xcb/xcb.h>
+
+namespace PLATFORM::detail {
 
 namespace {
 
@@ -24,7 +26,8 @@ bool HasXServer() {
     return isConnected;
 }
 
-// An application without a display ends the process, so it is looked for before.
+// Qt ends the process when it makes an application without a display, so the display is looked for
+// before.
 bool HasDisplay() {
     const QString platform = qEnvironmentVariable("QT_QPA_PLATFORM").section(':', 0, 0);
     if (platform == "xcb") {
@@ -36,6 +39,7 @@ bool HasDisplay() {
     return !platform.isEmpty() || HasWaylandServer() || HasXServer();
 }
 
+// Qt keeps references to the arguments.
 struct OwnApplication {
     int Count = 1;
     std::array<char, 7> Name = {"marlin"};
@@ -43,26 +47,16 @@ struct OwnApplication {
     QApplication Application{Count, Arguments.data()};
 };
 
-// Lives until the process has ended. The statics of Qt, which come and go in an order of their own,
-// and dialogs that are static objects are then destroyed while it still stands.
-template <typename Object>
-Object* MakeForever() {
-    return std::make_unique<Object>().release();
-}
-
 }  // namespace
 
-bool MARLINSUITE::UseQtWindows() {
+bool HaveApplication() {
     if (!QCoreApplication::instance()) {
         if (!HasDisplay()) {
             return false;
         }
         [[maybe_unused]] static auto* const application = MakeForever<OwnApplication>();
     }
-    if (!qobject_cast<QApplication*>(QCoreApplication::instance())) {
-        return false;
-    }
-    static auto* const windows = MakeForever<PLATFORM::QtWindowSystem>();
-    PLATFORM::WindowSystem::SetCurrent(windows);
-    return true;
+    return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
 }
+
+}  // namespace PLATFORM::detail

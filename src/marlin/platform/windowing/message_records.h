@@ -6,23 +6,23 @@
 #include <marlin/platform/drawing/rect.h>
 #include <marlin/platform/windowing/messages.h>
 
-using UINT = unsigned int;
+// The records that the `lParam` of some messages points to.
 
-/// What every notification of a control begins with.
+/// `WM_NOTIFY`: the control and what happened in it. Other notices begin with these fields.
 struct NMHDR {
     HWND hwndFrom = nullptr;
     UINT idFrom = 0;
     UINT code = 0;
 };
 
-/// A key that was pressed in a list.
+/// `WM_NOTIFY` with `LVN_KEYDOWN`: a key was pressed in a list.
 struct NMLVKEYDOWN {
     NMHDR hdr;
     unsigned short wVKey = 0;
     UINT flags = 0;
 };
 
-/// A request for help.
+/// `WM_HELP`: the user asked for help.
 struct HELPINFO {
     UINT cbSize = sizeof(HELPINFO);
     int iContextType = 1;  // a window
@@ -31,7 +31,7 @@ struct HELPINFO {
     POINT MousePos;
 };
 
-/// What an owner-drawn control is given to draw itself.
+/// `WM_DRAWITEM`: an owner-drawn control is to draw itself onto a context.
 struct DRAWITEMSTRUCT {
     UINT CtlType = 0;
     UINT CtlID = 0;

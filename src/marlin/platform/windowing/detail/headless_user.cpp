@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include <marlin/platform/windowing/detail/headless_control.h>
+#include <marlin/platform/windowing/detail/headless_user.h>
+#include <marlin/platform/windowing/user_events.h>
+#include <marlin/platform/windowing/windowing_constants.h>
+
+#include <algorithm>
+
+namespace PLATFORM::detail {
+
+// The control if a person can get at it now.
+HeadlessControl* HeadlessUser::Reach(int id) const {
+    if (!IsOnTop()) {
+        return nullptr;
+    }
+    for (const HWND window : m_System.FindDialog(m_Dialog)->Controls) {
+        HeadlessControl* const control = m_System.FindControl(window);
+        if (control->Form.Id == id && control->IsEnabled) {
+            return control;
+        }
+    }
+    return nullptr;
+}
+
+HeadlessControl* HeadlessUser::Reach(int id, CONTROL kind) const {
+    HeadlessControl* const control = Reach(id);
+    return control && control->Is(kind) ? control : nullptr;
+}
+
+bool HeadlessUser::Push(const HeadlessControl& button) {
+    m_System.SetFocus(button.Window);
+    SendCommand(button.Window, BN_CLICKED);
+    return true;
+}
+
+bool HeadlessUser::Click(int control) {
+    HeadlessControl* const found = Reach(control);
+    if (!found) {
+        return false;
+    }
+    if (found->Is(CONTROL::CHECK_BOX)) {
+        found->IsChecked = !found->IsChecked;
+        return Push(*found);
+    }
+    return found->IsButton() && Push(*found);
+}
+
+bool HeadlessUser::Type(int edit, const CString& text) {
+    HeadlessControl* const found = Reach(edit, CONTROL::EDIT);
+    if (found) {
+        m_System.SetFocus(found->Window);
+        found->Text = text;
+    }
+    return found != nullptr;
+}
+
+bool HeadlessUser::Spin(int spin, int steps) {
+    const HeadlessControl* const found = Reach(spin, CONTROL::SPIN);
+    HeadlessControl* const edit = found ? m_System.FindControl(found->Before) : nullptr;
+    if (edit) {
+        edit->Text = found->Range.Step(edit->Text, steps);
+    }
+    return edit != nullptr;
+}
+
+bool HeadlessUser::Choose(int combo, int item) {
+    HeadlessControl* const found = Reach(combo, CONTROL::DROP_DOWN_LIST);
+    if (!found || !found->Items.HasItem(item)) {
+        return false;
+    }
+    m_System.SetFocus(found->Window);
+    found->Items.SetCurrentItem(item);
+    return true;
+}
+
+void HeadlessUser::SelectOnly(HeadlessControl& list, const std::vector<int>& rows) {
+    list.List.SelectOnly(rows);
+    m_System.SetFocus(list.Window);
+    SendNotice(list.Window, LVN_ITEMCHANGED);
+}
+
+bool HeadlessUser::SelectRows(int list, const std::vector<int>& rows) {
+    HeadlessControl* const found = Reach(list, CONTROL::REPORT_LIST);
+    const auto isThere = [&](int row) { return found->List.HasRow(row); };
+    if (!found || !std::ranges::all_of(rows, isThere)) {
+        return false;
+    }
+    SelectOnly(*found, rows);
+    SendNotice(found->Window, NM_CLICK);
+    return true;
+}
+
+bool HeadlessUser::DoubleClick(int list, int row) {
+    if (!SelectRows(list, {row})) {
+        return false;
+    }
+    // The click may have ended the dialog or disabled the list.
+    if (const HeadlessControl* const found = Reach(list)) {
+        SendNotice(found->Window, NM_DBLCLK);
+    }
+    return true;
+}
+
+bool HeadlessUser::PushDefault() {
+    for (const HWND window : m_System.FindDialog(m_Dialog)->Controls) {
+        const HeadlessControl* const control = m_System.FindControl(window);
+        if (control->Is(CONTROL::DEFAULT_BUTTON) && control->IsEnabled) {
+            return Push(*control);
+        }
+    }
+    return false;
+}
+
+bool HeadlessUser::PressEnter(const HeadlessControl* focus) {
+    if (focus && focus->Is(CONTROL::REPORT_LIST) && SendKey(focus->Window, VK_RETURN)) {
+        return true;
+    }
+    return focus && focus->IsButton() && focus->IsEnabled ? Push(*focus) : PushDefault();
+}
+
+bool HeadlessUser::PressInList(HeadlessControl& list, int key) {
+    const int step = key == VK_UP ? -1 : key == VK_DOWN ? 1 : 0;
+    const int row = list.List.FocusedRow() + step;
+    if (step == 0) {
+        static_cast<void>(SendKey(list.Window, key));
+    } else if (list.List.HasRow(row)) {
+        SelectOnly(list, {row});
+    }
+    return true;
+}
+
+bool HeadlessUser::Press(int key) {
+    if (!IsOnTop()) {
+        return false;
+    }
+    HeadlessControl* const focus = m_System.FindControl(m_System.Focus(m_Dialog));
+    switch (key) {
+        case VK_F1:
+            SendHelp(m_Dialog);
+            return true;
+        case VK_ESCAPE:
+            return CloseFrame();
+        case VK_RETURN:
+            return PressEnter(focus);
+        default:
+            return focus && focus->Is(CONTROL::REPORT_LIST) && PressInList(*focus, key);
+    }
+}
+
+bool HeadlessUser::CloseFrame() {
+    if (!IsOnTop()) {
+        return false;
+    }
+    SendClose(m_Dialog);
+    return true;
+}
+
+}  // namespace PLATFORM::detail

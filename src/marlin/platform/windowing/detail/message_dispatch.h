@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <marlin/platform/windowing/message_map.h>
+
+namespace PLATFORM::detail {
+
+/// The parts of a message by which the entries of message maps are told apart, and what its
+/// handler is called with.
+struct Notice {
+    UINT Message = 0;
+    UINT Code = 0;
+    int Id = 0;
+    bool IsReflected = false;  ///< For the control itself rather than for its dialog.
+    void* Record = nullptr;
+    LRESULT* Result = nullptr;
+};
+
+/// Calls the first handler that fits, of the map or else of its bases. False for none.
+bool CallHandler(CWnd& window, const AFX_MSGMAP* map, const Notice& notice);
+
+}  // namespace PLATFORM::detail

@@ -45,7 +45,7 @@ std::span<const RecordFields> KeysOfKinds() {
     static const std::vector<RecordFields> keys = [] {
         std::vector<RecordFields> lists;
         for (const RecordKind& kind : MARLINSUITE::RecordKinds()) {
-            lists.push_back(kind.Read(Section(""), ""));
+            lists.push_back(kind.Defaults());
         }
         return lists;
     }();

@@ -2,6 +2,7 @@
 #include <marlin/base/colors/color_table.h>
 #include <marlin/contours/contour_definition_list.h>
 #include <marlin/contours/detail/contour_file.h>
+#include <marlin/contours/detail/contour_keys.h>
 #include <marlin/core/detail/load_order.h>
 
 #include <algorithm>
@@ -12,7 +13,8 @@
 
 [[gnu::init_priority(
     MARLINSUITE::detail::LoadValues)]] const std::string ContourDefinitionList::LINESTYLES[3] = {
-    "CONTINUOUS", "DASHED", "DOTTED"};
+    MARLINSUITE::detail::LineTypes[0].Text, MARLINSUITE::detail::LineTypes[1].Text,
+    MARLINSUITE::detail::LineTypes[2].Text};
 
 namespace {
 

@@ -23,6 +23,11 @@ concept Prefixed = requires(Record record, const std::string& prefix, const Sect
 };
 
 template <class Record>
+RecordFields DefaultFields() {
+    return Record().Fields();
+}
+
+template <class Record>
 RecordFields ReadFields(const Section& section, const std::string& prefix) {
     Record record;
     if constexpr (Prefixed<Record>) {
@@ -31,22 +36,29 @@ RecordFields ReadFields(const Section& section, const std::string& prefix) {
             return record.Fields();
         }
     }
-    static_cast<void>(record.Read(section));  // which always succeeds
+    static_cast<void>(record.Read(section));  // always a success
     return record.Fields();
 }
 
 template <class Record>
 constexpr RecordKind KindOf(const char* name, const char* className, int numNeeded) {
-    return {name, className, numNeeded, Prefixed<Record>, &ReadFields<Record>};
+    return {
+        name, className, numNeeded, Prefixed<Record>, &DefaultFields<Record>, &ReadFields<Record>};
 }
 
-RecordFields ReadContourFields(const Section& section, const std::string& /*prefix*/) {
-    ContourDefinitionList::ContourDefInfo contour;
-    RecordFields fields;
-    detail::ForEachContourKey(contour, detail::KeyReader(section));
-    detail::ForEachContourKey(contour, detail::KeyLister(fields));
-    return fields;
-}
+// A definition is no class of its own that reads and writes.
+struct ContourRecord {
+    ContourDefinitionList::ContourDefInfo Contour;
+
+    void Read(const Section& section) {
+        detail::ForEachContourKey(Contour, detail::KeyReader(section));
+    }
+    [[nodiscard]] RecordFields Fields() {
+        RecordFields fields;
+        detail::ForEachContourKey(Contour, detail::KeyLister(fields));
+        return fields;
+    }
+};
 
 // Where two keys are needed, programs use the names for other things as well.
 constexpr RecordKind kinds[] = {
@@ -60,7 +72,7 @@ constexpr RecordKind kinds[] = {
     KindOf<PaperGrid>("paper grid", "PaperGrid", 2),
     KindOf<PanelInfo>("panel", "PanelInfo", 2),
     KindOf<ContourInfo>("contour settings", "ContourInfo", 1),
-    {"contour definition", "ContourDefinitionList::ContourDefInfo", 2, false, &ReadContourFields},
+    KindOf<ContourRecord>("contour definition", "ContourDefinitionList::ContourDefInfo", 2),
 };
 
 }  // namespace

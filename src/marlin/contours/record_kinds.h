@@ -11,22 +11,25 @@ class Section;
 
 namespace MARLINSUITE {
 
-/// A kind of record that settings sections hold key by key. The kinds are constant data.
+/// A kind of record that settings sections hold key by key, for programs that work on records
+/// without knowing their classes. The kinds are constant data.
 ///
 /// @code
 /// Section section("Border");
-/// section["LineColor"] << 1;
-/// const MARLINSUITE::RecordKind& line = MARLINSUITE::RecordKinds()[0];
-/// const MARLINSUITE::RecordFields fields = line.Read(section, "");
-/// assert(fields[0].Key.Name == std::string("LineColor") && fields[0].Text == "10");
+/// section["LineWidth"] << 0.5F;
+/// for (const MARLINSUITE::RecordKind& kind : MARLINSUITE::RecordKinds())
+///     for (const MARLINSUITE::RecordField& field : kind.Read(section, ""))
+///         if (section.HasKey(field.Key.Name))
+///             std::printf("%s: %s = %s\n", kind.Name, field.Key.Name, field.Text.c_str());
 /// @endcode
 struct RecordKind {
     const char* Name;   ///< For people.
     const char* Class;  ///< The class that reads and writes it.
     int NumNeeded;      ///< How many keys, common ones counted, show that a section holds one.
     bool TakesPrefix;   ///< Whether the keys may have a prefix and a "." before their names.
-    /// Makes a record, reads it from a section and returns its fields. Without a prefix the text
-    /// is empty.
+    /// The fields of a record that nobody changed.
+    RecordFields (*Defaults)();
+    /// The fields of such a record once it has read a section; the prefix is empty for none.
     RecordFields (*Read)(const Section& section, const std::string& prefix);
 };
 

@@ -63,7 +63,7 @@ void GeoGridInfo::ForEachKey(const Keys& keys) {
          Interval{m_LatInterval});
     keys({"LatLonStyle", 3, "style code of the labels"}, m_LatLonStyle);
     keys({"LatLonDecimals", 4, "decimals of the labels"}, m_LatLonDecimals);
-    keys({"TrailingHemisphereIndicator", 5, "where the hemisphere's letter is", "",
+    keys({"TrailingHemisphereIndicator", 5, "place of the hemisphere's letter", "",
           hemisphereLetter},
          m_TrailingHemisphereIndicator);
     keys({"DegMinSecSymbols", 6, "symbols of degrees and minutes"}, m_DegMinSecSymbols);

@@ -48,13 +48,7 @@ void LineInfo::SetWidth(float width) noexcept {
 }
 
 void LineInfo::SetStyleStr(const std::string& text) noexcept {
-    m_Style = SOLID_LINE;
-    for (std::size_t i = 0; i < std::size(STYLEDESCRIPTIONS); ++i) {
-        if (icompare(text, STYLEDESCRIPTIONS[i])) {
-            m_Style = static_cast<LINESTYLE>(i);
-            return;
-        }
-    }
+    m_Style = static_cast<LINESTYLE>(ValueOfText(styles, text, SOLID_LINE));
 }
 
 std::string LineInfo::ToString() const {

@@ -1,9 +1,17 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/core/ascii.h>
 #include <marlin/records/record_field.h>
 
-#include <string_view>
-
 namespace MARLINSUITE {
+
+int ValueOfText(std::span<const NamedValue> values, std::string_view text, int otherwise) noexcept {
+    for (const NamedValue& named : values) {
+        if (PLATFORM::EqualIgnoringCase(text, named.Text)) {
+            return named.Value;
+        }
+    }
+    return otherwise;
+}
 
 std::string RecordKey::NameIn(const std::string& start) const {
     const bool isRenamed = !start.empty() && !std::string_view(PrefixedName).empty();

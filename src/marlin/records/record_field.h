@@ -7,6 +7,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -20,6 +21,10 @@ struct NamedValue {
     const char* Text;     ///< As the key holds it; empty for a plain number.
     const char* Meaning;  ///< For people.
 };
+
+/// The value that has the text, ignoring case, or else `otherwise`.
+[[nodiscard]] MARLIN_API int ValueOfText(std::span<const NamedValue> values, std::string_view text,
+                                         int otherwise) noexcept;
 
 /// A key of a record in a section, or an item of a record's one-line text, which has no name.
 /// All pointers are to constant data.

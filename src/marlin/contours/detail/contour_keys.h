@@ -1,36 +1,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <marlin/base/text_functions.h>
 #include <marlin/contours/contour_definition_list.h>
 #include <marlin/records/detail/palette_index.h>
 #include <marlin/records/detail/record_keys.h>
 
 #include <iterator>
+#include <string>
 
 namespace MARLINSUITE::detail {
+
+inline constexpr NamedValue LineTypes[] = {
+    {0, "CONTINUOUS", "solid"},
+    {1, "DASHED", "dashed"},
+    {2, "DOTTED", "dotted"},
+};
 
 /// A line type by its text; continuous for any other text and for a type that is none.
 struct LineTypeText {
     int& LineType;
 
-    void Read(const SectionKey& key) {
-        LineType = 0;
-        for (int i = 0; i < NumTypes; ++i) {
-            if (icompare(key.GetValue(), ContourDefinitionList::LINESTYLES[i])) {
-                LineType = i;
-            }
-        }
-    }
+    void Read(const SectionKey& key) { LineType = ValueOfText(LineTypes, key.GetValue(), 0); }
     void Write(SectionKey& key) const { key << Text(); }
     [[nodiscard]] RecordValue Value() const { return Text(); }
 
 private:
-    static constexpr int NumTypes = std::size(ContourDefinitionList::LINESTYLES);
-
-    [[nodiscard]] const std::string& Text() const {
-        const bool isKnown = LineType >= 0 && LineType < NumTypes;
-        return ContourDefinitionList::LINESTYLES[isKnown ? LineType : 0];
+    [[nodiscard]] std::string Text() const {
+        const int last = static_cast<int>(std::size(LineTypes)) - 1;
+        return LineTypes[LineType >= 0 && LineType <= last ? LineType : 0].Text;
     }
 };
 
@@ -41,7 +38,11 @@ void ForEachContourKey(ContourDefinitionList::ContourDefInfo& contour, const Key
     keys({.Name = "Color", .Field = 2, .Meaning = "color", .IsCommon = true},
          PaletteIndex(contour.Color));
     keys({.Name = "TrueColor", .Field = 2, .Meaning = "color", .IsCommon = true}, contour.Color);
-    keys({.Name = "LineType", .Field = 3, .Meaning = "line type", .IsCommon = true},
+    keys({.Name = "LineType",
+          .Field = 3,
+          .Meaning = "line type",
+          .Values = LineTypes,
+          .IsCommon = true},
          LineTypeText{contour.LineType});
     keys({.Name = "LineWidth", .Field = 4, .Meaning = "line width", .IsCommon = true},
          contour.LineWidth);

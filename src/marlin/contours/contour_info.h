@@ -6,9 +6,17 @@
 
 class Section;
 
-/// Whether contours are drawn and how their lines are smoothed and labelled: by default drawn,
-/// with a label spacing of 20, no suppression, no smoothing window and one pass, labels at the
-/// optimum angle. Nothing is checked; units and effect belong to the host's contouring.
+/// Whether contours are drawn and how their lines are smoothed and labelled. By default drawn, with
+/// a label spacing of 20, no suppression, no smoothing window, one pass, and labels at the optimum
+/// angle. Nothing is checked; units and effect belong to the host's contouring.
+///
+/// @code
+/// ContourInfo contours;
+/// contours.SetLabelOrientation(ContourInfo::LowToHigh);
+/// Section section("Contours");
+/// contours.Write(section);
+/// assert(section["LabelOrientation"].GetValue() == "LowToHigh");
+/// @endcode
 class MARLIN_API ContourInfo {
 public:
     /// How contour labels are turned.
@@ -24,11 +32,11 @@ public:
     virtual ~ContourInfo();
 
     [[nodiscard]] bool GetEnableContouring() const noexcept { return m_EnableContouring; }
-    /// Along a contour.
+    /// The distance between labels along a contour.
     [[nodiscard]] float GetLabelSpacing() const noexcept { return m_LabelSpacing; }
     /// 0 disables suppression.
     [[nodiscard]] double GetSuppressionLength() const noexcept { return m_SuppressionLength; }
-    /// Meant to lie in 0 to 8.
+    /// Should be 0 to 8.
     [[nodiscard]] int GetSmoothingWindow() const noexcept { return m_SmoothingWindow; }
     [[nodiscard]] int GetSmoothingPasses() const noexcept { return m_SmoothingPasses; }
     [[nodiscard]] label_orientation GetLabelOrientation() const noexcept {
@@ -44,17 +52,17 @@ public:
         m_LabelOrientation = orientation;
     }
 
-    /// Spacing and suppression length within the tolerance of `MATH::Equal`, all else exactly.
+    /// Compares spacing and suppression length by `MATH::Equal`, all other fields exactly.
     bool operator==(const ContourInfo& other) const noexcept;
 
-    /// Keys that are missing or unreadable keep their fields, but the orientation is reset to
-    /// `OptimumTextAngle` by a missing or unknown text; case matters in it. The spacing is also
-    /// read from the older key "LabelSpacing", over which "ContourLabelSpacing" wins. True.
+    /// Returns true. Without a readable key a field stays as it was, but the orientation becomes
+    /// `OptimumTextAngle`; case matters in its text. The spacing is also read from the older key
+    /// "LabelSpacing", over which "ContourLabelSpacing" wins.
     bool Read(const Section& section);
-    /// Sets six keys, in the place of keys of those names; an orientation that is none of the
-    /// three writes an empty text. True.
+    /// Sets six keys, which replace keys of those names; returns true. An orientation that is none
+    /// of the three is written as an empty text.
     bool Write(Section& section) const;
-    /// The keys in the order of `Write`, the older one among them, with the values of this record.
+    /// The keys in the order of `Write`, with the older one, and the values of this record.
     [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:

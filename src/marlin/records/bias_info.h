@@ -8,8 +8,18 @@
 
 class Section;
 
-/// A bias mode, whose values are the host's; 0 by default. It writes one key, in the place of a
-/// key of that name; with a prefix the key is prefix + "." + name.
+/// A bias mode; its values belong to the host, and the default is 0. A record writes one key, which
+/// replaces a key of that name. With a prefix the key is prefix + "." + name.
+///
+/// @code
+/// BiasInfo bias;
+/// bias.BiasMode = 2;
+/// Section section("Sounder");
+/// bias.Write("North", section);  // sets the key "North.BiasMode"
+/// BiasInfo read;
+/// read.Read("North", section);
+/// assert(read == bias);
+/// @endcode
 class MARLIN_API BiasInfo {
 public:
     int BiasMode = 0;
@@ -21,13 +31,13 @@ public:
 
     bool operator==(const BiasInfo& other) const noexcept = default;
 
-    /// A key that is missing or unreadable keeps the field; true.
+    /// Returns true. A key that is missing or unreadable leaves the field as it was.
     bool Read(const Section& section);
     bool Read(const std::string& prefix, const Section& section);
-    /// True.
+    /// Returns true.
     bool Write(Section& section) const;
     bool Write(const std::string& prefix, Section& section) const;
-    /// The keys in the order of `Write` with the values of this record.
+    /// The keys in the order of `Write`, with the values of this record.
     [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:

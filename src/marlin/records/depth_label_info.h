@@ -6,14 +6,21 @@
 
 #include <string>
 
-// The destructor is not virtual: a record is deleted as what it was made.
+// The destructor is not virtual, since nobody deletes a record through its base.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
-/// The text style of the depth numbers of a plot: a `TextInfo`, the number of decimals, and how
-/// a label is laid out and placed. By default 2 decimals, presentation and placement 0, in the
-/// color of the text and turned automatically. The four flags are switches of the host's
-/// labelling. Setters check nothing.
+/// The style of the depth numbers of a plot: a text style, the number of decimals, and how a label
+/// is laid out and placed. By default 2 decimals, presentation and placement 0, in the color of the
+/// text style and turned automatically. The library only keeps the four flags; the host's labelling
+/// obeys them. Setters check nothing.
+///
+/// @code
+/// DepthLabelInfo label;
+/// label.SetPrecision(1);
+/// label.SetJustification(TextInfo::MIDDLE_CENTER);
+/// assert(label.ToString() == "Arial,2.5,0,8,0,0,0,0,0,0,1,0,0,1,1,0,0");
+/// @endcode
 class MARLIN_API DepthLabelInfo : public TextInfo {
 public:
     /// How the decimals are set apart.
@@ -32,7 +39,7 @@ public:
     };
 
     DepthLabelInfo() = default;
-    /// The text style, with the defaults of the rest.
+    /// Takes the text style and the defaults of the other fields.
     DepthLabelInfo(const TextInfo& text) : TextInfo(text) {}
 
     /// The number of decimals.
@@ -56,17 +63,17 @@ public:
     }
     void SetNoDecimalZeros(bool suppress) noexcept { m_NoDecimalZeros = suppress; }
 
-    /// The text styles by their own equality, all else exactly.
+    /// Compares text styles by their own equality, all other fields exactly.
     bool operator==(const DepthLabelInfo& other) const noexcept = default;
 
-    /// The ten items of the text style, then the precision and the other fields in the order of
-    /// their getters, flags as 1 or 0.
+    /// Joins the ten items of the text style, the precision and the other fields in the order of
+    /// their getters; flags are 1 or 0.
     [[nodiscard]] std::string ToString() const;
-    /// Starts from the defaults, which missing items and a presentation or placement out of range
-    /// leave; other items that are no number count as 0. A list of 14 items is the older layout:
-    /// no color word and no item for the last two flags.
+    /// Starts from the defaults, which stay where an item is missing or a presentation or placement
+    /// is out of range; other items that are not a number count as 0. A list of 14 items has the
+    /// older layout, without a color word and without items for the last two flags.
     void FromString(const std::string& text);
-    /// The items in the order of `ToString` with the values of this record.
+    /// The items in the order of `ToString`, with the values of this record.
     [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 protected:

@@ -8,8 +8,14 @@
 
 class Section;
 
-/// The pen of a DXF export: width, color word, and a color mode whose values are the host's. By
-/// default width 0, black, mode 0. Equality is exact.
+/// The pen of a DXF export: width, color word, and a color mode, whose values belong to the host.
+/// By default width 0, black, mode 0. Equality is exact.
+///
+/// @code
+/// DXFInfo pen;
+/// pen.SetColor(RGBColor(255, 0, 0));
+/// assert(pen.ToString() == "0,10,0,255");  // 10 is red in the DXF palette
+/// @endcode
 class MARLIN_API DXFInfo {
 public:
     constexpr DXFInfo() noexcept = default;
@@ -27,16 +33,16 @@ public:
 
     /// "width,palette index,color mode,color word".
     [[nodiscard]] std::string ToString() const;
-    /// Starts from the defaults, and stays there with fewer than 3 items. The color word, when
-    /// there is one, wins over the palette index; an item that does not convert is passed over.
+    /// Starts from the defaults, and keeps them if there are fewer than 3 items. A color word wins
+    /// over the palette index; an item that does not convert is ignored.
     void FromString(const std::string& text);
 
-    /// Keys that are missing or unreadable keep width and color mode, but reset the color to
-    /// black. "DXFLineTrueColor" wins over the palette index "DXFLineColor". True.
+    /// Returns true. Without a readable key width and color mode stay as they were, but the color
+    /// becomes black. "DXFLineTrueColor" wins over the palette index "DXFLineColor".
     bool Read(const Section& section);
-    /// Appends four keys, whether or not the section has keys of those names; true.
+    /// Appends four keys, whether or not the section has keys of those names; returns true.
     bool Write(Section& section) const;
-    /// The keys in the order of `Write` with the values of this record.
+    /// The keys in the order of `Write`, with the values of this record.
     [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:

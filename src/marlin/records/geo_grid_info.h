@@ -6,11 +6,20 @@
 
 class Section;
 
-/// How a graticule of latitudes and longitudes is drawn and labelled; both are the host's work,
-/// and so is the meaning of the two style codes. By default black, with 2 decimals, at intervals
-/// of 1/1800 degree (2 seconds of arc). Setters check nothing but the sign of the intervals.
+/// How a grid of latitudes and longitudes is drawn and labelled. The host draws it and gives the
+/// two style codes their meaning. By default black, with 2 decimals, at intervals of 1/1800 degree
+/// (2 seconds of arc). Setters check only the sign of the intervals. Equality compares intervals by
+/// `MATH::Equal`, all other fields exactly.
 ///
-/// Intervals are equal within `MATH::Equal`, all else exactly.
+/// @code
+/// GeoGridInfo grid;
+/// grid.LatInterval(0.5);
+/// Section section("Graticule");
+/// grid.Write(section);
+/// GeoGridInfo read;
+/// read.Read(section);
+/// assert(read == grid && read.LatInterval() == 0.5);
+/// @endcode
 class MARLIN_API GeoGridInfo {
 public:
     GeoGridInfo() = default;
@@ -22,11 +31,11 @@ public:
     [[nodiscard]] unsigned long GridColor() const noexcept { return m_GridColor; }
     [[nodiscard]] int LatLonStyle() const noexcept { return m_LatLonStyle; }
     [[nodiscard]] int LatLonDecimals() const noexcept { return m_LatLonDecimals; }
-    /// Whether the letter of the hemisphere follows the value instead of leading it.
+    /// Whether the letter of the hemisphere is after the value, as in 54.5 N.
     [[nodiscard]] bool TrailingHemisphereIndicator() const noexcept {
         return m_TrailingHemisphereIndicator;
     }
-    /// Whether degrees, minutes and seconds bear their symbols.
+    /// Whether labels show the symbols of degrees, minutes and seconds.
     [[nodiscard]] bool DegMinSecSymbols() const noexcept { return m_DegMinSecSymbols; }
     [[nodiscard]] int GridStyle() const noexcept { return m_GridStyle; }
     [[nodiscard]] double LatInterval() const noexcept { return m_LatInterval; }
@@ -46,13 +55,13 @@ public:
 
     bool operator==(const GeoGridInfo& other) const noexcept;
 
-    /// Keys that are missing or unreadable keep their fields, but reset the color to black.
-    /// "GridTrueColor" wins over the palette index "GridColor"; intervals lose their sign. True.
+    /// Returns true. Without a readable key a field stays as it was, but the color becomes black.
+    /// "GridTrueColor" wins over the palette index "GridColor"; intervals lose their sign.
     bool Read(const Section& section);
-    /// Appends nine keys, whether or not the section has keys of those names. The intervals are
-    /// written with as many decimals as they need and two more; true.
+    /// Appends nine keys, whether or not the section has keys of those names; returns true. The
+    /// intervals are written with as many decimals as they need and two more.
     bool Write(Section& section) const;
-    /// The keys in the order of `Write` with the values of this record.
+    /// The keys in the order of `Write`, with the values of this record.
     [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:

@@ -8,13 +8,20 @@
 
 class Section;
 
-/// How a grid of plane (easting, northing) coordinates is drawn; drawing it is the host's work.
+/// How a host draws a grid of plane coordinates (easting, northing).
 ///
 /// The style is a set of bits: 1 points, 2 lines in x, 4 lines in y, 8 ticks in x, 16 ticks in
 /// y, 32 and 64 minor ticks in x and y, 128 a long tick at north. By default all ticks, no lines;
-/// bits above the eighth are kept in memory and not stored. Nothing is checked.
+/// bits above the eighth are kept in memory but not written. Nothing is checked. Equality compares
+/// intervals by `MATH::Equal`, all other fields exactly.
 ///
-/// Intervals are equal within `MATH::Equal`, all else exactly.
+/// @code
+/// GridInfo grid;
+/// grid.Style = 2 + 4;
+/// Section section("Grid");
+/// grid.Write(section);
+/// assert(section["GridStyle"].GetValue() == "X_LINES,Y_LINES");
+/// @endcode
 class MARLIN_API GridInfo {
 public:
     double XInterval = 50.0;
@@ -32,14 +39,14 @@ public:
 
     bool operator==(const GridInfo& other) const noexcept;
 
-    /// Keys that are missing or unreadable keep intervals and tick sizes, but empty the marks and
-    /// clear the style. Words of the style that are unknown are passed over; true.
+    /// Returns true. Without a readable key intervals and tick sizes stay as they were, but the
+    /// marks become empty and the style 0. Unknown words of the style are ignored.
     bool Read(const Section& section);
-    /// Appends seven keys, whether or not the section has keys of those names. The marks stand
-    /// between double quotes, which keep their blanks; quotes at the ends of a mark itself do not
-    /// survive. True.
+    /// Appends seven keys, whether or not the section has keys of those names; returns true. The
+    /// marks are written between double quotes, which keep their blanks; quotes at the ends of a
+    /// mark itself are lost.
     bool Write(Section& section) const;
-    /// The keys in the order of `Write` with the values of this record.
+    /// The keys in the order of `Write`, with the values of this record.
     [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:

@@ -8,9 +8,20 @@
 
 class Section;
 
-/// How a line is drawn: width, color word, dash pattern and whether it is drawn at all. By
-/// default a solid black line of width 0.1 that is drawn. Setters and readers check nothing but
-/// the sign of the width. Equality is exact.
+/// How a line is drawn: width, color word, dash pattern, and whether it is drawn at all. By default
+/// a solid black line of width 0.1 that is drawn. Only `SetWidth` checks, the sign. Equality is
+/// exact.
+///
+/// @code
+/// LineInfo coast;
+/// coast.SetColor(RGBColor(0, 64, 128));
+/// coast.SetStyleStr("dashed");
+/// Section section("Coastline");
+/// coast.Write(section);
+/// LineInfo read;
+/// read.Read(section);
+/// assert(read == coast && read.Style() == LineInfo::DASHED_LINE);
+/// @endcode
 class MARLIN_API LineInfo {
 public:
     enum LINESTYLE : int {
@@ -20,7 +31,7 @@ public:
         DASH_DOT_LINE = 3,
     };
 
-    /// The text of each style, by which it is stored.
+    /// The text by which each style is stored.
     static const std::string STYLEDESCRIPTIONS[4];
 
     constexpr LineInfo() noexcept = default;
@@ -28,8 +39,8 @@ public:
     [[nodiscard]] constexpr float Width() const noexcept { return m_Width; }
     [[nodiscard]] constexpr unsigned long Color() const noexcept { return m_Color; }
     [[nodiscard]] constexpr LINESTYLE Style() const noexcept { return m_Style; }
-    /// The style's text. The style must be one of the four; release builds answer any other
-    /// with the text of `SOLID_LINE`.
+    /// The text of the style, which must be one of the four; release builds return the text of
+    /// `SOLID_LINE` for any other.
     [[nodiscard]] const std::string& StyleStr() const noexcept;
     [[nodiscard]] constexpr bool Enable() const noexcept { return m_Enable; }
 
@@ -37,7 +48,7 @@ public:
     void SetWidth(float width) noexcept;
     constexpr void SetColor(unsigned long color) noexcept { m_Color = color; }
     constexpr void SetStyle(LINESTYLE style) noexcept { m_Style = style; }
-    /// By its text, ignoring case; `SOLID_LINE` for any other text.
+    /// Takes the style of that text, ignoring case; `SOLID_LINE` for any other text.
     void SetStyleStr(const std::string& text) noexcept;
     constexpr void SetEnable(bool enable) noexcept { m_Enable = enable; }
 
@@ -45,16 +56,17 @@ public:
 
     /// "width,palette index,style text,color word,enable".
     [[nodiscard]] std::string ToString() const;
-    /// Starts from the defaults, and stays there with fewer than 3 items. The color word, when
-    /// there is one, wins over the palette index; an item that does not convert is passed over.
+    /// Starts from the defaults, and keeps them if there are fewer than 3 items. A color word wins
+    /// over the palette index; an item that does not convert is ignored.
     void FromString(const std::string& text);
 
-    /// Keys that are missing or unreadable keep width and enable, but reset color and style to
-    /// black and `SOLID_LINE`. "LineTrueColor" wins over the palette index "LineColor". True.
+    /// Returns true. Without a readable key width and enable stay as they were, but the color
+    /// becomes black and the style `SOLID_LINE`. "LineTrueColor" wins over the palette index
+    /// "LineColor".
     bool Read(const Section& section);
-    /// Appends five keys, whether or not the section has keys of those names; true.
+    /// Appends five keys, whether or not the section has keys of those names; returns true.
     bool Write(Section& section) const;
-    /// The keys in the order of `Write` with the values of this record.
+    /// The keys in the order of `Write`, with the values of this record.
     [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:

@@ -6,8 +6,16 @@
 
 class Section;
 
-/// The chart display options of a map layer. The three codes have the meaning that the host's
-/// chart renderer gives them and are stored unchecked. Equality is exact.
+/// The chart display options of a map layer. The host's chart renderer gives the three codes their
+/// meaning; they are stored unchecked. Equality is exact.
+///
+/// @code
+/// CMapInfo map;
+/// map.SetLightsInfo(true);
+/// Section section("Chart");
+/// map.Write(section);
+/// assert(section["ShowLightsInfo"].GetValue() == "1");
+/// @endcode
 class MARLIN_API CMapInfo {
 public:
     constexpr CMapInfo() noexcept = default;
@@ -34,11 +42,11 @@ public:
 
     constexpr bool operator==(const CMapInfo& other) const noexcept = default;
 
-    /// Keys that are missing or unreadable keep their fields; true.
+    /// Returns true. A key that is missing or unreadable leaves its field as it was.
     bool Read(const Section& section);
-    /// Appends nine keys, whether or not the section has keys of those names; true.
+    /// Appends nine keys, whether or not the section has keys of those names; returns true.
     bool Write(Section& section) const;
-    /// The keys in the order of `Write` with the values of this record.
+    /// The keys in the order of `Write`, with the values of this record.
     [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:

@@ -9,11 +9,17 @@
 class Section;
 
 /// The frame of a panel (a legend, a title block) on a plot's paper, in paper units. By default
-/// empty, at (0, 0), not locked. It writes one key a field, in the place of a key of that name.
-/// The plain keys of the position are "PosX" and "PosY"; with a prefix they are prefix + ".X" and
-/// prefix + ".Y", the others prefix + "." + name.
+/// empty, at (0, 0), not locked. A record writes one key a field, which replaces a key of that
+/// name. With a prefix the keys are prefix + "." + name, those of the position prefix + ".X" and
+/// ".Y". Equality compares position and size by `MATH::Equal`, the other fields exactly.
 ///
-/// Position and size are equal within `MATH::Equal`, the rest exactly.
+/// @code
+/// PanelInfo legend;
+/// legend.PosX = 20.0;
+/// Section section("Layout");
+/// legend.Write("Legend", section);
+/// assert(section["Legend.X"].GetValue() == "20.000000");
+/// @endcode
 class MARLIN_API PanelInfo {
 public:
     double PosX = 0.0;
@@ -21,7 +27,7 @@ public:
     float Width = 0.0F;
     float Height = 0.0F;
     bool LockPosSize = false;  ///< Whether the panel must not be moved or resized.
-    int Justification = 0;     ///< The point at the position, in the host's anchor codes.
+    int Justification = 0;     ///< The point of the panel at the position, a code of the host.
 
     PanelInfo() = default;
     PanelInfo(const PanelInfo&) = default;
@@ -30,14 +36,14 @@ public:
 
     bool operator==(const PanelInfo& other) const noexcept;
 
-    /// Keys that are missing or unreadable keep their fields, but reset the justification to 0.
-    /// Positions are read in single precision: about seven digits of them count. True.
+    /// Returns true. Without a readable key a field stays as it was, but the justification becomes
+    /// 0. Positions are read in single precision, which is about seven digits.
     bool Read(const Section& section);
     bool Read(const std::string& prefix, const Section& section);
-    /// True.
+    /// Returns true.
     bool Write(Section& section) const;
     bool Write(const std::string& prefix, Section& section) const;
-    /// The keys in the order of `Write` with the values of this record.
+    /// The keys in the order of `Write`, with the values of this record.
     [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:

@@ -8,10 +8,16 @@
 
 class Section;
 
-/// The snapping grid of a plot's paper: spacing, one point of the grid, whether it is shown and
-/// whether positions snap to it. In paper units; by default steps of 1 from (0, 0), shown and
-/// snapping. Steps are never negative; the setters keep them at 1 or above, the constructor and
-/// `Read` take any.
+/// The grid of a plot's paper to which positions snap: its steps, one of its points, whether it is
+/// shown and whether positions snap to it. In paper units; by default steps of 1 from (0, 0), shown
+/// and snapping. Steps are never negative; the setters keep them at 1 or above, the constructor and
+/// `Read` take smaller ones as well.
+///
+/// @code
+/// const PaperGrid grid(10.0, 5.0);
+/// const GTL::Point2D<double> snapped = grid.SnapToGrid({14.9, 13.0});
+/// assert(snapped.x == 10.0 && snapped.y == 15.0);
+/// @endcode
 class MARLIN_API PaperGrid {
 public:
     /// Stores the absolute values of the steps.
@@ -26,8 +32,8 @@ public:
     [[nodiscard]] double YStep() const noexcept { return m_YStep; }
     [[nodiscard]] bool Visible() const noexcept { return m_Visible; }
     [[nodiscard]] bool SnapOn() const noexcept { return m_SnapOn; }
-    /// The nearest point of the grid, of two equally near ones in x or y the one farther from the
-    /// origin; whatever `SnapOn()` says. A step of 0 leaves its coordinate as it is.
+    /// The nearest point of the grid; halfway between two lines, that of the line farther from the
+    /// grid's own point. `SnapOn()` plays no part. A step of 0 leaves its coordinate as it is.
     [[nodiscard]] GTL::Point2D<double> SnapToGrid(const GTL::Point2D<double>& point) const noexcept;
 
     /// Stores the absolute value, or 1 when that is less or not a number.
@@ -37,11 +43,12 @@ public:
     void SnapOn(bool on) noexcept { m_SnapOn = on; }
     void ToggleVisible() noexcept { m_Visible = !m_Visible; }
 
-    /// Keys that are missing or unreadable keep their fields; steps lose their sign. A success.
+    /// Returns success. A key that is missing or unreadable leaves its field as it was; steps lose
+    /// their sign.
     ErrorString Read(const Section& section);
-    /// Appends six keys, whether or not the section has keys of those names; a success.
+    /// Appends six keys, whether or not the section has keys of those names; returns success.
     ErrorString Write(Section& section) const;
-    /// The keys in the order of `Write` with the values of this record.
+    /// The keys in the order of `Write`, with the values of this record.
     [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:

@@ -8,9 +8,19 @@
 
 class Section;
 
-/// The light source of a shaded surface. By default off, at azimuth 290, elevation 30, contrast
-/// 1. It writes one key a field, in the place of a key of that name; with a prefix the keys are
+/// The light source of a shaded surface. By default off, at azimuth 290, elevation 30, contrast 1.
+/// A record writes one key a field, which replaces a key of that name; with a prefix the keys are
 /// prefix + "." + name. Equality is exact.
+///
+/// @code
+/// SunIlluminationInfo sun;
+/// sun.Azimuth = 315.0;
+/// Section section("Surface");
+/// sun.Write(section);
+/// SunIlluminationInfo read;
+/// read.Read(section);
+/// assert(read == sun);
+/// @endcode
 class MARLIN_API SunIlluminationInfo {
 public:
     bool Enable = false;
@@ -25,13 +35,13 @@ public:
 
     bool operator==(const SunIlluminationInfo& other) const noexcept = default;
 
-    /// Keys that are missing or unreadable keep their fields; true.
+    /// Returns true. A key that is missing or unreadable leaves its field as it was.
     bool Read(const Section& section);
     bool Read(const std::string& prefix, const Section& section);
-    /// True.
+    /// Returns true.
     bool Write(Section& section) const;
     bool Write(const std::string& prefix, Section& section) const;
-    /// The keys in the order of `Write` with the values of this record.
+    /// The keys in the order of `Write`, with the values of this record.
     [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 private:

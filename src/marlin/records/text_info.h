@@ -10,13 +10,23 @@
 
 class FormatString;
 
-// The destructor is not virtual: a record is deleted as what it was made.
+// The destructor is not virtual, since nobody deletes a record through its base.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
-/// How one piece of plot text looks and where it hangs on its anchor point. By default black
-/// Arial of size 2.5, upright, its box's lower left corner on the anchor. Sizes and widths are in
-/// plot units, the size being the height of the characters. Setters check only what they say.
+/// How one piece of plot text looks, and which point of its box lies on its anchor. By default
+/// black Arial of size 2.5, upright, the lower left corner on the anchor. The size is the height of
+/// the characters; sizes and widths are in plot units. Setters check nothing unless they say so.
+///
+/// @code
+/// TextInfo title;
+/// title.SetFont("Times");
+/// title.SetStyle(TextInfo::BOLD);
+/// assert(title.ToString() == "Times,2.5,1,0,0,0,0,0,0,0");
+/// TextInfo read;
+/// read.FromString(title.ToString());
+/// assert(read == title);
+/// @endcode
 class MARLIN_API TextInfo {
 public:
     /// Bits; any combination from 0 to 7.
@@ -25,7 +35,7 @@ public:
         ITALIC = 2,
         UNDERLINE = 4,
     };
-    /// Values that are the hosts' own.
+    /// Codes to which the host gives a meaning.
     enum ANNOTATION : int {
         ANNOTATION_0 = 0,
         ANNOTATION_1 = 1,
@@ -61,7 +71,7 @@ public:
     [[nodiscard]] float RectWidth() const noexcept { return m_RectWidth; }
     [[nodiscard]] bool MultiLine() const noexcept { return m_MultiLine; }
 
-    /// "Arial" for an empty name.
+    /// Stores "Arial" for an empty name.
     void SetFont(const std::string& font);
     /// Stores the absolute value.
     void SetSize(float size) noexcept { m_Size = std::fabs(size); }
@@ -74,44 +84,46 @@ public:
     void SetRectWidth(float width) noexcept { m_RectWidth = std::fabs(width); }
     void SetMultiLine(bool multiLine) noexcept { m_MultiLine = multiLine; }
 
-    /// The flags of `SetTextAlign`, where the middle counts as the bottom.
+    /// The flags for `SetTextAlign`, which knows no middle: it counts as the bottom.
     [[nodiscard]] int WinAlignment() const noexcept;
     /// The group codes 72 and 73 of a DXF TEXT entity.
     [[nodiscard]] int AcadHJust() const noexcept;
     [[nodiscard]] int AcadVJust() const noexcept;
-    /// The group code 71 of a DXF MTEXT entity, where the baseline counts as the bottom.
+    /// The group code 71 of a DXF MTEXT entity, which knows no baseline: it counts as the bottom.
     [[nodiscard]] int AcadAttachmentPoint() const noexcept;
-    /// `BOTTOM_LEFT` for a value outside 1 to 9.
+    /// Takes the justification of the group code; `BOTTOM_LEFT` for a code outside 1 to 9.
     void AcadAttachmentPoint(int attachmentPoint) noexcept;
-    /// From the group codes 72 and 73; `BOTTOM_LEFT` for those without a counterpart.
+    /// Takes the justification of the group codes 72 and 73; `BOTTOM_LEFT` for codes without a
+    /// counterpart.
     void FromAcadJust(int h, int v) noexcept;
 
-    /// Turns the text by 180 degrees where it would read upside down in a view whose up direction
-    /// is the angle: from a difference of 90 on, up to but not 270.
+    /// Turns the text by 180 degrees if it would read upside down in a view whose up direction is
+    /// the angle: if the difference of the angles is at least 90 and less than 270 degrees.
     void OptTextAngle(Angle view) noexcept;
-    /// A copy turned by the same rule, with the anchor moved to the opposite side of its box if
-    /// it was turned.
+    /// Returns a copy turned by the same rule. If it was turned, the opposite point of its box lies
+    /// on the anchor.
     [[nodiscard]] TextInfo OptTextAngleJust(Angle view) const;
 
-    /// The order of the font cache: font name ignoring case, then size, then style. Records that
-    /// differ only elsewhere are equivalent.
+    /// Orders by font name ignoring case, then size, then style, as the cache of fonts does.
+    /// Records that differ only in other fields are equivalent.
     bool operator<(const TextInfo& other) const noexcept;
-    /// Font names ignoring case, rotations with the tolerance of `Angle`, all else exactly.
+    /// Compares font names ignoring case, rotations with the tolerance of `Angle`, all other fields
+    /// exactly.
     bool operator==(const TextInfo& other) const noexcept;
 
     /// "font,size,style,justification,palette index,rotation,rect width,multi-line,annotation,
     /// color word", numbers with six significant digits.
     [[nodiscard]] std::string ToString() const;
-    /// Starts from the defaults. Items that are missing, or styles, justifications and annotations
-    /// out of range, leave them; other items that are no number count as 0. The color word, when
-    /// there is one, wins over the palette index. Sizes keep their sign.
+    /// Starts from the defaults, which stay where an item is missing, or a style, justification or
+    /// annotation is out of range; other items that are not a number count as 0. A color word wins
+    /// over the palette index. Sizes keep their sign.
     void FromString(const std::string& text);
-    /// The items in the order of `ToString` with the values of this record.
+    /// The items in the order of `ToString`, with the values of this record.
     [[nodiscard]] MARLINSUITE::RecordFields Fields() const;
 
 protected:
-    /// Reads the items that there are and returns the index of the first one that is not the
-    /// record's: 10, or 9 for a list of 14, which has no color word.
+    /// Reads the items of this record, as far as there are any, and returns the index after the
+    /// last of them: 10, or 9 for a list of 14, which has no color word.
     virtual int FromString(const FormatString& items);
 
 private:

@@ -83,6 +83,7 @@
 #include <marlin/platform/drawing/c_dc.h>
 #include <marlin/platform/drawing/c_font.h>
 #include <marlin/platform/drawing/c_gdi_object.h>
+#include <marlin/platform/drawing/context_mapping.h>
 #include <marlin/platform/drawing/device_context.h>
 #include <marlin/platform/drawing/drawing_constants.h>
 #include <marlin/platform/drawing/gdi_objects.h>
@@ -91,6 +92,7 @@
 #include <marlin/platform/drawing/point.h>
 #include <marlin/platform/drawing/rect.h>
 #include <marlin/platform/drawing/size.h>
+#include <marlin/platform/drawing/text_painting.h>
 #include <marlin/platform/fonts/font_catalog.h>
 #include <marlin/platform/fonts/font_types.h>
 #include <marlin/platform/fonts/fonts.h>

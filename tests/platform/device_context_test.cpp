@@ -5,6 +5,7 @@
 #include <marlin/platform/drawing/c_font.h>
 #include <marlin/platform/drawing/gdi_objects.h>
 #include <marlin/platform/drawing/painting.h>
+#include <marlin/platform/drawing/text_painting.h>
 #include <marlin/platform/fonts/fonts.h>
 
 #include <algorithm>

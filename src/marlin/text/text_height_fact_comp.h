@@ -5,8 +5,6 @@
 #include <marlin/platform/fonts/font_types.h>
 #include <marlin/records/text_info.h>
 
-#include <array>
-#include <cstddef>
 #include <map>
 #include <utility>
 
@@ -31,34 +29,12 @@ private:
     using Measures = std::pair<float, OUTLINETEXTMETRICA>;
     using Entries = std::map<TextInfo, Measures>;
 
-    /// The entries looked up last, which most often are the next ones too: the parts of a depth
-    /// label are in two sizes. A copy has other entries.
-    class Latest {
-    public:
-        Latest() noexcept = default;
-        Latest(const Latest&) noexcept {}
-        Latest& operator=(const Latest&) noexcept {
-            m_Entries = {};
-            return *this;
-        }
-        ~Latest() = default;
-
-        /// Null when the style's is not among them.
-        [[nodiscard]] const Measures* Find(const TextInfo& ti) const noexcept;
-        void Add(const Entries::value_type& entry) noexcept;
-
-    private:
-        std::array<const Entries::value_type*, 2> m_Entries{};
-        std::size_t m_Oldest = 0;
-    };
-
     TextHeightFactComp() = default;
 
     /// The style's measures, taken and added if there are none; null where they cannot be.
     const Measures* Find(const TextInfo& ti);
     /// The end where the style cannot be measured.
-    Entries::const_iterator AddEntry(const TextInfo& ti);
+    Entries::iterator AddEntry(const TextInfo& ti);
 
     Entries m_Entries;
-    Latest m_Latest;
 };

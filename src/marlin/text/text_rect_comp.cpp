@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/core/number_text.h>
 #include <marlin/gdi/gdi_scale_factor.h>
+#include <marlin/text/detail/depth_label_rects.h>
 #include <marlin/text/detail/text_measure.h>
 #include <marlin/text/detail/text_wrapper.h>
-#include <marlin/text/text_height_fact_comp.h>
 #include <marlin/text/text_rect_comp.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdlib>
 
 namespace {
+
+using namespace MARLINSUITE::detail;
 
 std::string_view ViewOf(const char* text) noexcept {
     return text ? std::string_view(text) : std::string_view();
@@ -43,19 +47,28 @@ bool IsOnBaseline(const TextInfo& ti) noexcept {
            ti.Justification() <= TextInfo::BASELINE_RIGHT;
 }
 
-// What a box on the baseline is lower than the character cell, for a font of that height.
-long long HiddenHeight(const TextInfo& ti, float size, int height) {
-    if (!IsOnBaseline(ti)) {
-        return 0;
-    }
-    const OUTLINETEXTMETRICA& metrics =
-        TextHeightFactComp::Get().GetMetrics(MARLINSUITE::Sized(ti, size));
+// The height that a box on the baseline lacks of the font's cell.
+long long HiddenHeight(const TextInfo& ti, const TextMeasure& measure) {
+    const OUTLINETEXTMETRICA& metrics = measure.Metrics();
     const TEXTMETRICA& tm = metrics.otmTextMetrics;
-    if (tm.tmHeight == 0) {
+    if (!IsOnBaseline(ti) || tm.tmHeight == 0) {
         return 0;
     }
+    // The product does not fit 32 bits for characters taller than a hand.
     const long long hidden = std::abs(tm.tmInternalLeading) + std::abs(metrics.otmDescent);
-    return hidden * height / tm.tmHeight;  // wider than the product, which 32 bits may not hold
+    return hidden * measure.Height() / tm.tmHeight;
+}
+
+TextInfo Sized(const TextInfo& ti, double share) {
+    TextInfo sized = ti;
+    sized.SetSize(static_cast<float>(ti.Size() * share));  // without a sign
+    return sized;
+}
+
+std::string NumberText(const DepthLabelInfo& dli, double depth) {
+    std::string text;
+    MARLINSUITE::AppendFixed(text, depth, std::min(dli.Precision(), TextRectComp::MaxDecimals));
+    return text;
 }
 
 }  // namespace
@@ -114,36 +127,61 @@ TextRectComp::Extents TextRectComp::GetTextExtents(const TextInfo& ti, std::stri
     if (ti.MultiLine()) {
         return GetMTextExtents(ti, text);
     }
-    const double share = small ? 2.0 / 3.0 : 1.0;
-    return GetLineExtents(ti, static_cast<float>(ti.Size() * share), text);
+    return GetLineExtents(Sized(ti, small ? 2.0 / 3.0 : 1.0), text);
 }
 
-TextRectComp::Extents TextRectComp::GetLineExtents(const TextInfo& ti, float fontSize,
-                                                   std::string_view text) {
-    const auto measure = MARLINSUITE::TextMeasure::Of(ti, fontSize);
-    const SIZE size = measure.IsGood() ? measure.Extent(text) : SIZE{};
+TextRectComp::Extents TextRectComp::GetLineExtents(const TextInfo& ti, std::string_view text) {
+    const TextMeasure measure = TextMeasure::Of(ti);
+    const SIZE size = measure.Extent(text);
     if (size.cy == 0) {
         m_Lines.clear();
         return {};
     }
     m_Lines.resize(1);
     m_Lines.front() = text;
+    // A font may come out at another height than was asked for; the result is of the one asked for.
     const double ratio = static_cast<double>(measure.Height()) / size.cy;
-    const long long height = size.cy - HiddenHeight(ti, fontSize, measure.Height());
     const double scale = GDIScaleFactor::Get();
-    m_LineHeight = static_cast<double>(height) / scale;
+    m_LineHeight = static_cast<double>(size.cy - HiddenHeight(ti, measure)) / scale;
     return {size.cx / scale * ratio, m_LineHeight * ratio};
 }
 
 TextRectComp::Extents TextRectComp::GetMTextExtents(const TextInfo& ti, std::string_view text) {
     m_Lines.clear();
-    const auto measure = MARLINSUITE::TextMeasure::Of(ti, ti.Size());
-    if (!measure.IsGood()) {
+    const TextMeasure measure = TextMeasure::Of(Sized(ti, 1));
+    if (!measure) {
         return {};
     }
     const double scale = GDIScaleFactor::Get();
-    MARLINSUITE::TextWrapper wrapper(measure, ti.RectWidth() * scale, m_Lines);
+    TextWrapper wrapper(measure, ti.RectWidth() * scale, m_Lines);
     wrapper.Wrap(text);
     m_LineHeight = wrapper.LineHeight() / scale;
     return {wrapper.MaxWidth() / scale, m_LineHeight * static_cast<double>(m_Lines.size())};
+}
+
+std::pair<TextRectComp::LabelPart, TextRectComp::LabelPart> TextRectComp::operator()(
+    const DepthLabelInfo& dli, double depth) {
+    std::pair<LabelPart, LabelPart> label;
+    auto& [integers, integerText] = label.first;
+    auto& [decimals, decimalText] = label.second;
+    integerText = NumberText(dli, depth);
+    const std::size_t split = SplitPoint(dli, integerText);
+    const std::string_view number = integerText;
+    if (IsMerged(dli)) {
+        integers = RectOf(dli, number.substr(0, split));
+        if (split != std::string::npos) {
+            decimals =
+                DecimalsAtFullSize(dli, integers, GetTextExtents(dli, number.substr(split), false));
+        }
+    } else if (split == std::string::npos) {
+        integers = RectOf(dli, number);
+        decimalText = " ";
+    } else {
+        decimalText = number.substr(split + 1);
+        integerText.resize(KeepsPoint(dli) ? split + 1 : split);
+        integers = RectOf(dli, integerText);
+        decimals = DecimalsSetApart(dli, integers, GetTextExtents(dli, decimalText, true));
+    }
+    OffsetLabels(dli, integers, decimals);
+    return label;
 }

@@ -62,13 +62,9 @@ private:
 
     /// Width and height; `small` measures a single line at two thirds of the size.
     Extents GetTextExtents(const TextInfo& ti, std::string_view text, bool small);
-    Extents GetLineExtents(const TextInfo& ti, float fontSize, std::string_view text);
+    Extents GetLineExtents(const TextInfo& ti, std::string_view text);
     Extents GetMTextExtents(const TextInfo& ti, std::string_view text);
     Rect RectOf(const TextInfo& ti, std::string_view text);
-
-    Rect DecimalsAtFullSize(const DepthLabelInfo& dli, const Rect& integers, std::string_view text);
-    Rect DecimalsSetApart(const DepthLabelInfo& dli, const Rect& integers, std::string_view text);
-    static void OffsetLabels(const DepthLabelInfo& dli, Rect& integers, Rect& decimals);
 
     std::vector<std::string> m_Lines;
     double m_LineHeight = 0;

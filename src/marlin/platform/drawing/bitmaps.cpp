@@ -8,14 +8,14 @@
 
 namespace {
 
-using namespace PLATFORM;
+using namespace PLATFORM::detail;
 
 constexpr int MaxSide = 32767;
 constexpr int MaxPixels = 1 << 26;
 
 // The pixel at a logical position; null where the context paints none.
 std::uint32_t* PixelAt(HDC dc, int x, int y) noexcept {
-    const ContextRecord* context = Contexts.Content(dc);
+    const ContextRecord* context = Contexts().Find(dc);
     BitmapRecord* surface = context ? SurfaceOf(*context) : nullptr;
     if (!surface) {
         return nullptr;
@@ -34,7 +34,7 @@ std::uint32_t* PixelAt(HDC dc, int x, int y) noexcept {
 HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height) {
     const bool sized = width > 0 && width <= MaxSide && height > 0 && height <= MaxSide &&
                        width * height <= MaxPixels;
-    if (!Contexts.Find(dc) || !sized) {
+    if (!Contexts().Find(dc) || !sized) {
         return nullptr;
     }
     BitmapRecord bitmap;
@@ -45,11 +45,11 @@ HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height) {
     } catch (const std::bad_alloc&) {
         return nullptr;
     }
-    return static_cast<HBITMAP>(Bitmaps.Add(std::move(bitmap)));
+    return static_cast<HBITMAP>(Bitmaps().Add(std::move(bitmap)));
 }
 
 int GetObjectA(HGDIOBJ handle, int size, void* object) noexcept {
-    const BitmapRecord* bitmap = Bitmaps.Content(handle);
+    const BitmapRecord* bitmap = Bitmaps().Find(handle);
     constexpr int needed = sizeof(BITMAP);
     if (!bitmap || !object || size < needed) {
         return 0;
@@ -60,7 +60,7 @@ int GetObjectA(HGDIOBJ handle, int size, void* object) noexcept {
 }
 
 int GetBitmapBits(HBITMAP handle, int count, void* bits) noexcept {
-    const BitmapRecord* bitmap = Bitmaps.Content(handle);
+    const BitmapRecord* bitmap = Bitmaps().Find(handle);
     if (!bitmap || !bits || count <= 0) {
         return 0;
     }

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/drawing/bitmaps.h>
-#include <marlin/platform/drawing/c_client_dc.h>
 #include <marlin/platform/drawing/c_dc.h>
 #include <marlin/platform/drawing/detail/drawing_objects.h>
 #include <marlin/platform/drawing/gdi_objects.h>
 #include <marlin/platform/drawing/painting.h>
+#include <marlin/platform/drawing/text_painting.h>
 #include <marlin/platform/fonts/fonts.h>
 
 #include <cassert>
 #include <utility>
+
+using PLATFORM::detail::Contexts;
 
 namespace {
 
@@ -28,12 +30,7 @@ CDC::~CDC() {
 }
 
 CDC* CDC::FromHandle(HDC handle) noexcept {
-    auto* slot = PLATFORM::Contexts.Find(handle);
-    if (!slot) {
-        return nullptr;
-    }
-    slot->Temporary.m_hDC = slot->Temporary.m_hAttribDC = handle;
-    return slot->Attached ? slot->Attached : &slot->Temporary;
+    return Contexts().WrapperOf(handle);
 }
 
 HDC CDC::GetSafeHdc() const noexcept {
@@ -42,19 +39,15 @@ HDC CDC::GetSafeHdc() const noexcept {
 
 bool CDC::Attach(HDC handle) noexcept {
     assert(!m_hDC);
-    auto* slot = PLATFORM::Contexts.Find(handle);
-    if (!slot) {
+    if (!Contexts().Attach(handle, this)) {
         return false;
     }
-    slot->Attached = this;
     m_hDC = m_hAttribDC = handle;
     return true;
 }
 
 HDC CDC::Detach() noexcept {
-    if (auto* slot = PLATFORM::Contexts.Find(m_hDC); slot && slot->Attached == this) {
-        slot->Attached = nullptr;
-    }
+    Contexts().Detach(m_hDC, this);
     m_hAttribDC = nullptr;
     return std::exchange(m_hDC, nullptr);
 }
@@ -176,8 +169,4 @@ COLORREF CDC::GetPixel(int x, int y) const noexcept {
 
 COLORREF CDC::SetPixel(int x, int y, COLORREF color) noexcept {
     return ::SetPixel(m_hDC, x, y, color);
-}
-
-CClientDC::CClientDC(CWnd*) {
-    CreateDCA("DISPLAY", nullptr, nullptr, nullptr);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/platform/drawing/context_mapping.h>
 #include <marlin/platform/drawing/device_context.h>
 #include <marlin/platform/drawing/rect.h>
 #include <marlin/platform/fonts/font_types.h>

@@ -3,53 +3,19 @@
 #include <marlin/platform/drawing/detail/drawing_objects.h>
 #include <marlin/platform/drawing/gdi_objects.h>
 
-#include <atomic>
 #include <cassert>
-#include <mutex>
 #include <utility>
 
-namespace {
-
-using namespace PLATFORM;
-
-// Calls the operation with the slot of the handle's object, if there is one.
-template <typename Operation>
-void WithSlot(HGDIOBJ handle, Operation operation) noexcept {
-    if (auto* font = Fonts.Find(handle)) {
-        operation(*font);
-    } else if (auto* brush = Brushes.Find(handle)) {
-        operation(*brush);
-    } else if (auto* bitmap = Bitmaps.Find(handle)) {
-        operation(*bitmap);
-    }
-}
-
-// Threads share the stock objects, whose wrappers the first of them fills in.
-void NameOnce(HGDIOBJ& target, HGDIOBJ handle) noexcept {
-    static constinit std::mutex naming;
-    const std::atomic_ref<HGDIOBJ> held(target);
-    if (held.load(std::memory_order_acquire) == handle) {
-        return;
-    }
-    const std::scoped_lock lock(naming);
-    if (held.load(std::memory_order_relaxed) != handle) {
-        held.store(handle, std::memory_order_release);
-    }
-}
-
-}  // namespace
+using namespace PLATFORM::detail;
 
 CGdiObject::~CGdiObject() {
     DeleteObject();
 }
 
 CGdiObject* CGdiObject::FromHandle(HGDIOBJ handle) noexcept {
-    CGdiObject* result = nullptr;
-    WithSlot(handle, [&](auto& slot) {
-        NameOnce(slot.Temporary.m_hObject, handle);
-        result = slot.Attached ? slot.Attached : &slot.Temporary;
-    });
-    return result;
+    CGdiObject* wrapper = Fonts().WrapperOf(handle);
+    wrapper = wrapper ? wrapper : Brushes().WrapperOf(handle);
+    return wrapper ? wrapper : Bitmaps().WrapperOf(handle);
 }
 
 HGDIOBJ CGdiObject::GetSafeHandle() const noexcept {
@@ -58,23 +24,18 @@ HGDIOBJ CGdiObject::GetSafeHandle() const noexcept {
 
 bool CGdiObject::Attach(HGDIOBJ handle) noexcept {
     assert(!m_hObject);
-    bool found = false;
-    WithSlot(handle, [&](auto& slot) {
-        slot.Attached = this;
-        found = true;
-    });
-    if (found) {
-        m_hObject = handle;
+    if (!Fonts().Attach(handle, this) && !Brushes().Attach(handle, this) &&
+        !Bitmaps().Attach(handle, this)) {
+        return false;
     }
-    return found;
+    m_hObject = handle;
+    return true;
 }
 
 HGDIOBJ CGdiObject::Detach() noexcept {
-    WithSlot(m_hObject, [&](auto& slot) {
-        if (slot.Attached == this) {
-            slot.Attached = nullptr;
-        }
-    });
+    Fonts().Detach(m_hObject, this);
+    Brushes().Detach(m_hObject, this);
+    Bitmaps().Detach(m_hObject, this);
     return std::exchange(m_hObject, nullptr);
 }
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/platform/drawing/context_mapping.h>
 #include <marlin/platform/drawing/detail/drawing_objects.h>
-#include <marlin/platform/drawing/device_context.h>
 
 namespace {
 
-using namespace PLATFORM;
+using namespace PLATFORM::detail;
 
 BOOL SetOrigin(HDC dc, POINT Mapping::*origin, POINT value, POINT* before) noexcept {
-    ContextRecord* context = Contexts.Content(dc);
+    ContextRecord* context = Contexts().Find(dc);
     if (!context) {
         return 0;
     }
@@ -19,7 +19,7 @@ BOOL SetOrigin(HDC dc, POINT Mapping::*origin, POINT value, POINT* before) noexc
 }
 
 BOOL SetExtent(HDC dc, SIZE Mapping::*extent, SIZE value, SIZE* before) noexcept {
-    ContextRecord* context = Contexts.Content(dc);
+    ContextRecord* context = Contexts().Find(dc);
     if (!context) {
         return 0;
     }
@@ -34,7 +34,7 @@ BOOL SetExtent(HDC dc, SIZE Mapping::*extent, SIZE value, SIZE* before) noexcept
 }
 
 BOOL GetExtent(HDC dc, SIZE Mapping::*extent, SIZE* target) noexcept {
-    const ContextRecord* context = Contexts.Content(dc);
+    const ContextRecord* context = Contexts().Find(dc);
     if (!context || !target) {
         return 0;
     }
@@ -44,7 +44,7 @@ BOOL GetExtent(HDC dc, SIZE Mapping::*extent, SIZE* target) noexcept {
 
 BOOL MapPoints(HDC dc, POINT (Mapping::*map)(POINT) const noexcept, POINT* points,
                int count) noexcept {
-    const ContextRecord* context = Contexts.Content(dc);
+    const ContextRecord* context = Contexts().Find(dc);
     if (!context || count < 0 || (!points && count > 0)) {
         return 0;
     }
@@ -57,13 +57,13 @@ BOOL MapPoints(HDC dc, POINT (Mapping::*map)(POINT) const noexcept, POINT* point
 }  // namespace
 
 int SetMapMode(HDC dc, int mode) noexcept {
-    ContextRecord* context = Contexts.Content(dc);
+    ContextRecord* context = Contexts().Find(dc);
     const int before = context ? context->Map.Mode : 0;
     return context && context->Map.SetMode(mode) ? before : 0;
 }
 
 int GetMapMode(HDC dc) noexcept {
-    const ContextRecord* context = Contexts.Content(dc);
+    const ContextRecord* context = Contexts().Find(dc);
     return context ? context->Map.Mode : 0;
 }
 

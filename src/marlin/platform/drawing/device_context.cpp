@@ -9,26 +9,35 @@
 namespace {
 
 using namespace PLATFORM;
+using namespace PLATFORM::detail;
 
-// Sets a value of a context and gives the one before, or the failure value.
+// Sets a value of a context and returns the one before, or the failure value.
 template <typename Value>
 Value Replace(HDC dc, Value ContextRecord::*member, Value value, Value failure) noexcept {
-    ContextRecord* context = Contexts.Content(dc);
+    ContextRecord* context = Contexts().Find(dc);
     return context ? std::exchange(context->*member, value) : failure;
+}
+
+// Threads share the stock bitmap, which no context holds for itself.
+void LetGo(const ContextRecord& context) noexcept {
+    BitmapRecord* surface = SurfaceOf(context);
+    if (surface && !surface->Stock) {
+        surface->Holder = nullptr;
+    }
 }
 
 HGDIOBJ Hold(HDC dc, ContextRecord& context, HGDIOBJ object, BitmapRecord& bitmap) noexcept {
     if (!context.Memory || bitmap.Holder) {
         return nullptr;
     }
-    if (BitmapRecord* before = SurfaceOf(context)) {
-        before->Holder = nullptr;
+    LetGo(context);
+    if (!bitmap.Stock) {
+        bitmap.Holder = dc;
     }
-    bitmap.Holder = bitmap.Stock ? nullptr : dc;
     return std::exchange(context.Bitmap, object);
 }
 
-// What stands for an object never chosen.
+// A context that was never given an object of a kind has the stock one.
 HGDIOBJ OrStock(HGDIOBJ object, int index) {
     return object ? object : GetStockObject(index);
 }
@@ -39,32 +48,30 @@ HDC CreateDCA(const char* driver, const char*, const char*, const void*) {
     if (!driver || !EqualIgnoringCase(driver, "DISPLAY")) {
         return nullptr;
     }
-    return static_cast<HDC>(Contexts.Add({}));
+    return static_cast<HDC>(Contexts().Add({}));
 }
 
 HDC CreateCompatibleDC(HDC dc) {
-    if (dc && !Contexts.Find(dc)) {
+    if (dc && !Contexts().Find(dc)) {
         return nullptr;
     }
     ContextRecord context;
     context.Memory = true;
     context.Bitmap = EmptyBitmap();
-    return static_cast<HDC>(Contexts.Add(std::move(context)));
+    return static_cast<HDC>(Contexts().Add(std::move(context)));
 }
 
 BOOL DeleteDC(HDC dc) noexcept {
-    const ContextRecord* context = Contexts.Content(dc);
+    const ContextRecord* context = Contexts().Find(dc);
     if (!context) {
         return 0;
     }
-    if (BitmapRecord* surface = SurfaceOf(*context)) {
-        surface->Holder = nullptr;
-    }
-    return Contexts.Remove(dc);
+    LetGo(*context);
+    return Contexts().Remove(dc);
 }
 
 int GetDeviceCaps(HDC dc, int index) noexcept {
-    if (!Contexts.Find(dc)) {
+    if (!Contexts().Find(dc)) {
         return 0;
     }
     switch (index) {
@@ -93,22 +100,22 @@ int GetDeviceCaps(HDC dc, int index) noexcept {
 }
 
 HGDIOBJ SelectObject(HDC dc, HGDIOBJ object) {
-    ContextRecord* context = Contexts.Content(dc);
+    ContextRecord* context = Contexts().Find(dc);
     if (!context) {
         return nullptr;
     }
-    if (Fonts.Find(object)) {
+    if (Fonts().Find(object)) {
         return OrStock(std::exchange(context->Font, object), SYSTEM_FONT);
     }
-    if (Brushes.Find(object)) {
+    if (Brushes().Find(object)) {
         return OrStock(std::exchange(context->Brush, object), WHITE_BRUSH);
     }
-    BitmapRecord* bitmap = Bitmaps.Content(object);
+    BitmapRecord* bitmap = Bitmaps().Find(object);
     return bitmap ? Hold(dc, *context, object, *bitmap) : nullptr;
 }
 
 HGDIOBJ GetCurrentObject(HDC dc, unsigned int kind) {
-    const ContextRecord* context = Contexts.Content(dc);
+    const ContextRecord* context = Contexts().Find(dc);
     if (!context) {
         return nullptr;
     }

@@ -6,7 +6,7 @@
 
 namespace {
 
-using namespace PLATFORM;
+using namespace PLATFORM::detail;
 
 // The part of a logical rectangle that lies on the surface, in pixels.
 RECT PixelsOf(const RECT& rect, const Mapping& mapping, const BitmapRecord& surface) noexcept {
@@ -33,8 +33,8 @@ void Fill(const ContextRecord& context, const RECT& rect, COLORREF color) noexce
 // Calls the operation with the context and color that are painted with; 0 for wrong handles.
 template <typename Operation>
 int Paint(HDC dc, const RECT* rect, HBRUSH brush, Operation operation) noexcept {
-    const ContextRecord* context = Contexts.Content(dc);
-    const BrushRecord* used = Brushes.Content(brush);
+    const ContextRecord* context = Contexts().Find(dc);
+    const BrushRecord* used = Brushes().Find(brush);
     if (!context || !rect || !used) {
         return 0;
     }

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/drawing/detail/rasterizer.h>
-#include <marlin/platform/drawing/painting.h>
-#include <marlin/platform/fonts/detail/font_scale.h>
+#include <marlin/platform/drawing/text_painting.h>
+#include <marlin/platform/fonts/detail/selected_font.h>
+#include <marlin/platform/fonts/text_outline.h>
 
 #include <cmath>
 #include <numbers>
@@ -11,11 +12,12 @@
 namespace {
 
 using namespace PLATFORM;
+using namespace PLATFORM::detail;
 
 constexpr unsigned int HorizontalBits = TA_CENTER;
 constexpr unsigned int VerticalBits = TA_BASELINE;
 
-// Long texts are painted in pieces of so many bytes, each a shape of its own.
+// Long texts are painted in pieces of so many bytes: FreeType's outlines count points in 16 bits.
 constexpr int PieceLength = 64;
 
 struct Piece {
@@ -40,12 +42,11 @@ double ReferenceY(unsigned int alignment, const FaceMetrics& face) noexcept {
     return vertical == TA_BOTTOM ? -face.CellDescent : face.CellAscent;
 }
 
-// Texts stand upright on the surface whatever the signs of the mapping.
+// Logical y often points up and device y down, but letters stay upright: no signs here.
 Placement Directions(const Mapping& mapping, const SelectedFont& font) noexcept {
-    const FontScale scale = ScaleOf(*font.Font, font.Entry->Face->Metrics(), mapping);
-    const double angle = font.Font->Escapement / 1800.0 * std::numbers::pi;
-    const double scaleX = mapping.ScaleX() * scale.Logical / scale.Design;
-    const double scaleY = mapping.ScaleY() * scale.Logical / scale.Design;
+    const double angle = font.Record->Escapement / 1800.0 * std::numbers::pi;
+    const double scaleX = mapping.ScaleX() * font.Sized.Scale();
+    const double scaleY = mapping.ScaleY() * font.Sized.Scale();
     return {0,
             0,
             std::cos(angle) * scaleX,
@@ -85,32 +86,33 @@ std::vector<Piece> PiecesOf(HDC dc, std::string_view text, Placement at) {
 }  // namespace
 
 BOOL TextOutA(HDC dc, int x, int y, const char* text, int count) {
-    const ContextRecord* context = Contexts.Content(dc);
-    const SelectedFont font = context ? FontOf(*context) : SelectedFont();
+    const SelectedFont font = FontOf(dc);
     if (!font || count < 0 || (!text && count > 0)) {
         return 0;
     }
-    BitmapRecord* surface = SurfaceOf(*context);
+    const ContextRecord& context = *Contexts().Find(dc);
+    BitmapRecord* surface = SurfaceOf(context);
     if (!surface) {
         return 1;
     }
-    const FontFace& face = *font.Entry->Face;
+    const FontFace& face = font.Sized.Face();
     const std::string_view bytes(text, static_cast<std::size_t>(count));
-    Placement at = Directions(context->Map, font);
-    const POINT device = context->Map.ToDevice({x, y});
+    Placement at = Directions(context.Map, font);
+    const POINT device = context.Map.ToDevice({x, y});
     at.X = device.x;
     at.Y = device.y;
     const auto advance = static_cast<double>(face.Advance(bytes));
-    at = Moved(at, -ReferenceX(context->Alignment, advance),
-               -ReferenceY(context->Alignment, face.Metrics()));
+    at = Moved(at, -ReferenceX(context.Alignment, advance),
+               -ReferenceY(context.Alignment, face.Metrics()));
+    // All cells first: a letter may reach into the cell beside its own.
     const std::vector<Piece> pieces = PiecesOf(dc, bytes, at);
     for (const Piece& piece : pieces) {
-        if (context->BackMode == OPAQUE) {
-            PaintShape(CellOf(piece.Text), piece.At, context->BackColor, *surface);
+        if (context.BackMode == OPAQUE) {
+            PaintShape(CellOf(piece.Text), piece.At, context.BackColor, *surface);
         }
     }
     for (const Piece& piece : pieces) {
-        PaintShape(piece.Text.Steps, piece.At, context->TextColor, *surface);
+        PaintShape(piece.Text.Steps, piece.At, context.TextColor, *surface);
     }
     return 1;
 }

@@ -1,36 +1,104 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/platform/fonts/detail/font_scale.h>
-#include <marlin/platform/fonts/detail/glyph_pen.h>
+#include <marlin/platform/fonts/detail/font_store.h>
+#include <marlin/platform/fonts/detail/selected_font.h>
 #include <marlin/platform/fonts/text_outline.h>
 
+#include <string_view>
 #include <utility>
+
+#include <ft2build.h>
+#include FT_FREETYPE_H
+#include FT_OUTLINE_H
 
 namespace PLATFORM {
 
+namespace {
+
+using namespace detail;
+
+// Appends the glyphs' steps, each glyph where the one before ends.
+struct Pen {
+    std::vector<OutlineStep>* Steps;
+    double X = 0;
+
+    [[nodiscard]] OutlinePoint At(const FT_Vector& point) const noexcept {
+        return {static_cast<double>(point.x) + X, static_cast<double>(point.y)};
+    }
+};
+
+int Add(void* user, OutlineStep::KIND kind, const FT_Vector& to, const FT_Vector& control1,
+        const FT_Vector& control2) {
+    const Pen& pen = *static_cast<Pen*>(user);
+    pen.Steps->push_back({kind, pen.At(to), pen.At(control1), pen.At(control2)});
+    return 0;
+}
+
+int MoveTo(const FT_Vector* to, void* user) {
+    return Add(user, OutlineStep::MOVE, *to, *to, *to);
+}
+
+int LineTo(const FT_Vector* to, void* user) {
+    return Add(user, OutlineStep::LINE, *to, *to, *to);
+}
+
+int ConicTo(const FT_Vector* control, const FT_Vector* to, void* user) {
+    return Add(user, OutlineStep::CONIC, *to, *control, *control);
+}
+
+int CubicTo(const FT_Vector* control1, const FT_Vector* control2, const FT_Vector* to, void* user) {
+    return Add(user, OutlineStep::CUBIC, *to, *control1, *control2);
+}
+
+constexpr FT_Outline_Funcs penMoves{MoveTo, LineTo, ConicTo, CubicTo, 0, 0};
+
+// The advance of the whole text. Glyphs that cannot be read leave their place empty.
+double AppendText(const FontFace& face, std::string_view text, std::vector<OutlineStep>& steps) {
+    const std::scoped_lock lock(FontStore::Lock());
+    Pen pen{&steps};
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (const FT_Outline* outline = face.Outline(text[i])) {
+            const std::size_t before = steps.size();
+            // FreeType only reads the outline, though its signature does not say so.
+            if (FT_Outline_Decompose(const_cast<FT_Outline*>(outline), &penMoves, &pen) != 0) {
+                steps.resize(before);
+            }
+        }
+        pen.X += static_cast<double>(face.Advance(text.substr(i, 1)));
+    }
+    return pen.X;
+}
+
+// A box of that middle and thickness, under or through a text.
+void AppendLine(double length, double middle, double thickness, std::vector<OutlineStep>& steps) {
+    const double low = middle - thickness / 2;
+    const double high = middle + thickness / 2;
+    steps.push_back({OutlineStep::MOVE, {0, low}, {}, {}});
+    for (const OutlinePoint& corner :
+         {OutlinePoint{0, high}, {length, high}, {length, low}, {0, low}}) {
+        steps.push_back({OutlineStep::LINE, corner, {}, {}});
+    }
+}
+
+}  // namespace
+
 bool GetTextOutline(HDC dc, const char* text, int count, TextOutline& outline) {
-    const ContextRecord* context = Contexts.Content(dc);
-    const SelectedFont font = context ? FontOf(*context) : SelectedFont();
+    const SelectedFont font = FontOf(dc);
     if (!font || count < 0 || (!text && count > 0)) {
         return false;
     }
-    const FontFace& face = *font.Entry->Face;
+    const FontFace& face = font.Sized.Face();
     const FaceMetrics& metrics = face.Metrics();
-    const FontScale scale = ScaleOf(*font.Font, metrics, context->Map);
     TextOutline made;
-    {
-        const std::scoped_lock lock(FontStore::Lock());
-        made.Advance =
-            AppendText(face, std::string_view(text, static_cast<std::size_t>(count)), made.Steps);
-    }
-    if (font.Font->Underline) {
+    made.Advance = AppendText(face, {text, static_cast<std::size_t>(count)}, made.Steps);
+    if (font.Record->Underline) {
         AppendLine(made.Advance, metrics.UnderlinePosition, metrics.UnderlineSize, made.Steps);
     }
-    if (font.Font->StrikeOut) {
+    if (font.Record->StrikeOut) {
         AppendLine(made.Advance, metrics.StrikeoutPosition, metrics.StrikeoutSize, made.Steps);
     }
     made.Ascent = metrics.CellAscent;
     made.Descent = metrics.CellDescent;
-    made.Scale = scale.Logical / scale.Design;
+    made.Scale = font.Sized.Scale();
     outline = std::move(made);
     return true;
 }

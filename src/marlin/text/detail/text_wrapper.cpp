@@ -5,7 +5,7 @@
 #include <cmath>
 #include <utility>
 
-namespace MARLINSUITE {
+namespace MARLINSUITE::detail {
 
 namespace {
 
@@ -107,4 +107,4 @@ void TextWrapper::EndLine() {
     m_Rest = WithoutLeadingSpaces(m_Rest);
 }
 
-}  // namespace MARLINSUITE
+}  // namespace MARLINSUITE::detail

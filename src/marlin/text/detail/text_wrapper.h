@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace MARLINSUITE {
+namespace MARLINSUITE::detail {
 
 /// Breaks a text into lines of a width, in logical units: at each "\P", behind spaces and hyphens,
 /// and inside words that are wider than a line.
@@ -46,4 +46,4 @@ private:
     bool m_InBrokenWord = false;
 };
 
-}  // namespace MARLINSUITE
+}  // namespace MARLINSUITE::detail

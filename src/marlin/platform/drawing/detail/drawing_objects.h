@@ -11,20 +11,20 @@
 #include <cstdint>
 #include <vector>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
-struct FontEntry;
+class FontFace;
 
 struct FontRecord {
     int Height = 0;
     int Escapement = 0;
-    /// Null when the face cannot be measured, or is that of a stock font, which is found when
-    /// it is first needed.
-    const FontEntry* Entry = nullptr;
-    /// The name of a stock font's face.
-    const char* StockFace = nullptr;
+    /// Null when the font cannot be measured.
+    const FontFace* Face = nullptr;
     bool Underline = false;
     bool StrikeOut = false;
+    bool Stock = false;
+    /// A stock font has this in place of its face, which is found when it is needed.
+    const char* StockFace = nullptr;
 };
 
 struct BrushRecord {
@@ -38,7 +38,7 @@ struct BitmapRecord {
     int Height = 0;
     /// Rows from the top; blue in the low byte, then green and red.
     std::vector<std::uint32_t> Pixels;
-    /// The context that holds it.
+    /// The context that holds it; none holds a stock bitmap for itself.
     HDC Holder = nullptr;
     bool Stock = false;
 };
@@ -60,10 +60,12 @@ using FontTable = HandleTable<FontRecord, CFont, CGdiObject, OBJECT_KIND::FONT>;
 using BrushTable = HandleTable<BrushRecord, CBrush, CGdiObject, OBJECT_KIND::BRUSH>;
 using BitmapTable = HandleTable<BitmapRecord, CBitmap, CGdiObject, OBJECT_KIND::BITMAP>;
 
-extern ContextTable Contexts;
-extern FontTable Fonts;
-extern BrushTable Brushes;
-extern BitmapTable Bitmaps;
+/// The tables of the process. Made when first asked for and never destroyed, because objects that
+/// draw may be made earlier and destroyed later than any of the library's.
+[[nodiscard]] ContextTable& Contexts();
+[[nodiscard]] FontTable& Fonts();
+[[nodiscard]] BrushTable& Brushes();
+[[nodiscard]] BitmapTable& Bitmaps();
 
 /// The bitmap that a context paints on; null for the display and for a context without one.
 [[nodiscard]] BitmapRecord* SurfaceOf(const ContextRecord& context) noexcept;
@@ -80,4 +82,4 @@ extern BitmapTable Bitmaps;
     return PixelOf(pixel);
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

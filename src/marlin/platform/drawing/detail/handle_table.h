@@ -1,221 +1,150 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <array>
-#include <atomic>
+#include <marlin/platform/drawing/c_dc.h>
+#include <marlin/platform/drawing/c_gdi_object.h>
+
 #include <cstddef>
 #include <cstdint>
-#include <memory>
+#include <deque>
 #include <mutex>
-#include <type_traits>
 #include <utility>
+#include <vector>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
-enum class OBJECT_KIND : unsigned char { NONE = 0, CONTEXT = 1, FONT = 2, BRUSH = 3, BITMAP = 4 };
+enum class OBJECT_KIND : unsigned char { CONTEXT = 1, FONT, BRUSH, BITMAP };
 
-/// The objects of one kind, found by handles that are checked without a lock. A handle holds
-/// the slot (bits 0 to 15), the kind (16 to 23) and the turn of the slot's use (24 to 55), so a
-/// stale one does not match. Slots live for the process and are used again; up to 65,536 objects
-/// exist at a time. Adding and removing is safe from any thread, an object from one at a time.
+inline void SetHandle(CDC& wrapper, void* handle) noexcept {
+    wrapper.m_hDC = wrapper.m_hAttribDC = static_cast<HDC>(handle);
+}
+inline void SetHandle(CGdiObject& wrapper, void* handle) noexcept {
+    wrapper.m_hObject = handle;
+}
+
+/// The objects of one kind, found by their handles. A handle holds the object's slot (bits 0 to
+/// 15), its kind (16 to 23) and how often the slot was used before it (24 to 55), so one of a
+/// deleted object matches nothing. Up to 65,536 objects exist at a time. Slots are used again and
+/// never given up, so a pointer to a deleted object or to its wrapper is stale but harmless.
 ///
-/// The slot that a thread gave back last is kept for it, so that making and deleting one object
-/// after the other costs no synchronisation.
+/// Each slot carries the wrapper that a caller has attached to the object, and one of its own
+/// that takes its place until then.
 ///
-/// Each slot carries the wrapper that stands for the object where a caller has attached none.
+/// Tables may be used from any thread, an object from one at a time.
 template <typename Record, typename Wrapper, typename AttachedWrapper, OBJECT_KIND Kind>
 class HandleTable {
 public:
-    struct Slot {
-        std::atomic<std::uintptr_t> Handle{0};
-        std::atomic<std::uint32_t> NextFree{0};
-        std::uint32_t Turn = 0;
-        AttachedWrapper* Attached = nullptr;
-        Wrapper Temporary;
-        Record Content;
-    };
-
     /// Null when the handle names no object of this table.
-    [[nodiscard]] Slot* Find(const void* handle) const noexcept {
-        const auto value = reinterpret_cast<std::uintptr_t>(handle);
-        if (KindOf(handle) != Kind) {
-            return nullptr;
-        }
-        Slot* slot = SlotAt(value & IndexMask);
-        return slot && slot->Handle.load(std::memory_order_acquire) == value ? slot : nullptr;
+    [[nodiscard]] Record* Find(const void* handle) noexcept {
+        const std::scoped_lock lock(m_Lock);
+        Slot* slot = SlotOf(handle);
+        return slot ? &slot->Content : nullptr;
     }
 
-    [[nodiscard]] Record* Content(const void* handle) const noexcept {
-        Slot* slot = Find(handle);
-        return slot ? &slot->Content : nullptr;
+    /// The attached wrapper or the slot's own; null when the handle names no object.
+    [[nodiscard]] AttachedWrapper* WrapperOf(const void* handle) noexcept {
+        const std::scoped_lock lock(m_Lock);
+        Slot* slot = SlotOf(handle);
+        if (!slot) {
+            return nullptr;
+        }
+        return slot->Attached ? slot->Attached : &slot->Own;
+    }
+
+    /// False when the handle names no object.
+    bool Attach(const void* handle, AttachedWrapper* wrapper) noexcept {
+        const std::scoped_lock lock(m_Lock);
+        Slot* slot = SlotOf(handle);
+        if (slot) {
+            slot->Attached = wrapper;
+        }
+        return slot != nullptr;
+    }
+
+    /// Nothing happens where another wrapper is attached.
+    void Detach(const void* handle, const AttachedWrapper* wrapper) noexcept {
+        const std::scoped_lock lock(m_Lock);
+        Slot* slot = SlotOf(handle);
+        if (slot && slot->Attached == wrapper) {
+            slot->Attached = nullptr;
+        }
     }
 
     /// The new object's handle, or null when there are too many objects.
     [[nodiscard]] void* Add(Record&& record) {
-        std::uintptr_t index = 0;
-        Slot* slot = TakeKept(index);
-        if (!slot) {
-            slot = TakeFree(index);
-        }
-        if (!slot) {
+        const std::scoped_lock lock(m_Lock);
+        if (m_Free.empty() && !Grow()) {
             return nullptr;
         }
-        slot->Content = std::move(record);
-        const std::uintptr_t kind = static_cast<unsigned char>(Kind);
-        const std::uintptr_t handle = index | kind << 16U | std::uintptr_t{++slot->Turn} << 24U;
-        slot->Handle.store(handle, std::memory_order_release);
-        return reinterpret_cast<void*>(handle);
+        const std::size_t index = m_Free.back();
+        m_Free.pop_back();
+        Slot& slot = m_Slots[index];
+        slot.Content = std::move(record);
+        slot.Handle = index | std::uintptr_t{static_cast<unsigned char>(Kind)} << 16U |
+                      std::uintptr_t{++slot.Turn} << 24U;
+        void* const handle = reinterpret_cast<void*>(slot.Handle);
+        SetHandle(slot.Own, handle);
+        return handle;
     }
 
     bool Remove(const void* handle) noexcept {
-        Slot* slot = Find(handle);
+        const std::scoped_lock lock(m_Lock);
+        Slot* slot = SlotOf(handle);
         if (!slot) {
             return false;
         }
-        slot->Handle.store(0, std::memory_order_relaxed);
+        slot->Handle = 0;
         slot->Attached = nullptr;
-        if constexpr (!std::is_trivially_destructible_v<Record>) {
-            slot->Content = Record();
-        }
-        const std::uintptr_t index = reinterpret_cast<std::uintptr_t>(handle) & IndexMask;
-        if (!Keep(index)) {
-            GiveBack(*slot, index);
-        }
+        slot->Content = Record();
+        m_Free.push_back(reinterpret_cast<std::uintptr_t>(handle) & IndexMask);
         return true;
     }
 
-    /// How many objects satisfy the condition; while other threads add or remove, about as many.
+    /// How many objects satisfy the condition.
     template <typename Condition>
-    [[nodiscard]] std::size_t CountIf(Condition condition) const {
+    [[nodiscard]] std::size_t CountIf(Condition condition) {
+        const std::scoped_lock lock(m_Lock);
         std::size_t count = 0;
-        for (std::size_t i = 0; SlotAt(i); ++i) {
-            const Slot& slot = *SlotAt(i);
-            const bool live = slot.Handle.load(std::memory_order_acquire) != 0;
-            count += live && condition(slot.Content) ? 1U : 0U;
+        for (const Slot& slot : m_Slots) {
+            count += slot.Handle != 0 && condition(slot.Content) ? 1U : 0U;
         }
         return count;
     }
 
-    [[nodiscard]] static OBJECT_KIND KindOf(const void* handle) noexcept {
-        const auto value = reinterpret_cast<std::uintptr_t>(handle);
-        return static_cast<OBJECT_KIND>(value >> 16U & 0xFFU);
-    }
-
 private:
-    static constexpr std::size_t BlockSize = 64;
-    static constexpr std::size_t MaxBlocks = 1024;
     static constexpr std::uintptr_t IndexMask = 0xFFFF;
-    static_assert(BlockSize * MaxBlocks == IndexMask + 1 && sizeof(std::uintptr_t) == 8);
-    using Block = std::array<Slot, BlockSize>;
 
-    [[nodiscard]] Slot* SlotAt(std::size_t index) const noexcept {
-        if (index > IndexMask) {
-            return nullptr;
-        }
-        Block* block = m_Blocks[index / BlockSize].load(std::memory_order_acquire);
-        return block ? &(*block)[index % BlockSize] : nullptr;
-    }
-
-    // The head of the free list is the index + 1 of a slot, 0 for none, and above it a count of
-    // the changes, without which a slot taken and given back meanwhile would go unnoticed.
-    static constexpr std::uint64_t Head(std::uint64_t previous, std::uint32_t indexPlus1) noexcept {
-        return ((previous >> 32U) + 1) << 32U | indexPlus1;
-    }
-
-    // What a thread keeps. Nothing more is kept once the thread's own objects are going.
-    struct Kept {
-        std::uint32_t IndexPlus1 = 0;
-        bool Returns = false;
-        bool Ended = false;
+    struct Slot {
+        std::uintptr_t Handle = 0;  // 0 while free
+        std::uint32_t Turn = 0;
+        AttachedWrapper* Attached = nullptr;
+        Wrapper Own;
+        Record Content;
     };
 
-    struct Returner {
-        HandleTable* Table;
-
-        explicit Returner(HandleTable* table) noexcept : Table(table) {}
-        Returner(const Returner&) = delete;
-        Returner& operator=(const Returner&) = delete;
-        ~Returner() {
-            std::uintptr_t index = 0;
-            if (Slot* slot = Table->TakeKept(index)) {
-                Table->GiveBack(*slot, index);
-            }
-            t_Kept.Ended = true;
-        }
-    };
-
-    Slot* TakeKept(std::uintptr_t& index) noexcept {
-        if (t_Kept.IndexPlus1 == 0) {
-            return nullptr;
-        }
-        index = std::exchange(t_Kept.IndexPlus1, 0U) - 1;
-        return SlotAt(index);
-    }
-
-    bool Keep(std::uintptr_t index) noexcept {
-        if (t_Kept.IndexPlus1 != 0 || t_Kept.Ended) {
-            return false;
-        }
-        if (!t_Kept.Returns) {
-            static thread_local const Returner returner(this);
-            t_Kept.Returns = returner.Table == this;
-        }
-        t_Kept.IndexPlus1 = static_cast<std::uint32_t>(index + 1);
-        return true;
-    }
-
-    Slot* TakeFree(std::uintptr_t& index) {
-        std::uint64_t head = m_Free.load(std::memory_order_acquire);
-        for (;;) {
-            index = (head - 1) & IndexMask;
-            Slot* slot = static_cast<std::uint32_t>(head) != 0 ? SlotAt(index) : nullptr;
-            if (!slot) {
-                if (!Grow()) {
-                    return nullptr;
-                }
-                head = m_Free.load(std::memory_order_acquire);
-                continue;
-            }
-            const auto next = slot->NextFree.load(std::memory_order_relaxed);
-            if (m_Free.compare_exchange_weak(head, Head(head, next), std::memory_order_acq_rel)) {
-                return slot;
-            }
-        }
-    }
-
-    void GiveBack(Slot& slot, std::uintptr_t index) noexcept {
-        const auto indexPlus1 = static_cast<std::uint32_t>(index + 1);
-        std::uint64_t head = m_Free.load(std::memory_order_relaxed);
-        do {
-            slot.NextFree.store(static_cast<std::uint32_t>(head), std::memory_order_relaxed);
-        } while (
-            !m_Free.compare_exchange_weak(head, Head(head, indexPlus1), std::memory_order_acq_rel));
+    [[nodiscard]] Slot* SlotOf(const void* handle) noexcept {
+        const auto value = reinterpret_cast<std::uintptr_t>(handle);
+        const std::size_t index = value & IndexMask;
+        return value != 0 && index < m_Slots.size() && m_Slots[index].Handle == value
+                   ? &m_Slots[index]
+                   : nullptr;
     }
 
     bool Grow() {
-        const std::scoped_lock lock(m_Growing);
-        if (static_cast<std::uint32_t>(m_Free.load(std::memory_order_acquire)) != 0) {
-            return true;
-        }
-        if (m_BlockCount == MaxBlocks) {
+        if (m_Slots.size() > IndexMask) {
             return false;
         }
-        // Blocks outlive every static object that may still draw when the process ends.
-        Block& block = *std::make_unique<Block>().release();
-        m_Blocks[m_BlockCount].store(&block, std::memory_order_release);
-        const std::size_t first = m_BlockCount++ * BlockSize;
-        for (std::size_t i = BlockSize; i > 0; --i) {
-            GiveBack(block[i - 1], first + i - 1);
+        m_Slots.emplace_back();
+        if (m_Free.capacity() < m_Slots.size()) {
+            m_Free.reserve(2 * m_Slots.size());  // so that giving a slot back cannot fail
         }
+        m_Free.push_back(m_Slots.size() - 1);
         return true;
     }
 
-    [[gnu::tls_model("initial-exec")]] static inline constinit thread_local Kept t_Kept{};
-
-    std::array<std::atomic<Block*>, MaxBlocks> m_Blocks{};
-    std::atomic<std::uint64_t> m_Free{0};
-    std::mutex m_Growing;
-    std::size_t m_BlockCount = 0;
+    std::mutex m_Lock;
+    std::deque<Slot> m_Slots;  // which moves none of them when it grows
+    std::vector<std::size_t> m_Free;
 };
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

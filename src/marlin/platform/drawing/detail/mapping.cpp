@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 namespace {
 
@@ -94,4 +94,4 @@ POINT Mapping::ToLogical(POINT device) const noexcept {
             Map(device.y, ViewportOrigin.y, ViewportExtent.cy, WindowOrigin.y, WindowExtent.cy)};
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -5,7 +5,7 @@
 #include <marlin/platform/drawing/point.h>
 #include <marlin/platform/drawing/size.h>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 /// Dots an inch of the display and of every surface.
 inline constexpr int DotsPerInch = 96;
@@ -35,4 +35,4 @@ private:
     void MakeSquare() noexcept;
 };
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/drawing/detail/rasterizer.h>
 #include <marlin/platform/fonts/detail/font_store.h>
-#include <marlin/platform/fonts/detail/free_type.h>
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 
-namespace PLATFORM {
+#include <ft2build.h>
+#include FT_FREETYPE_H
+#include FT_OUTLINE_H
+
+namespace PLATFORM::detail {
 
 namespace {
 
@@ -118,4 +121,4 @@ void PaintShape(const std::vector<OutlineStep>& steps, const Placement& placemen
     }
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 /// A place on a surface and two directions: the pixels that one unit to the right and one unit
 /// up lead to.
@@ -25,4 +25,4 @@ struct Placement {
 void PaintShape(const std::vector<OutlineStep>& steps, const Placement& placement, COLORREF color,
                 BitmapRecord& surface);
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

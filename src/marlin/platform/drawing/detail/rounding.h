@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <limits>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 /// The nearest whole number, halves away from 0, cut to 32 bits; 0 for what is not a number.
 [[nodiscard]] constexpr int RoundToInt(double value) noexcept {
@@ -16,4 +16,4 @@ namespace PLATFORM {
     return away <= -limit - 1 ? std::numeric_limits<int>::min() : static_cast<int>(away);
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -1,26 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/fonts/detail/font_face.h>
-#include <marlin/platform/fonts/detail/free_type.h>
 #include <marlin/platform/kernel/detail/file.h>
 #include <marlin/platform/text/code_page.h>
 
 #include <cstddef>
+#include <utility>
 
-namespace PLATFORM {
+#include <ft2build.h>
+#include FT_FREETYPE_H
+#include FT_ADVANCES_H
+#include FT_OUTLINE_H
+
+namespace PLATFORM::detail {
 
 namespace {
 
 constexpr std::size_t LargestFile = std::size_t{1} << 28U;
-
-bool ReadFile(const std::string& path, std::vector<unsigned char>& bytes) {
-    std::string read;
-    // Not waiting keeps a pipe of that name from holding the caller.
-    if (detail::ReadWhole(path, LargestFile, read, detail::File::WAITING::DO_NOT_WAIT) != 0) {
-        return false;
-    }
-    bytes.assign(read.begin(), read.end());
-    return !bytes.empty();
-}
 
 std::string TextOrEmpty(const char* text) {
     return text ? text : "";
@@ -28,7 +23,7 @@ std::string TextOrEmpty(const char* text) {
 
 }  // namespace
 
-FT_Library FreeType() noexcept {
+FT_LibraryRec_* FreeType() noexcept {
     static const FT_Library library = [] {
         FT_Library made = nullptr;
         return FT_Init_FreeType(&made) == 0 ? made : nullptr;
@@ -36,30 +31,41 @@ FT_Library FreeType() noexcept {
     return library;
 }
 
+FontBytes ReadFontFile(const std::string& path) {
+    auto bytes = std::make_shared<std::string>();
+    // Not waiting keeps a pipe of that name from holding the caller.
+    const bool read = ReadWhole(path, LargestFile, *bytes, File::WAITING::DO_NOT_WAIT) == 0;
+    bytes->shrink_to_fit();  // reading grew it in steps, and faces keep it for long
+    return read && !bytes->empty() ? bytes : nullptr;
+}
+
 void FontFace::Closer::operator()(FT_FaceRec_* face) const noexcept {
     FT_Done_Face(face);
 }
 
-std::unique_ptr<FontFace> FontFace::Load(const std::string& path, int index) {
-    auto face = std::make_unique<FontFace>(Key{});
-    if (!ReadFile(path, face->m_Bytes) || !face->Open(index) || !face->ReadMetrics()) {
+std::unique_ptr<const FontFace> FontFace::Open(FontBytes bytes, int index) {
+    FT_Face opened = nullptr;
+    if (!FreeType() ||
+        FT_New_Memory_Face(FreeType(), reinterpret_cast<const FT_Byte*>(bytes->data()),
+                           static_cast<FT_Long>(bytes->size()), index, &opened) != 0) {
         return nullptr;
     }
+    auto face = std::make_unique<FontFace>(Key{});
+    face->m_Bytes = std::move(bytes);
+    face->m_Face.reset(opened);
+    if (!FT_IS_SCALABLE(opened) || opened->units_per_EM == 0 ||
+        !ReadMetrics(opened, face->m_Metrics)) {
+        return nullptr;
+    }
+    face->ReadNames();
     face->ReadAdvances();
     return face;
 }
 
-bool FontFace::Open(int index) {
-    FT_Face opened = nullptr;
-    if (!FreeType() ||
-        FT_New_Memory_Face(FreeType(), m_Bytes.data(), static_cast<FT_Long>(m_Bytes.size()), index,
-                           &opened) != 0) {
-        return false;
-    }
-    m_Face.reset(opened);
-    m_Family = TextOrEmpty(opened->family_name);
-    m_Style = TextOrEmpty(opened->style_name);
-    return FT_IS_SCALABLE(opened) && opened->units_per_EM > 0;
+void FontFace::ReadNames() {
+    const std::string family = TextOrEmpty(m_Face->family_name);
+    const std::string style = TextOrEmpty(m_Face->style_name);
+    m_Names = {family, family, style, style.empty() ? family : family + ' ' + style};
 }
 
 unsigned int FontFace::GlyphOf(char byte) const noexcept {
@@ -74,6 +80,7 @@ unsigned int FontFace::GlyphOf(char byte) const noexcept {
     return glyph != 0 ? glyph : FT_Get_Char_Index(face, symbol);
 }
 
+// Unscaled, because hinting and the pixels of a size would make widths depend on the display.
 void FontFace::ReadAdvances() noexcept {
     for (std::size_t i = 0; i < m_Advances.size(); ++i) {
         FT_Fixed advance = 0;
@@ -98,4 +105,4 @@ const FT_Outline_* FontFace::Outline(char byte) const noexcept {
                                                                     : nullptr;
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

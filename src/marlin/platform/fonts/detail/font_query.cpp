@@ -9,7 +9,7 @@
 
 #include <fontconfig/fontconfig.h>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 namespace {
 
@@ -95,16 +95,15 @@ InstalledFont FontOf(FcPattern* pattern) {
     font.Weight = FcWeightToOpenType(NumberOf(pattern, FC_WEIGHT, FC_WEIGHT_NORMAL));
     font.Italic = NumberOf(pattern, FC_SLANT, FC_SLANT_ROMAN) != FC_SLANT_ROMAN;
     font.FixedPitch = NumberOf(pattern, FC_SPACING, FC_PROPORTIONAL) >= FC_MONO;
-    font.Outline = FlagOf(pattern, FC_OUTLINE);
     return font;
 }
 
-// All outline fonts that hold the letter A.
+// All outline fonts that hold the letter A: fonts of symbols would fill a list of names in vain.
 FontSet ListLatin(FcConfig* configuration) {
     const Pattern wanted(FcPatternCreate());
     const CharSet latin(FcCharSetCreate());
     const ObjectSet objects(FcObjectSetBuild(FC_FAMILY, FC_FAMILYLANG, FC_STYLE, FC_STYLELANG,
-                                             FC_WEIGHT, FC_SLANT, FC_SPACING, FC_OUTLINE, nullptr));
+                                             FC_WEIGHT, FC_SLANT, FC_SPACING, nullptr));
     if (!wanted || !latin || !objects) {
         return nullptr;
     }
@@ -148,7 +147,6 @@ void FontQuery::Refresh() {
     }
 }
 
-// The system's rules about names, but none of its fonts.
 bool FontQuery::Prepare() {
     if (!m_OnlyFolders) {
         return FcInit() == FcTrue;
@@ -156,6 +154,7 @@ bool FontQuery::Prepare() {
     if (m_Configuration) {
         return true;
     }
+    // The system's rules about names, but none of its fonts.
     m_Configuration.reset(FcInitLoadConfig());
     for (std::size_t i = 0; m_Configuration && i < m_Folders.size(); ++i) {
         FcConfigAppFontAddDir(m_Configuration.get(), Bytes(m_Folders[i]));
@@ -183,7 +182,16 @@ std::optional<FontMatch> FontQuery::Match(const FontWish& wish, bool& outline) {
     return match.Path.empty() ? std::nullopt : std::optional(std::move(match));
 }
 
-std::vector<InstalledFont> FontQuery::Installed(const std::string& family) {
+std::vector<InstalledFont> FontQuery::Families() {
+    std::vector<InstalledFont> fonts = Styles("");
+    const auto isSameFamily = [](const InstalledFont& a, const InstalledFont& b) {
+        return EqualIgnoringCase(a.Family, b.Family);
+    };
+    fonts.erase(std::unique(fonts.begin(), fonts.end(), isSameFamily), fonts.end());
+    return fonts;
+}
+
+std::vector<InstalledFont> FontQuery::Styles(const std::string& family) {
     std::vector<InstalledFont> fonts;
     const FontSet set = Prepare() ? ListLatin(m_Configuration.get()) : nullptr;
     for (int i = 0; set && i < set->nfont; ++i) {
@@ -195,4 +203,4 @@ std::vector<InstalledFont> FontQuery::Installed(const std::string& family) {
     return fonts;
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -3,6 +3,7 @@
 
 #include <marlin/platform/fonts/font_catalog.h>
 
+#include <compare>
 #include <memory>
 #include <optional>
 #include <string>
@@ -10,15 +11,17 @@
 
 struct _FcConfig;
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
-/// What a font is asked for: the family in Windows-1252, 400 for the normal weight.
+/// A font as it is asked for: the family in Windows-1252, 400 for the normal weight.
 struct FontWish {
     std::string Face;
     int Weight = 400;
     bool Italic = false;
     /// Outline fonts before all others, whatever their names.
     bool OutlineFirst = true;
+
+    [[nodiscard]] auto operator<=>(const FontWish& other) const = default;
 };
 
 /// A font that is installed. Texts are UTF-8.
@@ -28,10 +31,9 @@ struct InstalledFont {
     int Weight = 400;
     bool Italic = false;
     bool FixedPitch = false;
-    bool Outline = false;
 };
 
-/// Asks the system for fonts. Not locked; the holder of the lock of the fonts uses it.
+/// Asks fontconfig for fonts, at the request of the font store, whose lock guards it.
 class FontQuery {
 public:
     /// Files in these folders alone, or those of the system.
@@ -40,11 +42,12 @@ public:
     /// Takes note of fonts that came or went.
     void Refresh();
 
-    /// The outline font that comes nearest to the wish; `Outline` tells whether it is one.
+    /// The font that comes nearest to the wish; `outline` says if its shapes are outlines.
     [[nodiscard]] std::optional<FontMatch> Match(const FontWish& wish, bool& outline);
-    /// The outline fonts with Latin letters; of one family, or all for an empty name. Sorted by
-    /// family, weight and slant.
-    [[nodiscard]] std::vector<InstalledFont> Installed(const std::string& family);
+    /// The outline fonts with Latin letters: of each family the one of lowest weight and slant,
+    /// or all of one family. Sorted by family, weight and slant.
+    [[nodiscard]] std::vector<InstalledFont> Families();
+    [[nodiscard]] std::vector<InstalledFont> Styles(const std::string& family);
 
 private:
     struct Deleter {
@@ -59,4 +62,4 @@ private:
     std::unique_ptr<_FcConfig, Deleter> m_Configuration;
 };
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

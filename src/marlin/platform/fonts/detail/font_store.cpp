@@ -2,137 +2,145 @@
 #include <marlin/platform/fonts/detail/font_store.h>
 
 #include <algorithm>
-#include <array>
-#include <atomic>
 #include <map>
+#include <memory>
+#include <optional>
 #include <utility>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
 namespace {
 
-constexpr std::size_t BucketCount = 256;
-
-// Entries stay in their lists, and lists only grow at their heads, so they are read unlocked.
-constinit std::array<std::atomic<const FontEntry*>, BucketCount> buckets{};
-constinit std::mutex fontLock;
-constinit std::atomic<std::size_t> fileOpens{0};
-constinit std::atomic<std::size_t> queries{0};
-
-using FaceKey = std::pair<std::string, int>;
-
-// What the lists point to. Nothing is given up before the process ends: fonts keep pointers.
-struct Holdings {
-    FontQuery Query;
-    std::map<FaceKey, const FontFace*> Faces;
-    std::vector<std::unique_ptr<const FontFace>> AllFaces;
-    std::vector<std::unique_ptr<const FontEntry>> Entries;
+struct FontFile {
+    FontBytes Bytes;
+    std::map<int, std::unique_ptr<const FontFace>> Faces;
 };
 
-Holdings& Held() {
-    static Holdings& holdings = *std::make_unique<Holdings>().release();
-    return holdings;
-}
+struct FoundFont {
+    FontMatch Match;
+    const FontFace* Face = nullptr;
+};
 
-// From a few bytes of the name: there are few fonts, and the wish is compared in full anyway.
-std::size_t BucketOf(std::string_view face, int weight, bool italic) noexcept {
-    std::size_t hash = face.size() * 5 + static_cast<std::size_t>(weight) / 100 * 2 + italic;
-    if (!face.empty()) {
-        hash += static_cast<unsigned char>(face.front()) * std::size_t{31} +
-                static_cast<unsigned char>(face[face.size() / 2]) * std::size_t{17} +
-                static_cast<unsigned char>(face.back()) * std::size_t{7};
-    }
-    return hash % BucketCount;
-}
+class Cache {
+public:
+    std::mutex Lock;
+    FontQuery Query;
+    FontCosts Costs;
 
-const FontEntry* Look(std::size_t bucket, std::string_view face, int weight, bool italic,
-                      bool outlineFirst) noexcept {
-    const FontEntry* entry = buckets[bucket].load(std::memory_order_acquire);
-    while (entry && (entry->Wish.Weight != weight || entry->Wish.Italic != italic ||
-                     entry->Wish.OutlineFirst != outlineFirst || entry->Wish.Face != face)) {
-        entry = entry->Next;
-    }
-    return entry;
-}
+    // Null without a face that can be measured. Failures are not kept: the font may come.
+    const FoundFont* Find(FontWish&& wish);
+    void Forget();
 
-const FontFace* FaceOf(const FontMatch& match) {
-    const FaceKey key(match.Path, match.Index);
-    if (const auto known = Held().Faces.find(key); known != Held().Faces.end()) {
-        return known->second;
+private:
+    const FontFace* FaceOf(const FontMatch& match);
+
+    std::map<FontWish, FoundFont> m_Found;
+    std::map<std::string, FontFile> m_Files;
+    // Fonts made from them still point to their faces.
+    std::vector<std::map<std::string, FontFile>> m_Retired;
+};
+
+const FontFace* Cache::FaceOf(const FontMatch& match) {
+    auto file = m_Files.find(match.Path);
+    if (file != m_Files.end() && file->second.Faces.contains(match.Index)) {
+        return file->second.Faces[match.Index].get();
     }
-    fileOpens.fetch_add(1, std::memory_order_relaxed);
-    std::unique_ptr<const FontFace> face = FontFace::Load(match.Path, match.Index);
+    FontBytes bytes;
+    if (file != m_Files.end()) {
+        bytes = file->second.Bytes;
+    } else {
+        ++Costs.FileOpens;
+        bytes = ReadFontFile(match.Path);
+    }
+    std::unique_ptr<const FontFace> face = bytes ? FontFace::Open(bytes, match.Index) : nullptr;
     if (!face) {
         return nullptr;
     }
-    Held().AllFaces.push_back(std::move(face));
-    return Held().Faces.emplace(key, Held().AllFaces.back().get()).first->second;
+    FontFile& kept = m_Files[match.Path];
+    kept.Bytes = std::move(bytes);
+    return (kept.Faces[match.Index] = std::move(face)).get();
 }
 
-const FontEntry* MakeEntry(FontWish wish, std::size_t bucket) {
-    queries.fetch_add(1, std::memory_order_relaxed);
+const FoundFont* Cache::Find(FontWish&& wish) {
+    wish.Weight = wish.Weight <= 0 ? 400 : std::min(wish.Weight, 1000);
+    if (const auto known = m_Found.find(wish); known != m_Found.end()) {
+        return &known->second;
+    }
+    ++Costs.Queries;
     bool outline = false;
-    std::optional<FontMatch> match = Held().Query.Match(wish, outline);
+    std::optional<FontMatch> match = Query.Match(wish, outline);
     const FontFace* face = match && outline ? FaceOf(*match) : nullptr;
     if (!face) {
-        Held().Query.Refresh();
+        Query.Refresh();
         return nullptr;
     }
-    const FontEntry* head = buckets[bucket].load(std::memory_order_relaxed);
-    Held().Entries.push_back(std::make_unique<const FontEntry>(
-        FontEntry{std::move(wish), std::move(*match), face, head}));
-    buckets[bucket].store(Held().Entries.back().get(), std::memory_order_release);
-    return Held().Entries.back().get();
+    return &m_Found.try_emplace(std::move(wish), FoundFont{std::move(*match), face}).first->second;
+}
+
+void Cache::Forget() {
+    m_Found.clear();
+    m_Retired.push_back(std::move(m_Files));
+    m_Files.clear();
+}
+
+// Never destroyed, because objects that draw may be destroyed later than any of the library's.
+Cache& TheCache() {
+    static Cache& cache = *std::make_unique<Cache>().release();
+    return cache;
 }
 
 }  // namespace
 
 constinit std::atomic<std::size_t> FontStore::m_Edition{0};
 
-void FontStore::Forget() noexcept {
-    for (auto& bucket : buckets) {
-        bucket.store(nullptr, std::memory_order_release);
-    }
-    Held().Faces.clear();
-    m_Edition.fetch_add(1, std::memory_order_release);
+const FontFace* FontStore::Find(FontWish wish) {
+    const std::scoped_lock lock(Lock());
+    const FoundFont* found = TheCache().Find(std::move(wish));
+    return found ? found->Face : nullptr;
 }
 
-const FontEntry* FontStore::Find(std::string_view face, int weight, bool italic,
-                                 bool outlineFirst) {
-    const int counted = weight <= 0 ? 400 : std::min(weight, 1000);
-    const std::size_t bucket = BucketOf(face, counted, italic);
-    if (const FontEntry* known = Look(bucket, face, counted, italic, outlineFirst)) {
-        return known;
+bool FontStore::Match(FontWish wish, FontMatch& match) {
+    const std::scoped_lock lock(Lock());
+    const FoundFont* found = TheCache().Find(std::move(wish));
+    if (found) {
+        match = found->Match;
     }
-    const std::scoped_lock lock(fontLock);
-    const FontEntry* known = Look(bucket, face, counted, italic, outlineFirst);
-    return known ? known : MakeEntry({std::string(face), counted, italic, outlineFirst}, bucket);
+    return found != nullptr;
 }
 
-std::vector<InstalledFont> FontStore::Installed(const std::string& family) {
-    const std::scoped_lock lock(fontLock);
-    queries.fetch_add(1, std::memory_order_relaxed);
-    return Held().Query.Installed(family);
+std::vector<InstalledFont> FontStore::Families() {
+    const std::scoped_lock lock(Lock());
+    ++TheCache().Costs.Queries;
+    return TheCache().Query.Families();
+}
+
+std::vector<InstalledFont> FontStore::Styles(const std::string& family) {
+    const std::scoped_lock lock(Lock());
+    ++TheCache().Costs.Queries;
+    return TheCache().Query.Styles(family);
 }
 
 void FontStore::SetFolders(const std::vector<std::string>& folders) {
-    const std::scoped_lock lock(fontLock);
-    Forget();
-    Held().Query.SetFolders(folders);
+    const std::scoped_lock lock(Lock());
+    TheCache().Forget();
+    TheCache().Query.SetFolders(folders);
+    m_Edition.fetch_add(1, std::memory_order_release);
 }
 
 void FontStore::UseSystemFonts() {
-    const std::scoped_lock lock(fontLock);
-    Forget();
-    Held().Query.UseSystem();
+    const std::scoped_lock lock(Lock());
+    TheCache().Forget();
+    TheCache().Query.UseSystem();
+    m_Edition.fetch_add(1, std::memory_order_release);
 }
 
 FontCosts FontStore::Costs() noexcept {
-    return {fileOpens.load(std::memory_order_relaxed), queries.load(std::memory_order_relaxed)};
+    const std::scoped_lock lock(Lock());
+    return TheCache().Costs;
 }
 
 std::mutex& FontStore::Lock() noexcept {
-    return fontLock;
+    return TheCache().Lock;
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -7,42 +7,41 @@
 #include <atomic>
 #include <cstddef>
 #include <mutex>
-#include <string_view>
+#include <string>
+#include <vector>
 
-namespace PLATFORM {
+namespace PLATFORM::detail {
 
-/// The face that a wish has found. Lives for the process.
-struct FontEntry {
-    FontWish Wish;
-    FontMatch Match;
-    const FontFace* Face = nullptr;
-    const FontEntry* Next = nullptr;
-};
-
-/// The fonts that the process has found so far. Looking one up again takes no lock, touches no
-/// file and asks nobody; finding a new one does, behind the one lock of the fonts.
+/// The one cache of fonts in the process. The framework's font calls and `FontCatalog` ask it for
+/// faces; it asks `FontQuery` which file answers a wish, and opens the file's face. A wish is
+/// looked up once, a file read once for all its faces.
+///
+/// Faces live for the process, so they stay readable while the cache changes; the cache itself is
+/// guarded by one mutex, and so is every use of FreeType.
 class FontStore {
 public:
     /// Null when there is no such face that can be measured; the next call looks again.
-    [[nodiscard]] static const FontEntry* Find(std::string_view face, int weight, bool italic,
-                                               bool outlineFirst);
-    [[nodiscard]] static std::vector<InstalledFont> Installed(const std::string& family);
+    [[nodiscard]] static const FontFace* Find(FontWish wish);
+    /// The face found and where it comes from. False, and the target unchanged, without one.
+    [[nodiscard]] static bool Match(FontWish wish, FontMatch& match);
+    /// The first font of each family, or all styles of one; sorted.
+    [[nodiscard]] static std::vector<InstalledFont> Families();
+    [[nodiscard]] static std::vector<InstalledFont> Styles(const std::string& family);
+
+    /// From now on wishes are looked up anew, in these folders or in the system.
     static void SetFolders(const std::vector<std::string>& folders);
     static void UseSystemFonts();
-    [[nodiscard]] static FontCosts Costs() noexcept;
-    /// Another number once the fonts to choose from are others; what was found before is then
-    /// asked for anew.
+    /// Grows with each of the two, for those who keep what they have found.
     [[nodiscard]] static std::size_t Edition() noexcept {
         return m_Edition.load(std::memory_order_acquire);
     }
 
-    /// Held while glyphs are read.
+    [[nodiscard]] static FontCosts Costs() noexcept;
+    /// To be held while FreeType is used.
     [[nodiscard]] static std::mutex& Lock() noexcept;
 
 private:
-    static void Forget() noexcept;
-
     static constinit std::atomic<std::size_t> m_Edition;
 };
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/platform/fonts/detail/font_face.h>
-#include <marlin/platform/fonts/detail/free_type.h>
+#include <marlin/platform/fonts/detail/face_metrics.h>
 
 #include <algorithm>
 
-namespace PLATFORM {
+#include <ft2build.h>
+#include FT_FREETYPE_H
+#include FT_TRUETYPE_TABLES_H
+
+namespace PLATFORM::detail {
 
 namespace {
 
@@ -13,6 +16,7 @@ const Table* TableOf(FT_Face face, FT_Sfnt_Tag tag) noexcept {
     return static_cast<const Table*>(FT_Get_Sfnt_Table(face, tag));
 }
 
+// FreeType marks a table that the face lacks by this version.
 const TT_OS2* Os2Of(FT_Face face) noexcept {
     const auto* os2 = TableOf<TT_OS2>(face, FT_SFNT_OS2);
     return os2 && os2->version != 0xFFFFU ? os2 : nullptr;
@@ -43,7 +47,8 @@ void ReadScripts(const TT_OS2& os2, FaceMetrics& metrics) noexcept {
     metrics.StrikeoutPosition = os2.yStrikeoutPosition;
 }
 
-// The cell of a face without an OS/2 table is that of its lines.
+// Text is laid out by the cell of the OS/2 table's Windows numbers; faces made for other systems
+// lack them, and get the cell of their lines.
 void ReadCell(const TT_OS2* os2, FaceMetrics& metrics) noexcept {
     const int windowsHeight = os2 ? os2->usWinAscent + os2->usWinDescent : 0;
     const bool windows = windowsHeight > 0;
@@ -69,15 +74,14 @@ void ReadLines(FT_Face face, FaceMetrics& metrics) noexcept {
         metrics.SlopeRun = hhea->caret_Slope_Run;
     }
     if (const auto* post = TableOf<TT_Postscript>(face, FT_SFNT_POST)) {
+        // 16.16 fixed point.
         metrics.ItalicAngle = static_cast<int>(post->italicAngle * 10 / 65536);
     }
 }
 
 }  // namespace
 
-bool FontFace::ReadMetrics() noexcept {
-    FT_Face face = m_Face.get();
-    FaceMetrics& metrics = m_Metrics;
+bool ReadMetrics(FT_FaceRec_* face, FaceMetrics& metrics) noexcept {
     metrics.UnitsPerEm = face->units_per_EM;
     metrics.MaxWidth = face->max_advance_width;
     metrics.UnderlineSize = face->underline_thickness;
@@ -97,4 +101,4 @@ bool FontFace::ReadMetrics() noexcept {
     return metrics.CellAscent + metrics.CellDescent > 0;
 }
 
-}  // namespace PLATFORM
+}  // namespace PLATFORM::detail

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/platform/drawing/gdi_objects.h>
 #include <marlin/platform/fonts/font_catalog.h>
-#include <marlin/platform/kernel/detail/test_levers.h>
 #include <marlin/text/text_height_fact_comp.h>
 
 #include <cmath>
@@ -10,7 +8,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <support/font_tables.h>
+#include <text/height_factor.h>
 #include <text/style.h>
 
 namespace {
@@ -30,19 +28,6 @@ float Factor(const TextInfo& ti) {
     return TextHeightFactComp::Get()(ti);
 }
 
-// The factor from the font's own tables: each part of the cell scaled to whole units.
-double FactorOf(const FontTables& t, float size, double scale = 1000.0) {
-    const int h = static_cast<int>(size * scale);
-    const auto scaled = [&](int units) {
-        return std::lround(static_cast<double>(units) * h / t.Cell());
-    };
-    const int line = t.HheaAscender() - t.HheaDescender();
-    const long external = scaled(std::max(0, t.HheaLineGap() - (t.Cell() - line)));
-    const long internal = h - scaled(t.UnitsPerEm());
-    const long hidden = std::labs(scaled(t.TypoDescender())) + external + internal;
-    return size / (static_cast<double>(h - hidden) / scale);
-}
-
 TEST(TextHeightFactComp, GivesTheKnownFactorOfArial) {
     const TextInfo ti;
     // 2500 / (2500 - 471 - 73 - 262)
@@ -59,7 +44,7 @@ TEST(TextHeightFactComp, AgreesWithTheTablesOfTheFont) {
         ASSERT_EQ(match.Family, face);
         const FontTables tables(match.Path);
         for (const float size : {0.05F, 1.0F, 2.5F, 33.3F, 400.0F, 100000.0F}) {
-            const double expected = FactorOf(tables, size);
+            const double expected = HeightFactorOf(tables, size);
             EXPECT_NEAR(Factor(Style(face, size)), expected, 1e-6 * expected) << face << size;
             EXPECT_GT(Factor(Style(face, size)), 1.0F);
         }
@@ -110,30 +95,6 @@ TEST(TextHeightFactComp, RefusesSizesThatCannotBeMeasured) {
     for (const float size : {0.0F, 0.0009F, 2147484.0F, 1e30F, infinity, std::nanf("")}) {
         EXPECT_EQ(Factor(Style("Liberation Sans", size)), 0.0F) << size;
     }
-}
-
-TEST(TextHeightFactComp, LeavesNoDrawingObjectBehind) {
-    const std::size_t before = PLATFORM::LiveDrawingObjects();
-    for (int i = 1; i <= 200; ++i) {
-        ASSERT_GT(Factor(Style("Arial", 10.0F + static_cast<float>(i) / 8)), 1.0F);
-    }
-    EXPECT_EQ(PLATFORM::LiveDrawingObjects(), before);
-}
-
-// A program that is started anew loads the library anew.
-TEST(TextHeightFactComp, MeasuresInCoarseUnitsOnAPlatformOfNarrowCoordinates) {
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    PLATFORM::detail::SetPlatformId(1);
-    EXPECT_EXIT(
-        {
-            PLATFORM::FontMatch match;
-            const bool found = FontCatalog::Find("Liberation Sans", 400, false, match);
-            const double expected = FactorOf(FontTables(match.Path), 2.5F, 20.0);
-            const double factor = Factor(Style("Liberation Sans", 2.5F));
-            std::exit(found && std::fabs(factor - expected) < 1e-6 ? 0 : 1);
-        },
-        testing::ExitedWithCode(0), "");
-    PLATFORM::detail::SetPlatformId(2);
 }
 
 }  // namespace

@@ -100,25 +100,3 @@ private:
     std::string m_StandardOutput = m_Output.File("out");
     unsigned long m_LargestFile = 0;
 };
-
-/// One command line and all that it must do. `Err` is what follows "marlin: " on each line.
-struct Step {
-    Words Arguments;
-    int Code;
-    std::string Out;
-    std::string Err = {};
-};
-
-inline void ExpectSteps(const Program& program, const std::vector<Step>& steps) {
-    for (const Step& step : steps) {
-        std::string line;
-        for (const std::string& word : step.Arguments) {
-            line += " " + word;
-        }
-        SCOPED_TRACE("marlin" + line);
-        const ProgramResult result = program.Run(step.Arguments);
-        EXPECT_EQ(result.Code, step.Code);
-        EXPECT_EQ(result.Out, step.Out);
-        EXPECT_EQ(result.Err, step.Err.empty() ? "" : "marlin: " + step.Err + "\n");
-    }
-}

@@ -52,7 +52,7 @@ struct ConvertColors {
             Fail(To + ": only color tables (.col) are written");
         }
         ColorTable colors;
-        Require(ReadColors(From, colors));
+        ReadColors(From, colors);
         FileObject file;
         if (!colors.FileSave(file)) {
             Refuse(From + ": a value that is not finite");
@@ -78,7 +78,7 @@ struct ShowColors {
 
     int Run(Output& output) const {
         ColorTable colors;
-        Require(ReadColors(File, colors));
+        ReadColors(File, colors);
         if (IsJson) {
             AppendJson(JsonOf(File, colors), output);
         } else {

@@ -25,7 +25,7 @@ bool IsPredefined(const CKeyword& keyword) {
     return CKeywords::IsPredefinedKeyword(keyword.m_Key) || IsForPlots(keyword);
 }
 
-// What exists is a file; a text is what holds a "%".
+// Takes an argument for a text when it holds a "%" and names no file.
 std::string ReadTextOrFile(const std::string& argument) {
     std::error_code unknown;
     if (argument.find('%') != std::string::npos && !std::filesystem::exists(argument, unknown)) {

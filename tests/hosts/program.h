@@ -19,7 +19,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/// What a program came to: its exit code, or -1 when a signal ended it, and what it printed.
+/// The exit code of a program, or -1 when a signal ended it, and all that it printed.
 struct ProgramResult {
     int Code = -1;
     std::string Out;

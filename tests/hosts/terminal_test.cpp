@@ -3,7 +3,7 @@
 
 namespace {
 
-// What the program prints when its standard output is a terminal.
+// Returns all that the program prints when its standard output is a terminal.
 std::string OnTerminal(const Words& arguments) {
     const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY);
     if (terminal < 0 || ::grantpt(terminal) != 0 || ::unlockpt(terminal) != 0) {

@@ -71,7 +71,7 @@ private:
 
 ContourDefinitionList GenerateContours::GenerateFromTable() const {
     DXFColorTable table;
-    Require(ReadColors(Table, table));
+    ReadColors(Table, table);
     if (SnapDxf) {
         table.MakeDXFTable();
     }

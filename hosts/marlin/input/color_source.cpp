@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "color_source.h"
 
-#include "input.h"
+#include "output/failure.h"
 #include "settings_source.h"
 #include <marlin/base/colors/palette_import.h>
 #include <marlin/base/files/file_object.h>
@@ -26,63 +26,69 @@ FileObject FileObjectOf(const Section& section) {
 }
 
 // The library says that an entry does not convert, not which: each is offered alone.
-ErrorString FindBadEntry(const std::string& path, const FileObject& file) {
+[[noreturn]] void FailBadEntry(const std::string& path, const FileObject& file) {
     for (int number = 0;; ++number) {
         CString key;
         key.Format("Entry(%d)", number);
         CString value;
         if (!file.GetEntry(sectionName, key, value)) {
-            return ErrorString(path + ": \"Below\" is no color word");
+            Fail(path + ": \"Below\" is no color word");
         }
         FileObject alone;
         alone.SetEntry(sectionName, "Entry(0)", value, FileObject::REPLACE);
         if (!ColorTable().FileOpen(alone)) {
-            return ErrorString(path + ": " + key.GetString() + " = \"" + value.GetString() +
-                               "\" is not value,red,green,blue");
+            Fail(path + ": " + key.GetString() + " = \"" + value.GetString() +
+                 "\" is not value,red,green,blue");
         }
     }
 }
 
-ErrorString ReadColorTable(const std::string& path, ColorTable& table) {
-    SettingsSource source;
-    if (ErrorString error = source.OpenWithSections(path); !error.Empty()) {
-        return error;
+void TakeColorTable(const SettingsSource& source, ColorTable& table) {
+    const std::string& path = source.Path();
+    if (source.File().Empty()) {
+        Fail(path + ": no section");
     }
-    const IniFile& settings = source.File();
-    if (!settings.HasSection(sectionName)) {
-        return ErrorString(path + ": no section [ColorTable]: not a color table");
+    if (!source.File().HasSection(sectionName)) {
+        Fail(path + ": no section [ColorTable]: not a color table");
     }
-    const FileObject file = FileObjectOf(settings[sectionName]);
-    if (!file.HasSection(sectionName)) {  // nothing in it, not even the color below
-        table.Clear();
-        return {};
+    const FileObject file = FileObjectOf(source.File()[sectionName]);
+    // A section without a key leaves nothing in the file object, not even the color below.
+    if (file.HasSection(sectionName) && !table.FileOpen(file)) {
+        FailBadEntry(path, file);
     }
-    return table.FileOpen(file) ? ErrorString() : FindBadEntry(path, file);
 }
 
-bool HoldsColorTable(const std::string& path) {
+// A file of any other name than "col" and "cpt" may be either; a palette makes no settings file,
+// so a failure to read it as one says nothing.
+void ReadTable(const std::string& path, ColorTable& table) {
+    if (HasExtension(path, "cpt")) {
+        Require(ImportPalette(path, table));
+        return;
+    }
     SettingsSource source;
-    const ErrorString error = source.Open(path);
-    return error.Empty() && source.File().HasSection(sectionName);
+    const ErrorString outcome = source.Open(path);
+    if (HasExtension(path, "col")) {
+        Require(outcome);
+    } else if (!outcome.Empty() || !source.File().HasSection(sectionName)) {
+        Require(ImportPalette(path, table));
+        return;
+    }
+    TakeColorTable(source, table);
 }
 
 }  // namespace
 
 bool HasExtension(const std::string& path, const char* extension) {
-    const std::string_view wanted(extension);
     const auto dot = path.rfind('.');
     return dot != std::string::npos &&
-           PLATFORM::EqualIgnoringCase(std::string_view(path).substr(dot + 1), wanted);
+           PLATFORM::EqualIgnoringCase(std::string_view(path).substr(dot + 1), extension);
 }
 
-ErrorString ReadColors(const std::string& path, ColorTable& table) {
-    const bool isColorTable =
-        HasExtension(path, "col") || (!HasExtension(path, "cpt") && HoldsColorTable(path));
-    ErrorString error = isColorTable ? ReadColorTable(path, table) : ImportPalette(path, table);
-    if (error.Empty() && table.NumEntries() == 0) {
-        return ErrorString(path + ": a color table without entries");
+void ReadColors(const std::string& path, ColorTable& table) {
+    ReadTable(path, table);
+    if (table.NumEntries() == 0) {
+        Fail(path + ": a color table without entries");
     }
-    return error;
 }
 
 }  // namespace HOST

@@ -12,8 +12,9 @@ namespace HOST {
 /// Returns true for a section with a seal that still fits.
 [[nodiscard]] bool IsSealed(const Section& section);
 
-/// A settings file that a command reads, and may change. Saving keeps what stands before the
-/// first section header byte for byte; sections are written in the library's own columns.
+/// A settings file that a command reads, and may change. It is read once: the scan and the
+/// sections come from the same bytes. Saving keeps all before the first section header byte for
+/// byte; sections are written in the library's own columns.
 class SettingsSource {
 public:
     /// Failures are "path:line: cause": what the system or the library refuses, files of more
@@ -26,7 +27,7 @@ public:
     /// A failure for a file of which saving would drop more than the columns.
     [[nodiscard]] ErrorString CanBeSaved() const;
     [[nodiscard]] ErrorString Save() const;
-    /// What `Save` writes.
+    /// The text that `Save` writes.
     [[nodiscard]] std::string Text() const { return m_Preamble + m_File.Text(); }
 
     [[nodiscard]] const std::string& Path() const noexcept { return m_Path; }

@@ -13,7 +13,7 @@ using Json = nlohmann::ordered_json;
 
 /// A whole number without a fraction; null for a number that is not finite.
 [[nodiscard]] Json JsonNumber(double value);
-/// The number that the shortest text of the value stands for: 0.35, not 0.3499999940395355.
+/// The number of the value's shortest text: 0.35, not 0.3499999940395355.
 [[nodiscard]] Json JsonNumber(float value);
 
 /// Appends the value, indented, and ends the line.

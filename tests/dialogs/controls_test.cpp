@@ -17,14 +17,18 @@ using PLATFORM::CONTROL;
 constexpr int buttonId = 100;
 constexpr int fontsId = 101;
 constexpr int sortedFontsId = 102;
+constexpr int doubleId = 103;
+constexpr int floatId = 104;
 
-constexpr std::array<PLATFORM::ControlTemplate, 4> controls = {{
+constexpr std::array<PLATFORM::ControlTemplate, 6> controls = {{
     {buttonId, CONTROL::OWNER_BUTTON, "Pick", 7, 7, 80, 16},
     {fontsId, CONTROL::DROP_DOWN_LIST, "", 7, 27, 80, 14, "Fonts"},
     {sortedFontsId, CONTROL::DROP_DOWN_LIST, "", 7, 47, 80, 14, "Sorted", {}, false, true},
-    {IDOK, CONTROL::DEFAULT_BUTTON, "OK", 7, 67, 50, 14},
+    {doubleId, CONTROL::EDIT, "", 7, 67, 80, 14, "Double"},
+    {floatId, CONTROL::EDIT, "", 7, 87, 80, 14, "Float"},
+    {IDOK, CONTROL::DEFAULT_BUTTON, "OK", 7, 107, 50, 14},
 }};
-constexpr PLATFORM::DialogTemplate form = {1, "Host", 94, 88, "MS Shell Dlg", 8, controls};
+constexpr PLATFORM::DialogTemplate form = {1, "Host", 94, 128, "MS Shell Dlg", 8, controls};
 
 /// A host's own dialog with the library's controls in it.
 class HostDialog : public CDialog {
@@ -34,12 +38,23 @@ public:
     ColorButton Button;
     FontCombo Fonts;
     FontCombo SortedFonts;
+    double Double = 0.0;
+    float Float = 0.0F;
+    int EarlyResult = 0;
 
 protected:
+    BOOL OnInitDialog() override {
+        if (EarlyResult != 0) {
+            EndDialog(EarlyResult);
+        }
+        return CDialog::OnInitDialog();
+    }
     void DoDataExchange(CDataExchange* exchange) override {
         DDX_Control(exchange, buttonId, Button);
         DDX_Control(exchange, fontsId, Fonts);
         DDX_Control(exchange, sortedFontsId, SortedFonts);
+        DDX_Text(exchange, doubleId, Double);
+        DDX_Text(exchange, floatId, Float);
     }
 };
 
@@ -164,7 +179,50 @@ TEST_P(ControlsTest, SortedComboKeepsItsItemsInOrder) {
         }
         EXPECT_EQ(Items(m_Dialog.SortedFonts), (Texts{"a", "b", "C"}));
         EXPECT_EQ(Items(m_Dialog.Fonts), (Texts{"b", "C", "a"}));
+        m_Dialog.SortedFonts.AddString("B");
+        EXPECT_EQ(Items(m_Dialog.SortedFonts), (Texts{"a", "b", "B", "C"})) << "after its equal";
     });
+}
+
+TEST_P(ControlsTest, AnItemAddedBeforeTheChosenOneLeavesItChosen) {
+    Run([this](Screen& screen) {
+        for (const char* item : {"b", "c"}) {
+            m_Dialog.SortedFonts.AddString(item);
+        }
+        EXPECT_TRUE(screen.User.Choose(sortedFontsId, 0));
+        m_Dialog.SortedFonts.AddString("a");
+        m_Dialog.SortedFonts.AddString("d");
+        auto& sorted = *m_Stage->System().FindDropDown(m_Dialog.SortedFonts.GetSafeHwnd());
+        EXPECT_EQ(std::string(sorted.ItemText(sorted.CurrentItem())), "b");
+        sorted.SetCurrentItem(4);
+        EXPECT_EQ(sorted.CurrentItem(), -1);
+    });
+}
+
+TEST_P(ControlsTest, EditsShowTheDigitsThatSurviveARoundTrip) {
+    const struct {
+        double Double;
+        float Float;
+        const char* Texts[2];
+    } rows[] = {{0.1 + 0.2, 0.1F, {"0.3", "0.1"}},
+                {-1234567.125, 1234567.0F, {"-1234567.125", "1.23457e+06"}},
+                {1e-9, 2.5e-7F, {"1e-09", "2.5e-07"}},
+                {1e21, 65536.0F, {"1e+21", "65536"}}};
+    for (const auto& row : rows) {
+        m_Dialog.Double = row.Double;
+        m_Dialog.Float = row.Float;
+        Run([&row](Screen& screen) {
+            EXPECT_EQ(screen.Text(doubleId), row.Texts[0]);
+            EXPECT_EQ(screen.Text(floatId), row.Texts[1]);
+        });
+    }
+}
+
+TEST_P(ControlsTest, ADialogThatEndsWhileItOpensHasThatResult) {
+    m_Dialog.EarlyResult = 7;
+    EXPECT_EQ(m_Dialog.DoModal(), 7);
+    m_Dialog.EarlyResult = 0;
+    Run([](Screen& screen) { EXPECT_TRUE(screen.User.Click(IDOK)); });
 }
 
 MARLIN_ON_EVERY_STAGE(ControlsTest);

@@ -6,7 +6,7 @@ namespace {
 
 class EditContourDlgTest : public DialogTest {
 protected:
-    /// Shows a definition; what the dialog holds afterwards.
+    /// Shows a definition and returns the dialog's afterwards.
     ContourDefinitionList::ContourDefInfo Show(const ContourDefinitionList::ContourDefInfo& shown,
                                                const Act& act) {
         m_Dialog.SetDefinition(shown);

@@ -32,7 +32,7 @@ namespace {
 
 // The window manager keeps the dialog above its parent, which does not own it.
 void PutAbove(QWidget& dialog, const QWidget* parent) {
-    dialog.winId();
+    dialog.winId();  // makes the window handle
     if (parent) {
         dialog.windowHandle()->setTransientParent(parent->window()->windowHandle());
     }
@@ -137,6 +137,7 @@ void QtWindowSystem::SetFocus(HWND control) {
     }
     widget->setFocus();
     if (auto* const edit = qobject_cast<QLineEdit*>(widget)) {
+        // As Tab does: what is typed replaces the text.
         edit->selectAll();
     }
 }

@@ -13,30 +13,16 @@
 #include <QToolButton>
 #include <QTreeWidget>
 #include <algorithm>
+#include <map>
 
 namespace {
 
 Qt::Key KeyOf(int key) {
-    switch (key) {
-        case VK_RETURN:
-            return Qt::Key_Return;
-        case VK_ESCAPE:
-            return Qt::Key_Escape;
-        case VK_UP:
-            return Qt::Key_Up;
-        case VK_DOWN:
-            return Qt::Key_Down;
-        case VK_INSERT:
-            return Qt::Key_Insert;
-        case VK_DELETE:
-            return Qt::Key_Delete;
-        case VK_F1:
-            return Qt::Key_F1;
-        case VK_F2:
-            return Qt::Key_F2;
-        default:
-            return Qt::Key_unknown;
-    }
+    static const std::map<int, Qt::Key> keys = {
+        {VK_RETURN, Qt::Key_Return}, {VK_ESCAPE, Qt::Key_Escape}, {VK_UP, Qt::Key_Up},
+        {VK_DOWN, Qt::Key_Down},     {VK_INSERT, Qt::Key_Insert}, {VK_DELETE, Qt::Key_Delete},
+        {VK_F1, Qt::Key_F1},         {VK_F2, Qt::Key_F2}};
+    return keys.at(key);
 }
 
 QPoint PlaceOf(QTreeWidget& list, int row) {

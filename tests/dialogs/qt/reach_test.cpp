@@ -16,7 +16,7 @@
 
 namespace {
 
-/// What people need who do not see the windows or have no mouse.
+/// The needs of people who do not see the windows or have no mouse.
 class ReachTest : public DialogTest {
 protected:
     /// Runs a dialog for a look at its widgets.
@@ -43,7 +43,7 @@ bool IsControl(const QObject* widget) {
            qobject_cast<const QComboBox*>(widget) || qobject_cast<const QTreeView*>(widget);
 }
 
-/// What a screen reader says of the control: its label, or else its own name.
+/// The name that a screen reader says: the label's, or else the control's own.
 std::string SpokenName(QWidget* control) {
     QAccessibleInterface* const reader = QAccessible::queryAccessibleInterface(control);
     const auto labels = reader->relations(QAccessible::Label);

@@ -91,6 +91,7 @@ int CContourEditor::DefinitionOfRow(int row) const noexcept {
 }
 
 void CContourEditor::OnAddContour() {
+    // The dialog may come from editing several definitions.
     m_Properties.SetDefinition({});
     m_Properties.SetSeveral(false);
     if (m_Properties.DoModal() != IDOK) {
@@ -192,6 +193,7 @@ void CContourEditor::OnClickContourListCtrl(NMHDR*, LRESULT* result) {
 }
 
 void CContourEditor::OnKeyInList(NMHDR* header, LRESULT* result) {
+    // 1 keeps a key from the list and from the default button.
     *result = 1;
     switch (reinterpret_cast<const NMLVKEYDOWN*>(header)->wVKey) {
         case VK_INSERT:

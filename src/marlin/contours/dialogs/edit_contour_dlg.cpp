@@ -50,6 +50,7 @@ void CEditContourDlg::DoDataExchange(CDataExchange* exchange) {
     CDialog::DoDataExchange(exchange);
     DDX_Control(exchange, CONTROL_LINE_WIDTH_SPIN, m_WidthSpin);
     DDX_Control(exchange, CONTROL_COLOR, m_ColorButton);
+    // The framework exchanges a check box with an int.
     int annotate = m_Definition.Annotate ? 1 : 0;
     ExchangeLevel(*exchange);
     DDX_CBIndex(exchange, CONTROL_LINE_STYLE, m_Definition.LineType);

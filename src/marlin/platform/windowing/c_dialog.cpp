@@ -29,6 +29,7 @@ bool CDialog::CreateWindows() {
     WindowTable& windows = WindowTable::Get();
     const HWND parent = m_Parent ? m_Parent->GetSafeHwnd() : nullptr;
     const HWND dialog = windows.Add(parent, 0);
+    // Labels get windows too, so that controls and template match by their order.
     std::vector<HWND> controls;
     for (const PLATFORM::ControlTemplate& control : m_Template->Controls) {
         controls.push_back(windows.Add(dialog, control.Id));
@@ -59,6 +60,7 @@ int CDialog::DoModal() {
     if (OnInitDialog()) {
         FocusFirst();
     }
+    // Returns at once when OnInitDialog has ended the dialog.
     WindowSystem& system = WindowSystem::Current();
     const int result = system.RunDialog(dialog);
     system.DestroyDialog(dialog);
@@ -86,6 +88,7 @@ void CDialog::OnCancel() {
 }
 
 LRESULT CDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    // Closing the frame is cancelling, which a derived class may handle.
     if (message == WM_CLOSE) {
         OnCancel();
         return 0;

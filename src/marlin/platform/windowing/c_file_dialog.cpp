@@ -24,6 +24,7 @@ CFileDialog::CFileDialog(bool openFile, const char* defaultExtension, const char
       m_FileName(fileName),
       m_Filter(filter ? filter : ""),
       m_Parent(parent) {
+    // The framework wants null characters, which a text of resources cannot hold.
     std::ranges::replace(m_Filter, '|', '\0');
 }
 

@@ -24,8 +24,8 @@ class MARLIN_API CFileDialog {
 public:
     OPENFILENAMEA m_ofn;
 
-    /// `filter` holds pairs of a description and a pattern, each ended by "|", and one more "|".
-    /// A name without an extension gets the default one. The texts are copied, but for
+    /// `filter` is a list of pairs, a description and a pattern, each ended by "|", and one more
+    /// "|". A name without an extension gets the default one. The texts are copied, but for
     /// `m_ofn.lpstrInitialDir`, which has to last until `DoModal`.
     explicit CFileDialog(bool openFile, const char* defaultExtension = nullptr,
                          const char* fileName = nullptr, unsigned long flags = 0,

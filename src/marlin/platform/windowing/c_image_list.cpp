@@ -44,6 +44,7 @@ int CImageList::Add(CBitmap* bitmap, COLORREF mask) {
     const auto stride = static_cast<std::size_t>(size.bmWidthBytes);
     std::vector<unsigned char> bits(stride * static_cast<std::size_t>(size.bmHeight));
     bitmap->GetBitmapBits(bits.size(), bits.data());
+    // In a bitmap each row of pixels runs through all images; here every image lies by itself.
     const int first = GetImageCount();
     for (int left = 0; left + m_Width <= size.bmWidth; left += m_Width) {
         for (int y = 0; y < m_Height; ++y) {

@@ -23,6 +23,7 @@ UINT CodeOf(WPARAM wParam) noexcept {
 }
 
 int IdOf(WPARAM wParam) noexcept {
+    // Signed, for the -1 of labels.
     return static_cast<short>(wParam & 0xFFFFU);
 }
 
@@ -43,6 +44,7 @@ HWND ControlOf(UINT message, LPARAM lParam) noexcept {
 }  // namespace
 
 CWnd::~CWnd() {
+    // A control belongs to its dialog and stays.
     if (m_hWnd && !WindowTable::Get().RemoveOwned(this)) {
         Detach();
     }
@@ -66,10 +68,6 @@ bool CWnd::Create() {
 
 bool CWnd::DestroyWindow() {
     return WindowTable::Get().RemoveOwned(this);
-}
-
-int CWnd::GetDlgCtrlID() const {
-    return WindowTable::Get().Id(m_hWnd);
 }
 
 CWnd* CWnd::GetParent() const {
@@ -114,6 +112,7 @@ void CWnd::SetFocus() {
 }
 
 void CWnd::InvalidateRect(const RECT*, bool) {
+    // Only owner-drawn buttons draw themselves, which are small.
     WindowSystem::Current().Invalidate(m_hWnd);
 }
 

@@ -49,7 +49,6 @@ public:
     /// Ends such a window; false when there is none. `Create` may follow.
     virtual bool DestroyWindow();
 
-    [[nodiscard]] int GetDlgCtrlID() const;
     [[nodiscard]] CWnd* GetParent() const;
     /// The control of that number in this dialog, or null.
     [[nodiscard]] CWnd* GetDlgItem(int id) const;

@@ -8,6 +8,7 @@
 
 namespace PLATFORM {
 
+/// The kinds of controls.
 enum class CONTROL {
     LABEL,
     EDIT,
@@ -24,20 +25,20 @@ enum class CONTROL {
 struct ControlTemplate {
     int Id;  ///< -1 for labels.
     CONTROL Kind;
-    /// "&" stands before the mnemonic, except in an owner-drawn button.
+    /// "&" marks the mnemonic, the letter after it, except in an owner-drawn button.
     std::string_view Text;
     int X;  ///< Dialog units, from the upper left corner of the dialog's inside.
     int Y;
     int Width;
     int Height;
-    /// What is spoken for it; empty where its text, or else the label before it, says it.
+    /// The name that a screen reader says; empty where it is the text, or else the label before.
     std::string_view SpokenName = {};
     std::span<const std::string_view> Items = {};  ///< Of a drop-down list.
     bool Disabled = false;                         ///< At first.
     bool Sorted = false;                           ///< Keeps a drop-down list's items in order.
 };
 
-/// A dialog as data: its controls stand in tab order, and a label before what it names.
+/// A dialog as data: its controls in tab order, a label before the control that it names.
 struct DialogTemplate {
     unsigned int Id;
     std::string_view Caption;

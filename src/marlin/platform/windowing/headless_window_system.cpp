@@ -57,6 +57,7 @@ bool HeadlessWindowSystem::CreateDialog(HWND dialog, const DialogTemplate& form,
 }
 
 int HeadlessWindowSystem::RunDialog(HWND dialog) {
+    // The map keeps the address while the script opens other dialogs.
     const HeadlessDialog* const shown = FindDialog(dialog);
     if (!shown) {
         return Failed;
@@ -132,6 +133,7 @@ void HeadlessWindowSystem::SetFocus(HWND control) {
         return;
     }
     HWND& focus = FindDialog(found->Dialog)->Focus;
+    // Both buttons show whether they have the focus.
     const HeadlessControl* const before = FindControl(focus);
     focus = control;
     if (before && before != found) {

@@ -17,6 +17,7 @@ int PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    // Another thread would have to be waited for, and may be waiting for this one.
     const MessageTarget target = WindowTable::Get().Target(window);
     return target.IsOfThisThread() ? target.Window->WindowProc(message, wParam, lParam) : 0;
 }

@@ -46,6 +46,7 @@ UserScript::DialogAct UserScript::NextAct() {
 
 int UserScript::NextMessage(const MessageRequest& request) {
     m_Messages.push_back(request);
+    // The answers that change least.
     return Next(m_Buttons, (request.Type & MB_YESNO) != 0 ? IDNO : IDOK);
 }
 

@@ -29,7 +29,7 @@ public:
     void InDialog(DialogAct act);
     /// The button that closes the next message box.
     void AnswerMessage(int button);
-    /// What is chosen in the next box of the kind; nothing cancels it.
+    /// The choice in the next box of the kind; `{}` cancels it.
     void AnswerFile(std::optional<CString> path);
     void AnswerColor(std::optional<COLORREF> color);
 

@@ -41,6 +41,7 @@ QStringList FiltersOf(const std::string& pairs) {
 int ShowMessage(QWidget* parent, const MessageRequest& request) {
     QMessageBox box(parent);
     box.setWindowTitle(QtText(request.Caption.View()));
+    // A file name may look like a tag.
     box.setTextFormat(Qt::PlainText);
     box.setText(QtText(request.Text.View()));
     box.setIcon(IconOf(request.Type));
@@ -58,6 +59,7 @@ bool ChooseFile(QWidget* parent, const FileRequest& request, CString& path) {
     // The toolkit's own dialog looks and works the same on every desktop.
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setFileMode(QFileDialog::AnyFile);
+    // Only a dialog for saving asks before a file is overwritten.
     const bool asksBefore = (request.Flags & OFN_OVERWRITEPROMPT) != 0;
     dialog.setAcceptMode(request.Open && !asksBefore ? QFileDialog::AcceptOpen
                                                      : QFileDialog::AcceptSave);

@@ -8,6 +8,7 @@
 namespace PLATFORM::detail {
 
 int DialogWindow::Run() {
+    // By now the dialog has filled its lists.
     for (QObject* const child : children()) {
         if (auto* const list = dynamic_cast<ListWidget*>(child)) {
             list->FitColumns();
@@ -22,6 +23,7 @@ int DialogWindow::Run() {
 }
 
 void DialogWindow::End(int result) {
+    // The first result counts.
     if (!m_HasEnded) {
         m_HasEnded = true;
         m_Result = result;

@@ -16,6 +16,7 @@ public:
     int Run();
     void End(int result);
 
+    /// Qt calls this for Escape and for the frame.
     void reject() override { SendClose(m_Handle); }
 
 protected:

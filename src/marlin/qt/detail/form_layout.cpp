@@ -13,7 +13,7 @@ namespace PLATFORM::detail {
 
 namespace {
 
-// One control on one axis, in dialog units.
+// The place of one control on one axis, in dialog units.
 struct Extent {
     int From;
     int To;
@@ -52,7 +52,7 @@ Places PlacesOf(const DialogTemplate& form, std::span<QWidget* const> widgets) {
         const ControlTemplate& c = form.Controls[i];
         places.push_back({&c, widgets[i], {c.X, c.X + c.Width}, {c.Y, c.Y + c.Height}});
     }
-    // A label stands in the middle beside what it names.
+    // A label is lower than the edit that it names; with the same edges it is centred beside it.
     for (std::size_t i = 0; i + 1 < places.size(); ++i) {
         const bool beside = places[i].Y.Meets(places[i + 1].Y);
         if (places[i].Control->Kind == CONTROL::LABEL && beside) {
@@ -62,7 +62,7 @@ Places PlacesOf(const DialogTemplate& form, std::span<QWidget* const> widgets) {
     return places;
 }
 
-// Takes the buttons that stand below everything else out of the places.
+// Moves the buttons below everything else out of the places: they are laid out by themselves.
 Places TakeLastRow(Places& places) {
     int below = 0;
     for (const Place& place : places) {
@@ -91,7 +91,7 @@ int LineAt(const std::vector<int>& lines, int position) {
     return static_cast<int>(std::ranges::lower_bound(lines, position) - lines.begin());
 }
 
-// The widest gap between two lines that only controls of a kind stand in; -1 for none.
+// The widest gap between two lines that has only controls of a kind in it; -1 for none.
 template <typename IsOfKind>
 int GrowingGap(const Places& places, Axis axis, const std::vector<int>& lines, IsOfKind isOfKind) {
     int chosen = -1;
@@ -166,6 +166,7 @@ void LayOut(const DialogTemplate& form, std::span<QWidget* const> widgets, QDial
     auto* const page = Make<QVBoxLayout>(&dialog);
     auto* const grid = Make<QGridLayout>();
     page->addLayout(grid, 1);
+    // The template's own gaps are lines of the grid too.
     grid->setSpacing(0);
     SetLines(*grid, places, units);
     if (!buttons.empty()) {

@@ -5,13 +5,14 @@
 
 namespace PLATFORM::detail {
 
-/// A check box whose text begins at its left edge, as labels do; the box stands at the right edge.
+/// A check box with its text at the left edge, where labels have theirs, and the box at the right.
 class LeftTextBox final : public QCheckBox {
 public:
+    /// Right to left moves the box to the right edge; `paintEvent` puts the text back.
     LeftTextBox() { setLayoutDirection(Qt::RightToLeft); }
 
 protected:
-    /// Its mnemonic counts at once, so that a confirmation typed right after it finds it done.
+    /// Has the mnemonic change the box at once, so that Enter typed right after it confirms that.
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 };

@@ -56,7 +56,7 @@ ListWidget::ListWidget(HWND handle) : m_Handle(handle) {
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
     setEditTriggers(NoEditTriggers);
-    setTabKeyNavigation(false);
+    setTabKeyNavigation(false);  // Tab leaves the list
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(true);
 }
@@ -87,6 +87,7 @@ void ListWidget::FitColumns() {
     for (int i = 0; i < columnCount(); ++i) {
         const int wanted =
             std::max({ColumnWidth(i), header()->sectionSizeHint(i), sizeHintForColumn(i)});
+        // A column that the user made wider stays so.
         header()->resizeSection(i, std::max(header()->sectionSize(i), wanted));
         total += wanted;
     }
@@ -204,6 +205,7 @@ void ListWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 void ListWidget::selectionChanged(const QItemSelection& selected,
                                   const QItemSelection& deselected) {
     QTreeWidget::selectionChanged(selected, deselected);
+    // A dialog knows of the changes that it makes itself.
     if (!m_IsChangedByProgram) {
         SendNotice(m_Handle, LVN_ITEMCHANGED);
     }

@@ -6,7 +6,6 @@
 #include <marlin/platform/windowing/user_events.h>
 #include <marlin/platform/windowing/windowing_constants.h>
 #include <marlin/qt/detail/owner_button.h>
-#include <marlin/qt/detail/qt_text.h>
 
 #include <QFontInfo>
 #include <QPainter>
@@ -17,7 +16,8 @@ namespace PLATFORM::detail {
 
 namespace {
 
-// The dialog's own font, in the pixels of the screen.
+// The dialog's font for drawing in pixels of the screen, of which a dense one has several for each
+// pixel of Qt.
 LOGFONTA LogFontOf(const QWidget& widget) {
     const QFontInfo shown(widget.font());
     LOGFONTA font;
@@ -26,16 +26,6 @@ LOGFONTA LogFontOf(const QWidget& widget) {
     const QByteArray face = shown.family().toLatin1().left(LF_FACESIZE - 1);
     std::ranges::copy(face, font.lfFaceName);
     return font;
-}
-
-QImage ImageOf(CDC& dc, const QSize& size) {
-    QImage image(size, QImage::Format_RGB32);
-    for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0; x < size.width(); ++x) {
-            image.setPixelColor(x, y, QtColor(dc.GetPixel(x, y)));
-        }
-    }
-    return image;
 }
 
 }  // namespace
@@ -54,7 +44,9 @@ void OwnerButton::DrawAgain() {
     CBitmap* const surfaceBefore = dc.SelectObject(&surface);
     CFont* const fontBefore = dc.SelectObject(&font);
     SendDraw(m_Handle, ODA_DRAWENTIRE, dc, {0, 0, pixels.width(), pixels.height()});
-    m_Face = ImageOf(dc, pixels);
+    // The pixels of a surface are in the order of the image's.
+    m_Face = QImage(pixels, QImage::Format_RGB32);
+    surface.GetBitmapBits(static_cast<unsigned long>(m_Face.sizeInBytes()), m_Face.bits());
     dc.SelectObject(fontBefore);
     dc.SelectObject(surfaceBefore);
     update();

@@ -29,6 +29,7 @@ Button* MakeButton(HWND handle, const QString& text, Arguments... arguments) {
 
 QWidget* MakeOwnerButton(HWND handle, const QString& text) {
     auto* const button = MakeButton<OwnerButton>(handle, text, handle);
+    // Enter confirms the dialog, also while this button has the focus.
     button->setAutoDefault(false);
     return button;
 }

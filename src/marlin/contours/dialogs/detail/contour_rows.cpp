@@ -17,6 +17,7 @@ namespace {
 enum COLUMN { LEVEL, ANNOTATION, WIDTH, TYPE };
 
 constexpr int swatchSize = 16;
+// The mask color, so that black definitions have no swatch.
 constexpr COLORREF black = 0;
 
 void InsertColumn(CListCtrl& list, COLUMN column, MESSAGE heading, int width) {

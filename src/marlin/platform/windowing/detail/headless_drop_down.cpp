@@ -18,7 +18,9 @@ CString HeadlessDropDown::ItemText(int item) const {
 int HeadlessDropDown::AddItem(const CString& text) {
     const auto comesLater = [&text](const CString& item) { return text.CompareNoCase(item) < 0; };
     const auto place = m_IsSorted ? std::ranges::find_if(m_Items, comesLater) : m_Items.end();
-    const int index = static_cast<int>(m_Items.insert(place, text) - m_Items.begin());
+    const int index = static_cast<int>(place - m_Items.begin());
+    m_Items.insert(place, text);
+    // An item inserted before the chosen one moves it.
     m_Current += index <= m_Current ? 1 : 0;
     return index;
 }

@@ -43,6 +43,7 @@ void HeadlessList::InsertRow(int row, const CString& text, int image) {
 
 void HeadlessList::DeleteRow(int row) {
     m_Rows.erase(m_Rows.begin() + row);
+    // These stay with their rows, as those move up.
     for (int* const kept : {&m_Focused, &m_Mark, &m_InView}) {
         *kept = *kept == row ? -1 : *kept > row ? *kept - 1 : *kept;
     }
@@ -54,6 +55,7 @@ void HeadlessList::DeleteRows() {
 }
 
 void HeadlessList::SetCell(int row, int column, const CString& text) {
+    // A row starts with its first cell alone.
     std::vector<CString>& cells = At(row).Cells;
     const auto place = static_cast<std::size_t>(column);
     cells.resize(std::max(cells.size(), place + 1));

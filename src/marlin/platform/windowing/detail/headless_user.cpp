@@ -8,7 +8,7 @@
 
 namespace PLATFORM::detail {
 
-// The control if a person can get at it now.
+// The control, or null where a person cannot get at it now.
 HeadlessControl* HeadlessUser::Reach(int id) const {
     if (!IsOnTop()) {
         return nullptr;
@@ -112,6 +112,7 @@ bool HeadlessUser::PushDefault() {
 }
 
 bool HeadlessUser::PressEnter(const HeadlessControl* focus) {
+    // A dialog may use Enter in a list; where it does not, Enter confirms it.
     if (focus && focus->Is(CONTROL::REPORT_LIST) && SendKey(focus->Window, VK_RETURN)) {
         return true;
     }

@@ -5,8 +5,7 @@
 
 namespace PLATFORM::detail {
 
-/// The parts of a message by which the entries of message maps are told apart, and what its
-/// handler is called with.
+/// The parts of a message that select an entry of a message map, and the arguments of its handler.
 struct Notice {
     UINT Message = 0;
     UINT Code = 0;

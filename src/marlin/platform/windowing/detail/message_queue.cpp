@@ -6,6 +6,7 @@
 namespace PLATFORM::detail {
 
 const std::shared_ptr<MessageQueue>& MessageQueue::OfThisThread() {
+    // Shared with the windows of the thread, since those may be posted to after its end.
     thread_local const auto queue = std::make_shared<MessageQueue>();
     return queue;
 }
@@ -13,6 +14,7 @@ const std::shared_ptr<MessageQueue>& MessageQueue::OfThisThread() {
 void MessageQueue::Post(const MSG& message) {
     const std::lock_guard lock(m_Lock);
     m_Messages.push_back(message);
+    // Only the queue's own thread waits.
     m_Posted.notify_one();
 }
 

@@ -104,6 +104,7 @@ int WindowTable::Id(HWND window) {
 }
 
 HWND WindowTable::Child(HWND parent, int id) {
+    // A look through all of them: there are few windows at a time.
     const std::scoped_lock lock(m_Lock);
     for (const auto& [child, record] : m_Records) {
         if (parent && record.Parent == parent && record.Id == id) {

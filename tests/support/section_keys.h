@@ -3,7 +3,6 @@
 
 #include <marlin/settings/section.h>
 
-#include <initializer_list>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -38,21 +37,4 @@ Record ReadFrom(Record record, const std::string& name, const std::string& value
     section[name] << value;
     EXPECT_TRUE(record.Read(section));
     return record;
-}
-
-/// Expects that each change alone makes another record of the default one, which comes back from
-/// its keys: in the place of those of the default one, or with those appended.
-template <class Record>
-void ExpectEachChangeKept(std::initializer_list<void (*)(Record&)> changes, bool inPlace = false) {
-    for (const auto change : changes) {
-        Record changed;
-        change(changed);
-        EXPECT_FALSE(changed == Record()) << WrittenKeys(changed);
-        Section section("Record");
-        EXPECT_TRUE((inPlace ? Record() : changed).Write(section));
-        EXPECT_TRUE((inPlace ? changed : Record()).Write(section));
-        Record read;
-        EXPECT_TRUE(read.Read(section));
-        EXPECT_EQ(read, changed) << KeysOf(section);
-    }
 }

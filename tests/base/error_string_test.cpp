@@ -35,6 +35,9 @@ TEST(ErrorString, RemembersTheLastFailureOfEachThread) {
     EXPECT_EQ(ErrorString::LastError().Text(), "second more");
     second.SetCause("disk");
     EXPECT_EQ(ErrorString::LastError().Cause(), "disk");
+    ErrorString::RecordFailure("a: full");
+    EXPECT_EQ(ErrorString::LastError().Text(), "Operation failed.");
+    EXPECT_EQ(ErrorString::LastError().Cause(), "a: full");
 }
 
 TEST(ErrorString, IsMadeUntilTheEndOfTheProgram) {

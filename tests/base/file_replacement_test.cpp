@@ -46,6 +46,11 @@ TEST(ReplaceFile, MakesAndReplacesAFileAndLeavesNothingElse) {
     std::string bytes;
     EXPECT_TRUE(MARLINSUITE::ReadFile(path, bytes).Empty());
     EXPECT_EQ(bytes.size(), 3U);
+    EXPECT_TRUE(MARLINSUITE::ReadFile(path, bytes, 3).Empty());
+    EXPECT_EQ(MARLINSUITE::ReadFile(path, bytes, 2).Text(), path + ": larger than 0 MiB");
+    EXPECT_EQ(MARLINSUITE::ReadFile("/dev/zero", bytes, 1U << 21U).Text(),
+              "/dev/zero: larger than 2 MiB");
+    EXPECT_EQ(bytes.size(), 3U);
     EXPECT_TRUE(ReplaceFile(path, "").Empty());
     EXPECT_EQ(fs::file_size(path), 0U);
     EXPECT_EQ(folder.NumFiles(), 1);

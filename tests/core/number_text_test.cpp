@@ -4,6 +4,7 @@
 #include <array>
 #include <bit>
 #include <clocale>
+#include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -50,11 +51,13 @@ TEST(NumberText, FixedNotationOfAnyBitPatternIsTheExactOne) {
     std::mt19937_64 random(1);
     for (int i = 0; i < 50'000; ++i) {
         double value = std::bit_cast<double>(random());
-        if (i % 2 != 0) {
+        if (i % 3 == 1) {
             value = static_cast<double>(static_cast<std::int64_t>(random() >> 20)) / 4096.0;
+        } else if (i % 3 == 2) {  // next to a half of the last decimal
+            value = (static_cast<double>(random() % 100'000) + 0.5) / std::pow(10.0, i % 10);
         }
         if (value == value && value - value == 0) {
-            const int decimals = static_cast<int>(random() % 12);
+            const int decimals = i % 3 == 2 ? i % 10 : static_cast<int>(random() % 12);
             ASSERT_EQ(Fixed(value, decimals), PrintedFixed(value, decimals));
         }
     }
@@ -98,7 +101,26 @@ TEST(NumberText, LimitsOfTheDecimalTypes) {
     float narrow = 1;
     EXPECT_TRUE(ParseNumber("1e-60", narrow));
     EXPECT_EQ(narrow, 0.0F);
-    EXPECT_FALSE(ParseNumber("3.5e38", narrow));
+    for (const char* const text :
+         {"3.5e38", "0.0035e41", "350000000000000000000000000000000000000"}) {
+        EXPECT_FALSE(ParseNumber(text, narrow)) << text;
+    }
+    for (const char* const text : {"100e-60", "0.00001e-45", "0.1e-99999999999"}) {
+        narrow = 1;
+        EXPECT_TRUE(ParseNumber(text, narrow)) << text;
+        EXPECT_EQ(narrow, 0.0F) << text;
+    }
+}
+
+TEST(NumberText, WordsForNumbersAndSignsAloneAreNoNumbers) {
+    double value = 3;
+    for (const char* const text :
+         {"inf", "-inf", "nan", "infinity", "+-1", "--1", "-", ".", "-.", "e5", "x1", ""}) {
+        EXPECT_FALSE(ParseNumber(text, value)) << text;
+    }
+    EXPECT_EQ(value, 3);
+    EXPECT_TRUE(ParseNumber("+.5e", value));
+    EXPECT_EQ(value, 0.5);
 }
 
 TEST(NumberText, AWholeItemMayHaveBlanksAroundItAndNothingElse) {

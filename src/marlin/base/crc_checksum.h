@@ -6,7 +6,7 @@
 #include <string_view>
 
 /// A 32-bit checksum accumulator: CRC-32 over the bytes fed. Integers feed four bytes, low
-/// byte first; a string feeds its bytes and no end mark. Fresh, its value is 0.
+/// byte first; a string feeds its bytes and no end mark. Its value is 0 before any byte.
 class CRCChecksum {
 public:
     constexpr CRCChecksum() noexcept = default;

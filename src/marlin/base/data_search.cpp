@@ -39,7 +39,7 @@ path PersonalFolder() {
     return home.is_absolute() ? home / ".local/share" : path();
 }
 
-// A tree that was moved as a whole is found beside the library, wherever it was configured for.
+// Beside the library first: an installation that was moved as a whole still finds its data.
 path InstalledFolder() {
     const std::string own = PLATFORM::ThisModuleFolder();
     const path beside = (path(own) / MARLIN_DATA_BESIDE_LIBRARY).lexically_normal();
@@ -55,8 +55,8 @@ std::vector<path> DataFolders() {
     }
     std::vector<std::string> roots;
     roots.push_back(PersonalFolder());
-    MARLINSUITE::SplitItems(Environment("XDG_DATA_DIRS", "/usr/local/share:/usr/share"), ':', false,
-                            roots);
+    MARLINSUITE::detail::SplitItems(Environment("XDG_DATA_DIRS", "/usr/local/share:/usr/share"),
+                                    ':', false, roots);
     for (const path root : roots) {
         if (root.is_absolute()) {
             folders.push_back(root / "marlin");

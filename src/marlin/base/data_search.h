@@ -9,8 +9,8 @@
 /// in $MARLIN_DATA_DIR, in "marlin" of $XDG_DATA_HOME (~/.local/share) and of each folder of
 /// $XDG_DATA_DIRS (/usr/local/share:/usr/share), and in share/marlin beside the library, or
 /// where it was configured to be installed. The environment is read at each look-up; relative
-/// folders in the XDG variables are ignored. What exists first is taken; when nothing does, the
-/// first candidate.
+/// folders in the XDG variables are ignored. The first path that exists is the result; when
+/// none does, the first candidate.
 class MARLIN_API DataSearch {
 public:
     DataSearch(const DataSearch&) = delete;

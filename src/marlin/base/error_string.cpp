@@ -5,6 +5,7 @@
 
 namespace {
 
+// Outlives the error: a `bool` has no destructor.
 constinit thread_local bool isLastGone = false;
 
 struct LastError {
@@ -15,7 +16,7 @@ struct LastError {
     ~LastError() { isLastGone = true; }
 };
 
-// Null once the thread ends: the destructors of static objects still come after that.
+// Null once the thread has destroyed it: destructors of static objects run later and may fail too.
 ErrorString* LastOfThisThread() {
     if (isLastGone) {
         return nullptr;

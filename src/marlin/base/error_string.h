@@ -6,9 +6,16 @@
 
 #include <string>
 
-/// The result of an operation that can fail: one message for a person, empty on success.
-/// Beside the message it may carry a cause, the system's own reason ("name: No space left on
-/// device"), for callers whose message is fixed. Made from nothing it is a success.
+/// The result of an operation that can fail: one message for people, empty on success, which is
+/// also the default. Beside the message it may carry a cause, the system's own reason ("name: No
+/// space left on device"), for operations whose message is fixed. A value.
+/// @code
+/// ErrorString error;
+/// assert(error.Empty());
+/// error << "Cannot read " << std::string("a.ini");
+/// assert(error.Text() == "Cannot read a.ini");
+/// assert(ErrorString::LastError() == error);
+/// @endcode
 class MARLIN_API ErrorString {
 public:
     ErrorString() = default;
@@ -30,7 +37,7 @@ public:
     ErrorString& operator<<(const CString& text);
 
     /// The failure that this thread made or appended to most recently; a success when there
-    /// was none. Copies are not made errors.
+    /// was none. Copying an error does not make one.
     [[nodiscard]] static ErrorString LastError();
     /// Records a failure, with a cause, for an operation that returns nothing; a host finds it by
     /// `LastError`.

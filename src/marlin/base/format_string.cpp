@@ -6,7 +6,7 @@
 #include <cassert>
 
 FormatString::FormatString(const std::string& text, char separator) : m_Separator(separator) {
-    MARLINSUITE::SplitItems(text, separator, true, m_Items);
+    MARLINSUITE::detail::SplitItems(text, separator, true, m_Items);
 }
 
 const std::string& FormatString::operator[](int index) const noexcept {
@@ -19,7 +19,7 @@ bool FormatString::HasSubString(const std::string& text) const noexcept {
 }
 
 std::string FormatString::String() const {
-    return MARLINSUITE::JoinItems(m_Items, m_Separator);
+    return MARLINSUITE::detail::JoinItems(m_Items, m_Separator);
 }
 
 FormatString& FormatString::operator+=(const std::string& item) {

@@ -10,6 +10,12 @@
 /// An ordered list of text items, split from a text at a separator character and joined with
 /// it again. Items are kept as they came, blanks included; an appended item that holds the
 /// separator stays one item of this list, but its joined text splits into more. A value.
+/// @code
+/// FormatString items("a,,b", ',');
+/// assert(items.Size() == 3 && items[1].empty());
+/// items += "c";
+/// assert(items.String() == "a,,b,c" && items.HasSubString("b"));
+/// @endcode
 class MARLIN_API FormatString {
 public:
     /// A list without items.
@@ -20,7 +26,7 @@ public:
     [[nodiscard]] int Size() const noexcept { return static_cast<int>(m_Items.size()); }
     /// The index must lie in 0 to `Size()` - 1.
     [[nodiscard]] const std::string& operator[](int index) const noexcept;
-    /// Whether an item equals the text, byte for byte.
+    /// True when an item equals the text, byte for byte.
     [[nodiscard]] bool HasSubString(const std::string& text) const noexcept;
     /// The items with a separator between each two; splitting it gives the same items, except
     /// that a list of one empty item becomes one without items.

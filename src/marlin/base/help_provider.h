@@ -11,7 +11,7 @@ class CWnd;
 /// for one thread at a time.
 class MARLIN_API HelpProvider {
 public:
-    /// Shows the help of a window; whether it did.
+    /// Shows the help of a window; false when it has none.
     using Handler = std::function<bool(CWnd*)>;
 
     HelpProvider(const HelpProvider&) = delete;
@@ -19,10 +19,10 @@ public:
 
     [[nodiscard]] static HelpProvider& GetInstance();
 
-    /// Asks the handler. False, so that the framework's default runs, without one.
+    /// Calls the handler. False without one, so that the framework's default runs.
     bool ShowHelpfile(CWnd* window) const;
 
-    /// Installs what answers requests for help; an empty handler removes it.
+    /// Installs the handler; an empty one removes it.
     void SetHandler(Handler handler) { m_Handler = std::move(handler); }
 
 private:

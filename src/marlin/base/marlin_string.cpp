@@ -7,7 +7,7 @@
 
 CMarlinString::CMarlinString(const CString& text, char separator, bool keepEmpty)
     : m_Separator(separator) {
-    MARLINSUITE::SplitItems(text.View(), separator, keepEmpty, m_Items);
+    MARLINSUITE::detail::SplitItems(text.View(), separator, keepEmpty, m_Items);
 }
 
 const CString& CMarlinString::operator[](int index) const noexcept {
@@ -16,7 +16,7 @@ const CString& CMarlinString::operator[](int index) const noexcept {
 }
 
 CString CMarlinString::String() const {
-    return CString(std::string_view(MARLINSUITE::JoinItems(m_Items, m_Separator)));
+    return CString(std::string_view(MARLINSUITE::detail::JoinItems(m_Items, m_Separator)));
 }
 
 const CString* CMarlinString::Find(int index) const noexcept {

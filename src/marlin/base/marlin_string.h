@@ -10,6 +10,14 @@
 /// it again, whose items can be set by position and read as numbers. Items are kept as they
 /// came, blanks included; a set item that holds the separator stays one item of this list, but
 /// its joined text splits into more. A value.
+/// @code
+/// CMarlinString items("2.5;blue", ';');
+/// float width = 0.0F;
+/// assert(items.GetItem(0, width) && width == 2.5F);
+/// assert(!items.GetItem(1, width) && width == 2.5F);
+/// items.Set(3, "new");
+/// assert(items.String() == "2.5;blue;;new");
+/// @endcode
 class MARLIN_API CMarlinString {
 public:
     /// A list without items.
@@ -24,9 +32,9 @@ public:
     /// The items with a separator between each two.
     [[nodiscard]] CString String() const;
 
-    /// Whether there is an item at the index (any number) and all of it, blanks at its ends
-    /// aside, is a value of the type; the target is unchanged when not. A text takes any item,
-    /// a bool 0 and 1, an `unsigned long` any 32-bit word.
+    /// Reads the item at the index, which may be any number. False, and the target unchanged, when
+    /// there is no such item, or when it is not, but for blanks at its ends, a value of the type.
+    /// A text takes any item, a bool 0 and 1, an `unsigned long` any 32-bit word.
     bool GetItem(int index, CString& value) const;
     bool GetItem(int index, int& value) const noexcept;
     bool GetItem(int index, unsigned long& value) const noexcept;

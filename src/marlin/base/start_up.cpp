@@ -14,7 +14,7 @@ static_assert(LibraryVersion == MARLIN_VERSION_WORD, "the version that is built"
 constinit AFX_EXTENSION_MODULE extension;
 constinit StartUpSteps steps;
 
-// Stands for the load and the unload of the library.
+// Starts the library when it is loaded, and shuts it down when it is unloaded.
 struct Loading {
     Loading() noexcept { StartUp(); }
     Loading(const Loading&) = delete;

@@ -9,13 +9,12 @@ namespace MARLINSUITE {
 /// The version of this library, 4.1.0.7, packed one byte each.
 inline constexpr unsigned int LibraryVersion = 0x04010007;
 
-/// How far a start-up came; each step needs the one before it.
+/// The steps that a start-up has taken; each needs the one before it.
 struct StartUpSteps {
     bool VersionAccepted = false;
     bool ModuleRegistered = false;
     bool ResourcesLoaded = false;
 
-    /// Whether all steps were taken.
     [[nodiscard]] constexpr bool Done() const noexcept { return ResourcesLoaded; }
     friend bool operator==(const StartUpSteps&, const StartUpSteps&) noexcept = default;
 };
@@ -26,7 +25,7 @@ struct StartUpSteps {
 /// A refused start leaves the library not loaded.
 MARLIN_API StartUpSteps StartUp(unsigned int version = LibraryVersion) noexcept;
 
-/// Whether the library is started and not shut down; a host may ask before its first use.
+/// True when the library is started and not shut down; a host may ask before its first use.
 [[nodiscard]] MARLIN_API bool IsLoaded() noexcept;
 
 /// Ends the registration; runs by itself when the library is unloaded.

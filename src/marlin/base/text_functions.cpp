@@ -7,11 +7,12 @@
 
 namespace {
 
-// What a text that is no value of its type, for all that, begins with.
+// How a text begins that `ParseNumber` refuses: with no number, or with one out of range.
 enum class START { NO_NUMBER, POSITIVE, NEGATIVE };
 
 START StartOf(std::string_view text, bool pointMayLead) noexcept {
-    text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
+    text.remove_prefix(
+        static_cast<std::size_t>(std::ranges::find_if_not(text, PLATFORM::IsBlank) - text.begin()));
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+')) {
         text.remove_prefix(1);
@@ -19,7 +20,7 @@ START StartOf(std::string_view text, bool pointMayLead) noexcept {
     if (pointMayLead && text.starts_with('.')) {
         text.remove_prefix(1);
     }
-    if (text.empty() || text.front() < '0' || text.front() > '9') {
+    if (text.empty() || !PLATFORM::IsDigit(text.front())) {
         return START::NO_NUMBER;
     }
     return negative ? START::NEGATIVE : START::POSITIVE;

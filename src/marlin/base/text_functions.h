@@ -12,8 +12,8 @@
 /// Equality ignoring case.
 [[nodiscard]] MARLIN_API bool icompare(std::string_view a, std::string_view b) noexcept;
 
-/// A strict order of texts ignoring case: of two texts that `icompare` tells apart exactly one
-/// is smaller.
+/// A strict order of texts ignoring case: of two texts that are not equal to `icompare` exactly
+/// one is smaller.
 [[nodiscard]] MARLIN_API bool Smaller(std::string_view a, std::string_view b) noexcept;
 [[nodiscard]] MARLIN_API bool Greater(std::string_view a, std::string_view b) noexcept;
 

@@ -7,7 +7,7 @@ namespace CRC32 {
 
 namespace {
 
-// Below this a call costs more than the bytes.
+// For fewer bytes a call of libdeflate costs more than the tables.
 constexpr std::size_t smallSize = 48;
 
 unsigned int UpdateSmall(unsigned int state, const unsigned char* bytes,
@@ -30,7 +30,7 @@ unsigned int Update(unsigned int state, const void* bytes, std::size_t size) noe
     if (size < smallSize) {
         return UpdateSmall(state, static_cast<const unsigned char*>(bytes), size);
     }
-    // The library takes and gives the inverted register.
+    // libdeflate takes and returns the inverted register.
     return ~libdeflate_crc32(~state, bytes, size);
 }
 

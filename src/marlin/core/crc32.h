@@ -15,7 +15,7 @@ inline constexpr unsigned int Start = 0xFFFFFFFFU;
 
 using Table = std::array<unsigned int, 256>;
 
-/// `ByteTables[k][b]`: what byte `b` leaves in the register after `k` zero bytes more.
+/// `ByteTables[k][b]`: the register that byte `b` and `k` zero bytes after it leave of 0.
 inline constexpr std::array<Table, 4> ByteTables = [] {
     std::array<Table, 4> tables{};
     for (unsigned int byte = 0; byte < 256; ++byte) {

@@ -6,7 +6,15 @@
 #include <string>
 #include <string_view>
 
-/// Numbers to text and back, free of every locale: the one place that knows how.
+/// Numbers to text and back, alike in every locale. No other place of the library converts them.
+/// @code
+/// double depth = 0.0;
+/// assert(MARLINSUITE::ParseNumber(" 12.5 m", depth) && depth == 12.5);
+/// assert(!MARLINSUITE::ParseWhole("12.5 m", depth));
+/// std::string text = "Depth ";
+/// MARLINSUITE::AppendFixed(text, depth, 2);
+/// assert(text == "Depth 12.50");
+/// @endcode
 namespace MARLINSUITE {
 
 /// Reads the longest prefix of the text, after white space, that forms a value of the type and
@@ -14,7 +22,7 @@ namespace MARLINSUITE {
 /// not fit. Integers: an optional sign ("-" for `int` alone) and decimal digits; `unsigned
 /// long` ends at 4294967295 as on the 32-bit platform that the contracts come from. A bool is
 /// an integer 0 or 1. Decimal numbers: digits with an optional fraction and exponent, rounded
-/// to the nearest value; what is too small becomes 0.
+/// to the nearest value; numbers too small for the type become 0.
 MARLIN_API bool ParseNumber(std::string_view text, int& value) noexcept;
 MARLIN_API bool ParseNumber(std::string_view text, unsigned int& value) noexcept;
 MARLIN_API bool ParseNumber(std::string_view text, unsigned long& value) noexcept;
@@ -22,7 +30,8 @@ MARLIN_API bool ParseNumber(std::string_view text, bool& value) noexcept;
 MARLIN_API bool ParseNumber(std::string_view text, float& value) noexcept;
 MARLIN_API bool ParseNumber(std::string_view text, double& value) noexcept;
 
-/// Whether the whole text, blanks at its ends aside, is one value of the type.
+/// Reads a text that is one value of the type and nothing else, but for white space at its ends.
+/// False, and the target unchanged, for any other.
 MARLIN_API bool ParseWhole(std::string_view text, int& value) noexcept;
 MARLIN_API bool ParseWhole(std::string_view text, unsigned long& value) noexcept;
 MARLIN_API bool ParseWhole(std::string_view text, bool& value) noexcept;

@@ -6,6 +6,7 @@
 
 namespace {
 
+// Spelt as the suite's other programs and their users know them, mistakes included.
 constexpr PLATFORM::StringResource Entry(MARLINSUITE::MESSAGE message, std::string_view text) {
     return {static_cast<unsigned int>(message), text};
 }

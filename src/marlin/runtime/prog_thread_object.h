@@ -8,8 +8,8 @@
 
 #include <string>
 
-/// Work that tells how far it is: a value, in whatever scale it and its owner agree on, and a
-/// text about the current step. The work sets both on its worker, its owner reads them on one
+/// Work that shows its progress: a value, in whatever scale it and its owner agree on, and a text
+/// about the current step. The work sets both on its worker, its owner reads them on one
 /// other thread. At first 0 and empty.
 class MARLIN_API ProgThreadObject : public ThreadObject {
 public:

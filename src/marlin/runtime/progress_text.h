@@ -34,7 +34,7 @@ public:
 
 private:
     mutable std::mutex m_Lock;
-    std::string m_Text;                 // behind the lock
+    std::string m_Text;                 // guarded by the lock
     mutable std::string m_ReadersCopy;  // the reading thread's
 };
 

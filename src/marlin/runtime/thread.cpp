@@ -12,6 +12,7 @@
 
 namespace {
 
+// The worker's exit code when another party owns the mutex.
 constexpr unsigned int MutexNotTaken = 0xFFFFFFFF;
 
 std::string NameOf(const Thread* thread) {
@@ -29,7 +30,7 @@ Thread::Thread()
 
 Thread::~Thread() {
     Stop();
-    // Workers look into the list as long as they run, so nothing is taken from it before.
+    // Running workers look their work up in the list, so it is emptied only after the last end.
     for (const Run& run : m_Runs) {
         WaitForSingleObject(run.Worker->m_hThread, INFINITE);
     }
@@ -53,7 +54,9 @@ void Thread::SetCaller(CWnd* caller) {
 }
 
 bool Thread::Start(ThreadObject* object) {
-    std::vector<Run> ended;  // goes after the lock: its workers may still want that
+    // Destroyed after the lock is released: to delete a worker is to wait for its last steps, and
+    // those may need the lock.
+    std::vector<Run> ended;
     const std::lock_guard lock(m_Lock);
     if (!object || m_Object) {
         return false;
@@ -64,8 +67,9 @@ bool Thread::Start(ThreadObject* object) {
     return BeginWorker();
 }
 
+// Suspended until it is recorded, so that the worker finds its entry in the list.
 bool Thread::BeginWorker() {
-    m_Runs.reserve(m_Runs.size() + 1);
+    m_Runs.reserve(m_Runs.size() + 1);  // the worker below must not be lost to an exception
     CWinThread* const worker =
         AfxBeginThread(&ThreadProc, this, THREAD_PRIORITY_BELOW_NORMAL, 0, CREATE_SUSPENDED);
     if (!worker) {
@@ -78,6 +82,7 @@ bool Thread::BeginWorker() {
     return true;
 }
 
+// Forgotten workers may run on beside the recorded one, so several may have ended, or none.
 std::vector<Thread::Run> Thread::TakeEndedRuns() {
     const auto firstEnded = std::partition(m_Runs.begin(), m_Runs.end(), [](const Run& run) {
         return WaitForSingleObject(run.Worker->m_hThread, 0) == WAIT_TIMEOUT;
@@ -121,20 +126,20 @@ int Thread::Execute(ThreadObject& object) const {
             }
         }
     } catch (...) {
-        result = 1;  // nobody could catch it on this thread; the exit code tells
+        result = 1;  // nobody could catch it on this thread; the exit code reports it
     }
     return result;
 }
 
-// Under one lock, so that whoever sees the run ended sees its exit code too.
+// Under one lock, so that a thread that sees the end of the run sees its exit code too.
 unsigned int Thread::EndRun(const CWinThread* worker, int result) {
     const std::lock_guard lock(m_Lock);
-    if (m_Worker == worker) {  // else it has been forgotten, and another may run
+    if (m_Worker == worker) {  // else it was forgotten, and another worker may run
         m_Worker = nullptr;
         m_Object = nullptr;
     }
     m_ExitCode = result != 0 ? 1 : 0;
-    TellCaller();
+    PostEnd();
     return m_ExitCode;
 }
 
@@ -142,10 +147,10 @@ void Thread::HandleEndThread() {
     const std::lock_guard lock(m_Lock);
     m_Worker = nullptr;
     m_Object = nullptr;
-    TellCaller();
+    PostEnd();
 }
 
-void Thread::TellCaller() const {
+void Thread::PostEnd() const {
     if (m_Caller) {
         PostMessageA(m_Caller->GetSafeHwnd(), EndMessage, 0, 0);
     }

@@ -27,7 +27,7 @@ Trailer TrailerOf(unsigned int value) {
             static_cast<unsigned char>(value >> 16), static_cast<unsigned char>(value >> 24)};
 }
 
-// The four bytes at the end of a file, of which `length` bytes stand before them.
+// Reads the last four bytes of a file; `length` is that of the payload before them.
 bool ReadTrailer(std::FILE* file, unsigned int& value, std::uint64_t& length) {
     if (!PLATFORM::detail::SeekFromEnd(file, -std::int64_t{trailerSize})) {
         return false;

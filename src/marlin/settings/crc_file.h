@@ -14,7 +14,15 @@
 /// for reading it refuses a file whose trailer does not match.
 ///
 /// Copies share one open stream and its position: closing one closes it for all, once. The
-/// last one destroyed closes it.
+/// last one destroyed closes it. For one thread at a time.
+/// @code
+/// CRCFile file;
+/// assert(file.Open("soundings.bin", "w+b").Empty());
+/// assert(file.Write("123456789", 1, 9) == 9);
+/// file.Close();
+/// assert(CRCFile::GetCRC("soundings.bin") == 0xCBF43926);
+/// assert(file.Open("soundings.bin", "rb").Empty());
+/// @endcode
 class MARLIN_API CRCFile {
 public:
     CRCFile() = default;
@@ -24,9 +32,9 @@ public:
 
     /// Closes an open file, then opens `path` with a mode of the standard I/O library. Modes
     /// with "w" or "W" write; the trailer is computed from the file itself, so such a mode must
-    /// also read ("w+b"). All others read, and stand at position 0 once the trailer has matched.
+    /// also read ("w+b"). With any other mode the trailer is compared, and the position is then 0.
     ErrorString Open(const std::string& path, const char* mode);
-    /// Completes and closes an open file. A failure to write is `ErrorString::LastError()`.
+    /// Completes and closes an open file. A failure is recorded as `ErrorString::LastError()`.
     void Close();
     [[nodiscard]] bool IsOpen() const noexcept;
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 /// Splitting and joining of item lists, over any string type made from a view of characters.
-namespace MARLINSUITE {
+namespace MARLINSUITE::detail {
 
 [[nodiscard]] inline std::string_view ItemView(const std::string& item) noexcept {
     return item;
@@ -53,4 +53,4 @@ template <class String>
     return text;
 }
 
-}  // namespace MARLINSUITE
+}  // namespace MARLINSUITE::detail

@@ -12,7 +12,7 @@ public:
 
     [[nodiscard]] const char* c_str() const noexcept { return m_Path.GetString(); }
 
-    /// Replaces what follows the last dot of the name, or adds a dot and the extension to a
+    /// Replaces the text after the last dot of the name, or adds a dot and the extension to a
     /// name without one; dots that begin the name are part of it. A leading dot of
     /// `extension` is optional, an empty one removes extension and dot. A path without a name
     /// (empty, or ending in "/", "." or "..") stays.

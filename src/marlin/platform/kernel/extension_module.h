@@ -9,7 +9,7 @@
 using HINSTANCE = struct HINSTANCE__*;
 using HMODULE = HINSTANCE;
 
-/// What the framework records of an extension module. Made empty, not registered.
+/// The framework's record of an extension module; at first empty, not registered.
 struct AFX_EXTENSION_MODULE {
     int bInitialized = 0;
     HMODULE hModule = nullptr;
@@ -28,7 +28,7 @@ namespace PLATFORM {
 [[nodiscard]] HINSTANCE ThisModule() noexcept;
 
 /// The folder of the file that this library was loaded from, with links followed and without
-/// an ending "/"; empty when the system does not tell.
+/// an ending "/"; empty when the system does not know it.
 [[nodiscard]] std::string ThisModuleFolder();
 
 }  // namespace PLATFORM

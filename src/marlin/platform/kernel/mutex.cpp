@@ -23,9 +23,11 @@ private:
     bool m_Abandoned = false;
 };
 
+// Set once the list below is gone: destructors of other thread-local objects may still come.
 constinit thread_local bool threadEnds = false;
 
-// The mutexes that a thread owns. Its address tells the thread from all others that live.
+// The mutexes that a thread owns, abandoned when it ends. The address of the list identifies the
+// thread among all that live, also after the system has given its number to another.
 struct HeldMutexes {
     std::vector<std::weak_ptr<Mutex>> Mutexes;
 
@@ -105,6 +107,7 @@ HANDLE CreateMutexA(const SECURITY_ATTRIBUTES*, int initialOwner, const char* na
     if (fresh->Name().empty()) {
         return PLATFORM::detail::OpenHandle(fresh);
     }
+    // The fresh one was taken before others can find it by its name.
     auto object = PLATFORM::detail::NamedObject(fresh->Name(), fresh);
     if (object != fresh && initialOwner != 0) {
         static_cast<void>(fresh->Release());

@@ -8,12 +8,12 @@ struct SECURITY_ATTRIBUTES;
 
 inline constexpr unsigned long SYNCHRONIZE = 0x00100000;
 
-/// Makes a mutex, or opens the one of that name: within the process a name, case included,
-/// stands for one mutex as long as a handle to it is open. A null or empty name makes a mutex of
-/// its own. Free mutexes are taken with `WaitForSingleObject` and are then owned by the calling
-/// thread, which takes its own mutex again without waiting; it is free once released as often
-/// as it was taken, or when the owner's thread ends. A new mutex is owned by the calling thread
-/// when `initialOwner` is not 0. Security attributes have no meaning here.
+/// Makes a mutex, or opens the one of that name: within the process a name, case included, names
+/// one mutex as long as a handle to it is open. A null or empty name makes a mutex of its own. Free
+/// mutexes are taken with `WaitForSingleObject` and are then owned by the calling thread, which
+/// takes its own mutex again without waiting; it is free once released as often as it was taken, or
+/// when the owner's thread ends. A new mutex is owned by the calling thread when `initialOwner` is
+/// not 0. Security attributes have no meaning here.
 [[nodiscard]] MARLIN_API HANDLE CreateMutexA(const SECURITY_ATTRIBUTES* attributes,
                                              int initialOwner, const char* name);
 

@@ -7,17 +7,17 @@
 #include <string>
 #include <vector>
 
-/// What a program asks of the system about itself.
+/// The running program and its surroundings.
 namespace PLATFORM {
 
-/// Whether the stream goes to a person at a terminal, and not to a file or a pipe.
+/// True when the stream leads to a terminal, and not to a file or a pipe.
 [[nodiscard]] MARLIN_API bool IsTerminal(std::FILE* stream) noexcept;
 
 /// The folder of the running program's file, links followed, without an ending "/"; empty when the
 /// system does not know it.
 [[nodiscard]] MARLIN_API std::string ProgramFolder();
 
-/// Whether the file exists and may be run as a program.
+/// True when the file exists and this process may run it as a program.
 [[nodiscard]] MARLIN_API bool IsProgram(const std::string& path) noexcept;
 
 /// Makes this process another program: does not return on success, and returns the system's error

@@ -6,7 +6,7 @@
 inline constexpr unsigned long VER_PLATFORM_WIN32_WINDOWS = 1;
 inline constexpr unsigned long VER_PLATFORM_WIN32_NT = 2;
 
-/// What the platform says about itself. The caller sets the size.
+/// The version of the platform. The caller sets the size.
 struct OSVERSIONINFOA {
     unsigned long dwOSVersionInfoSize = sizeof(OSVERSIONINFOA);
     unsigned long dwMajorVersion = 0;

@@ -4,7 +4,7 @@
 #include <marlin/core/export.h>
 
 /// Names a kernel object (a mutex or a worker) until it is closed; null names none. Its value
-/// means nothing and is never given twice, so a closed or invented handle is told from others.
+/// means nothing and is never given twice, so that a closed or invented handle is recognised.
 using HANDLE = void*;
 
 inline constexpr unsigned long INFINITE = 0xFFFFFFFF;
@@ -14,9 +14,9 @@ inline constexpr unsigned long WAIT_ABANDONED = 0x80;
 inline constexpr unsigned long WAIT_TIMEOUT = 258;
 inline constexpr unsigned long WAIT_FAILED = 0xFFFFFFFF;
 
-/// Waits for an object, at most so many milliseconds; with 0 it only looks, with `INFINITE` it
-/// waits for ever. A worker is waited for until it has ended. A mutex is taken: see
-/// `CreateMutexA`. Gives `WAIT_OBJECT_0`; `WAIT_ABANDONED` when a mutex was taken whose owner's
+/// Waits for an object, at most so many milliseconds; with 0 it returns at once, with `INFINITE`
+/// it waits for ever. A worker is waited for until it has ended. A mutex is taken: see
+/// `CreateMutexA`. Returns `WAIT_OBJECT_0`; `WAIT_ABANDONED` when a mutex was taken whose owner's
 /// thread ended without releasing it; `WAIT_TIMEOUT`, and nothing taken, when the time ran out;
 /// `WAIT_FAILED` for a handle that names nothing, and for a mutex in a thread whose thread-local
 /// objects are being destroyed.

@@ -20,9 +20,8 @@ CWinThread* AfxBeginThread(AFX_THREADPROC procedure, void* parameter, int priori
     if (!procedure) {
         return nullptr;
     }
-    std::unique_ptr<CWinThread> thread = Worker::Create(procedure, parameter, priority);
-    // From its first step on, a worker that deletes itself is its own owner.
-    CWinThread* const result = thread.release();
+    // The worker deletes itself, unless the caller clears `m_bAutoDelete` and owns it.
+    CWinThread* const result = Worker::Create(procedure, parameter, priority).release();
     if (result && (flags & CREATE_SUSPENDED) == 0) {
         ResumeThread(result->m_hThread);
     }

@@ -20,7 +20,7 @@ inline constexpr int THREAD_PRIORITY_NORMAL = 0;
 inline constexpr unsigned long CREATE_SUSPENDED = 4;
 inline constexpr unsigned long STILL_ACTIVE = 259;
 
-/// What a worker runs; its result is the thread's exit code. It must not throw.
+/// The function that a worker runs; its result is the thread's exit code. It must not throw.
 using AFX_THREADPROC = unsigned int (*)(void*);
 
 /// A worker thread. It deletes itself when it has ended, unless `m_bAutoDelete` is cleared while

@@ -126,9 +126,9 @@ CString& CString::MakeLower() noexcept {
 }
 
 CString& CString::Trim() {
-    constexpr const char* blanks = " \t\n\v\f\r";
-    m_Text.erase(m_Text.find_last_not_of(blanks) + 1);
-    m_Text.erase(0, m_Text.find_first_not_of(blanks));
+    const auto end = std::find_if_not(m_Text.rbegin(), m_Text.rend(), PLATFORM::IsBlank).base();
+    m_Text.erase(end, m_Text.end());
+    m_Text.erase(m_Text.begin(), std::ranges::find_if_not(m_Text, PLATFORM::IsBlank));
     return *this;
 }
 

@@ -10,6 +10,13 @@
 /// The framework's string: a value of single-byte characters (Windows-1252), which may hold
 /// any byte. A null pointer reads as an empty text. Positions count from 0 and -1 means not
 /// found; counts and positions outside the text are cut to it.
+/// @code
+/// CString name = "chart.cdf";
+/// const int dot = name.ReverseFind('.');
+/// assert(dot == 5 && name.Left(dot) == "chart");
+/// name.Format("%s (%d)", name.Mid(dot + 1).GetString(), 2);
+/// assert(name == "cdf (2)");
+/// @endcode
 class MARLIN_API CString {
 public:
     CString() noexcept = default;
@@ -29,7 +36,7 @@ public:
     [[nodiscard]] bool IsEmpty() const noexcept { return m_Text.empty(); }
     void Empty() noexcept { m_Text.clear(); }
 
-    /// The position must lie in 0 to `GetLength()`; at the length stands a null character.
+    /// The position must lie in 0 to `GetLength()`; at the length there is a null character.
     [[nodiscard]] char GetAt(int position) const noexcept;
     [[nodiscard]] char operator[](int position) const noexcept { return GetAt(position); }
     void SetAt(int position, char character) noexcept;
@@ -47,7 +54,7 @@ public:
     [[nodiscard]] int Find(const char* text, int start = 0) const noexcept;
     [[nodiscard]] int ReverseFind(char character) const noexcept;
 
-    /// Below, at or above 0 as this text stands before, equals or stands after the other,
+    /// Below, at or above 0 when this text comes before the other, equals it or comes after it,
     /// compared as unsigned bytes.
     [[nodiscard]] int Compare(const char* other) const noexcept;
     /// The same with the ASCII letters taken as lower case.

@@ -26,7 +26,7 @@ struct Lead {
     unsigned char Mask;
     unsigned char Bits;
     std::size_t Size;
-    char32_t Smallest;  // what a shorter form could not say
+    char32_t Smallest;  // a smaller one has a shorter form
 };
 constexpr std::array<Lead, 4> leads = {
     {{0x80, 0x00, 1, 0}, {0xE0, 0xC0, 2, 0x80}, {0xF0, 0xE0, 3, 0x800}, {0xF8, 0xF0, 4, 0x10000}}};
@@ -63,7 +63,7 @@ char ByteOf(char32_t codePoint) noexcept {
                                          firstSpecial + (found - specials.begin())));
 }
 
-// No byte stands for a character beyond three bytes of UTF-8.
+// Three bytes are enough: the characters of the code page are below 0x10000.
 void AppendUtf8(std::string& text, char32_t codePoint) {
     const auto append = [&text](char32_t bits) {
         text += static_cast<char>(static_cast<unsigned char>(bits));

@@ -28,8 +28,7 @@ std::optional<unsigned int> NumberedGray(std::string_view name) {
 }  // namespace
 
 std::optional<unsigned int> NamedColorOf(std::string_view name) {
-    std::string lower(name);
-    std::ranges::transform(lower, lower.begin(), PLATFORM::ToLower);
+    const std::string lower = PLATFORM::LowerCase(name);
     const auto found =
         std::ranges::lower_bound(namedColors, std::string_view(lower), {}, &NamedColor::Name);
     if (found != std::end(namedColors) && found->Name == lower) {

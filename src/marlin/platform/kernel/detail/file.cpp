@@ -185,7 +185,7 @@ int ReadWhole(const std::string& path, std::size_t limit, std::string& bytes,
         const std::size_t size = read.size();
         const std::size_t step = std::max(smallestStep, size);
         read.resize(size + std::min(step, limit - size) +
-                    1);  // one more byte tells of a larger file
+                    1);  // the last byte is one beyond the limit
         if (const int error = file.Read(read.data() + size, read.size() - size, count);
             error != 0) {
             return error;

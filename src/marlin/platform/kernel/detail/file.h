@@ -17,7 +17,7 @@ namespace PLATFORM::detail {
 
 enum class FILE_KIND { REGULAR, FOLDER, OTHER };  ///< Other: a device, a pipe, a socket.
 
-/// What the system knows of a file.
+/// The properties of a file.
 struct FileStatus {
     FILE_KIND Kind = FILE_KIND::OTHER;
     std::uint64_t Size = 0;            ///< Bytes; without meaning for other kinds.
@@ -73,9 +73,9 @@ private:
     int m_Descriptor = -1;
 };
 
-/// Of the file that a path leads to through symbolic links. ENOENT when there is none.
+/// The status of the file that a path leads to through symbolic links. ENOENT when there is none.
 [[nodiscard]] int StatusOf(const std::string& path, FileStatus& status) noexcept;
-/// Whether this process may write the file: 0, or EACCES, EROFS and the like.
+/// 0 when this process may write the file; EACCES, EROFS and the like when not.
 [[nodiscard]] int CheckWritable(const std::string& path) noexcept;
 /// Replaces a path by the one that its symbolic links lead to, where no file needs to exist.
 /// ELOOP for links in a circle.

@@ -10,7 +10,8 @@ namespace PLATFORM::detail {
 
 namespace {
 
-// The handles and names of the process. The names outlive the objects that handles keep.
+// The handles and names of the process. The names are destroyed after the handles, whose objects
+// look their names up when they end.
 struct KernelObjects {
     std::mutex Lock;
     std::uintptr_t LastHandle = 0;
@@ -24,7 +25,8 @@ std::uintptr_t ValueOf(HANDLE handle) noexcept {
     return reinterpret_cast<std::uintptr_t>(handle);
 }
 
-// Whoever drops the result drops it outside the lock, which the end of an object takes.
+// Returns the object, so that the caller drops it after the lock: an object with a name takes the
+// lock when it ends.
 std::shared_ptr<KernelObject> Close(HANDLE handle) {
     const std::lock_guard lock(objects.Lock);
     auto node = objects.Handles.extract(ValueOf(handle));
@@ -39,7 +41,7 @@ KernelObject::~KernelObject() {
     }
     const std::lock_guard lock(objects.Lock);
     const auto found = objects.Names.find(m_Name);
-    // Another object may have got the name since this one was given up.
+    // Since the last handle was closed, another thread may have given the name to a new object.
     if (found != objects.Names.end() && found->second.expired()) {
         objects.Names.erase(found);
     }

@@ -11,8 +11,8 @@
 
 namespace PLATFORM::detail {
 
-/// What a handle names: something that can be waited for. It lives as long as a handle or a
-/// waiting thread has it. An object with a name is found by it.
+/// An object that handles name and that can be waited for. It lives as long as a handle or a
+/// waiting thread has it. Objects with a name are found by it.
 class KernelObject {
 public:
     explicit KernelObject(std::string name = {}) : m_Name(std::move(name)) {}

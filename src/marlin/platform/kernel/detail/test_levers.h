@@ -3,8 +3,8 @@
 
 #include <marlin/core/export.h>
 
-/// What tests change in the platform, to meet what they could not bring about otherwise. They are
-/// exported for the tests alone; the header is not installed. Any thread may call them.
+/// Changes that tests make to the platform, to meet conditions that they could not bring about
+/// otherwise. Exported for the tests alone; the header is not installed. Any thread may call them.
 namespace PLATFORM::detail {
 
 inline constexpr unsigned int NoWorkerLimit = 0xFFFFFFFF;

@@ -15,6 +15,8 @@ namespace {
 constinit std::atomic<unsigned int> workerCount{0};
 constinit thread_local CWinThread* currentThread = nullptr;
 
+// Counts one worker more unless that would exceed the limit; two threads at once cannot both take
+// the last place.
 bool CountWorker() noexcept {
     unsigned int count = workerCount.load();
     do {
@@ -25,7 +27,8 @@ bool CountWorker() noexcept {
     return true;
 }
 
-// A thread of this system has a nice value of its own, which every thread may raise.
+// On this system each thread has a nice value of its own. Every process may raise it, but only a
+// privileged one lowers it, so priorities above normal have no effect.
 void ApplyPriority(int priority) noexcept {
     const int step = priority <= THREAD_PRIORITY_IDLE     ? 19
                      : priority <= THREAD_PRIORITY_LOWEST ? 10
@@ -43,6 +46,7 @@ std::unique_ptr<CWinThread> Worker::Create(AFX_THREADPROC procedure, void* param
     if (!CountWorker()) {
         return nullptr;
     }
+    // The thread starts at once and waits in `IsToRun`: the system has no suspended threads.
     const auto worker = std::make_shared<Worker>(procedure, parameter, priority);
     auto thread = std::make_unique<CWinThread>(worker);
     try {
@@ -87,6 +91,7 @@ void Worker::Finish() {
     if (!m_Thread.joinable()) {
         return;
     }
+    // A worker that deletes itself cannot wait for its own end.
     if (m_Thread.get_id() == std::this_thread::get_id()) {
         m_Thread.detach();
     } else {
@@ -113,7 +118,7 @@ void Worker::Run(CWinThread* thread) {
     currentThread = thread;
     ApplyPriority(m_Priority);
     const unsigned long code = m_Procedure(m_Parameter);
-    // Once it has ended, the thread may be deleted by whoever owns it.
+    // Once the end is known, an owner may delete the thread; it is not touched after that.
     const std::unique_ptr<CWinThread> self(thread->m_bAutoDelete ? thread : nullptr);
     End(code);
 }

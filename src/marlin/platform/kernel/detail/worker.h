@@ -8,7 +8,8 @@
 
 namespace PLATFORM::detail {
 
-/// The thread behind a `CWinThread`, which begins suspended. The running thread has it too.
+/// The thread of a `CWinThread`, suspended at first. The running thread shares the ownership, so
+/// that its end does not depend on who still knows it.
 class Worker final : public KernelObject, public std::enable_shared_from_this<Worker> {
 public:
     /// A suspended worker with its `CWinThread`, or none when the system has no thread for it.
@@ -19,7 +20,7 @@ public:
         : m_Procedure(procedure), m_Parameter(parameter), m_Priority(priority) {}
 
     [[nodiscard]] unsigned long Wait(unsigned long milliseconds) override;
-    /// Whether it was suspended.
+    /// False when it was not suspended.
     bool Resume();
     [[nodiscard]] unsigned long ExitCode();
 

@@ -109,7 +109,8 @@ ends() {
 complains() {
     await "Contours" && keys Return
     ends 1
-    [ "$(grep -v '^QStandardPaths' "$work/said")" = "$1" ] || fail_here "unclear: $(cat "$work/said")"
+    [ "$(grep -v '^QStandardPaths' "$work/said")" = "$1" ] ||
+        fail_here "unclear: $(cat "$work/said")"
 }
 
 # holds FILE LINE...: level, color, line type, width and labels of each definition.
@@ -237,7 +238,8 @@ saves_under_a_new_name() {
 refuses() {
     printf '[Letter]\n' >"$work/letter.cdf"
     start "$work/letter.cdf"
-    complains "marlin-contour-editor: $work/letter.cdf: no section [Contour(0)]: not a contour definition file"
+    local cause="no section [Contour(0)]: not a contour definition file"
+    complains "marlin-contour-editor: $work/letter.cdf: $cause"
     start "$work"
     complains "marlin-contour-editor: $work: Is a directory"
 

@@ -41,8 +41,8 @@ inline std::vector<std::string> LinesOf(const std::string& path) {
 /// The shell that runs the commands of one transcript, in a folder of its own. It finds `marlin`.
 class Shell {
 public:
-    /// Returns all that the command prints, as a transcript has it. Every line of its errors, and no
-    /// other, begins with "marlin: ".
+    /// Returns all that the command prints, as a transcript has it. Every line of its errors, and
+    /// no other, begins with "marlin: ".
     [[nodiscard]] std::string Run(const std::string& command) const {
         const std::string script = m_Output.Write("script", command + "\n");
         const std::string out = m_Output.File("out");

@@ -3,7 +3,6 @@
 
 #include <marlin/color/rgb_color.h>
 #include <marlin/records/record_field.h>
-#include <marlin/settings/section.h>
 
 #include <optional>
 #include <string>
@@ -30,12 +29,5 @@ struct Record {
 /// Shows what a record has under one key. The name is that of the key in the section, empty when
 /// the section lacks it.
 void Show(Record& record, const MARLINSUITE::RecordField& field, const std::string& name);
-
-/// The records that a section holds, by its keys: those without a prefix, those of each prefix in
-/// the order of the file, and those that one value holds.
-[[nodiscard]] std::vector<Record> RecordsOf(const Section& section);
-
-/// The records that are written as one value: text styles, depth labels, and lines.
-void AddRecordsInValues(const Section& section, std::vector<Record>& records);
 
 }  // namespace HOST

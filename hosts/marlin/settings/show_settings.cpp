@@ -3,7 +3,7 @@
 #include "output/color_text.h"
 #include "output/json.h"
 #include "output/table.h"
-#include "record.h"
+#include "section_records.h"
 #include "settings.h"
 #include <marlin/platform/text/code_page.h>
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "section_records.h"
+
 #include "input/ignoring_case.h"
-#include "record.h"
+#include "value_records.h"
 #include <marlin/contours/record_kinds.h>
 
 #include <cstddef>
@@ -88,7 +90,7 @@ std::vector<Record> RecordsOf(const Section& section) {
     for (const Prefixed& prefixed : PrefixesOf(section)) {
         AddRecords(prefixed.Keys, prefixed.Prefix, records);
     }
-    AddRecordsInValues(section, records);
+    AddValueRecords(section, records);
     return records;
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "record.h"
+#include "value_records.h"
+
 #include <marlin/base/marlin_string.h>
 #include <marlin/base/text_functions.h>
 #include <marlin/records/depth_label_info.h>
@@ -66,7 +67,7 @@ void AddRecordOf(const SectionKey& key, std::vector<Record>& records) {
 
 }  // namespace
 
-void AddRecordsInValues(const Section& section, std::vector<Record>& records) {
+void AddValueRecords(const Section& section, std::vector<Record>& records) {
     for (const SectionKey& key : section.Keys()) {
         if (key.GetValue().find(',') != std::string::npos) {
             AddRecordOf(key, records);

@@ -24,6 +24,7 @@ struct OrientationText {
     // A missing key reads as an empty text, which resets the orientation as any unknown one does.
     void Read(const SectionKey& key) {
         Orientation = ContourInfo::OptimumTextAngle;
+        // Only the exact text counts, since programs alone write it.
         for (const NamedValue& named : orientations) {
             if (key.GetValue() == named.Text) {
                 Orientation = static_cast<ContourInfo::label_orientation>(named.Value);
@@ -43,6 +44,7 @@ struct OrientationText {
 
 }  // namespace
 
+// Not in the header, so that the library alone has the table of virtual functions.
 ContourInfo::~ContourInfo() = default;
 
 bool ContourInfo::operator==(const ContourInfo& other) const noexcept {
@@ -63,6 +65,7 @@ void ContourInfo::ForEachKey(const Keys& keys) {
           .Meaning = "smoothing window, 0 to 8",
           .Comments = "Values between 0 and 8"},
          m_SmoothingWindow);
+    // Read first, so that the newer key below wins in a file that has both.
     keys({.Name = "LabelSpacing",
           .Field = 2,
           .Meaning = "distance of the labels along a contour",

@@ -5,6 +5,7 @@
 using namespace MARLINSUITE;
 using namespace MARLINSUITE::detail;
 
+// Not in the header, so that the library alone has the table of virtual functions.
 BiasInfo::~BiasInfo() = default;
 
 template <class Keys>

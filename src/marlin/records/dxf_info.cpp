@@ -20,6 +20,7 @@ std::string DXFInfo::ToString() const {
 void DXFInfo::FromString(const std::string& text) {
     *this = DXFInfo();
     const CMarlinString items = SplitPen(text);
+    // So short a text is no pen, and its first items may mean something else.
     if (items.Size() < FewestPenItems) {
         return;
     }
@@ -28,6 +29,7 @@ void DXFInfo::FromString(const std::string& text) {
     items.GetItem(2, m_ColorMode);
 }
 
+// The exact color comes after the palette index, so that it wins in a file that has both.
 template <class Keys>
 void DXFInfo::ForEachKey(const Keys& keys) {
     keys({"DXFLineColor", 2, "color"}, PaletteIndex(m_Color));

@@ -36,6 +36,7 @@ struct Interval {
 
 }  // namespace
 
+// Not in the header, so that the library alone has the table of virtual functions.
 GeoGridInfo::~GeoGridInfo() = default;
 
 void GeoGridInfo::LatInterval(double interval) noexcept {
@@ -55,6 +56,7 @@ bool GeoGridInfo::operator==(const GeoGridInfo& other) const noexcept {
            m_DegMinSecSymbols == other.m_DegMinSecSymbols;
 }
 
+// The exact color comes after the palette index, so that it wins in a file that has both.
 template <class Keys>
 void GeoGridInfo::ForEachKey(const Keys& keys) {
     keys({"LonInterval", 1, "distance of the meridians", RecordKey::Degrees},

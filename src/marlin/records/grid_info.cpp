@@ -44,6 +44,7 @@ struct GridInfo::StyleWords {
     [[nodiscard]] RecordValue Value() const { return Grid.Style; }
 };
 
+// Not in the header, so that the library alone has the table of virtual functions.
 GridInfo::~GridInfo() = default;
 
 bool GridInfo::operator==(const GridInfo& other) const noexcept {
@@ -99,6 +100,8 @@ std::string GridInfo::FormatGridStyle() const {
 void GridInfo::UnFormatGridStyle(const std::string& text) {
     Style = 0;
     const FormatString words(text, ',');
+    // Whole words count: "X_MINORTICKS" does not hold "X_TICKS". The part without a word has no
+    // bit.
     for (const auto& [bit, word, meaning] : parts) {
         if (words.HasSubString(word)) {
             Style |= bit;

@@ -58,6 +58,7 @@ std::string LineInfo::ToString() const {
 void LineInfo::FromString(const std::string& text) {
     *this = LineInfo();
     const CMarlinString items = SplitPen(text);
+    // So short a text is no line, and its first items may mean something else.
     if (items.Size() < FewestPenItems) {
         return;
     }
@@ -67,6 +68,7 @@ void LineInfo::FromString(const std::string& text) {
     items.GetItem(4, m_Enable);
 }
 
+// The exact color comes after the palette index, so that it wins in a file that has both.
 template <class Keys>
 void LineInfo::ForEachKey(const Keys& keys) {
     keys({"LineColor", 3, "color"}, PaletteIndex(m_Color));

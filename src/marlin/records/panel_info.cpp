@@ -8,6 +8,7 @@ using namespace MARLINSUITE::detail;
 
 namespace {
 
+// The comparison with a tolerance takes doubles, which hold every float.
 bool Equal(float a, float b) noexcept {
     return MATH::Equal(static_cast<double>(a), static_cast<double>(b));
 }
@@ -40,6 +41,7 @@ struct Anchor {
 
 }  // namespace
 
+// Not in the header, so that the library alone has the table of virtual functions.
 PanelInfo::~PanelInfo() = default;
 
 bool PanelInfo::operator==(const PanelInfo& other) const noexcept {

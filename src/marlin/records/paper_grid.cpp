@@ -11,6 +11,7 @@ using namespace MARLINSUITE::detail;
 namespace {
 
 double SetStep(double step) noexcept {
+    // In this order a step that is not a number becomes 1, too.
     return std::max(1.0, std::fabs(step));
 }
 
@@ -18,6 +19,7 @@ double Snap(double position, double step, double origin) noexcept {
     if (step == 0.0) {
         return position;
     }
+    // Rounding the distance without its sign takes halves away from the origin on either side.
     const double distance = position - origin;
     const double steps = std::floor(std::fabs(distance) / step + 0.5);
     const double sign = distance >= 0.0 ? 1.0 : -1.0;
@@ -46,6 +48,7 @@ PaperGrid::PaperGrid(double xStep, double yStep, const GTL::Point2D<float>& orig
       m_SnapOn(snapOn),
       m_Visible(visible) {}
 
+// Not in the header, so that the library alone has the table of virtual functions.
 PaperGrid::~PaperGrid() = default;
 
 GTL::Point2D<double> PaperGrid::SnapToGrid(const GTL::Point2D<double>& point) const noexcept {

@@ -69,6 +69,7 @@ bool IsKnown(TextInfo::JUSTIFICATION justification) noexcept {
     return static_cast<std::size_t>(justification) < CodesOf.size();
 }
 
+// Any other value counts as the left end of the baseline, and as the top left of an MTEXT.
 Codes Find(TextInfo::JUSTIFICATION justification) noexcept {
     return IsKnown(justification) ? CodesOf[static_cast<std::size_t>(justification)]
                                   : Codes{24, 0, 0, 1, justification};
@@ -80,6 +81,7 @@ void TextInfo::SetFont(const std::string& font) {
     m_Font = font.empty() ? "Arial" : font;
 }
 
+// A font depends on these three fields alone, so texts that differ elsewhere share one.
 bool TextInfo::operator<(const TextInfo& other) const noexcept {
     // Styles of one font are the most frequent, and equal bytes are found much faster.
     const int order =
@@ -169,6 +171,7 @@ void TextInfo::ForEachItem(Items& items) {
     items({"", 7, "width of the box of a text of several lines", RecordKey::Plot}, m_RectWidth);
     items({"", 8, "several lines"}, m_MultiLine);
     items({"", 9, "annotation code"}, Choice(m_Annotation, ANNOTATION_3));
+    // Readers of nine items do not see the exact color, which therefore comes last.
     items({"", 5, "color"}, m_Color);
 }
 
@@ -184,6 +187,7 @@ std::string TextInfo::ToString() const {
 }
 
 void TextInfo::FromString(const std::string& text) {
+    // A record that extends this one resets its own fields itself.
     TextInfo::operator=(TextInfo());
     FromString(FormatString(text, ','));
 }

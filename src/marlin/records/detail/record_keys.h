@@ -11,6 +11,9 @@
 /// What walks over the keys of a record. A record hands each of its keys with the field for it
 /// to one of these classes, so that reading, writing and describing follow a single list.
 ///
+/// Writing and describing walk over a copy of the record, since the list hands out fields that a
+/// reader may change.
+///
 /// A field is a value that a settings key takes by itself, or an object that says how its value
 /// is kept: with `Read(const SectionKey&)`, `Write(SectionKey&) const` and `Value() const`.
 namespace MARLINSUITE::detail {
@@ -41,7 +44,7 @@ RecordValue ValueOf(const Field& field) {
 
 class KeyReader {
 public:
-    /// The start is empty, or a prefix with its ".". Both must outlive the reader.
+    /// The start is empty, or a prefix with its ".". The section must outlive the reader.
     explicit KeyReader(const Section& section, std::string start = "")
         : m_Section(section), m_Start(std::move(start)) {}
 
@@ -60,7 +63,8 @@ private:
     std::string m_Start;
 };
 
-/// Appends each key, whether or not the section has one of that name.
+/// Appends each key, whether or not the section has one of that name. For records with a section of
+/// their own: a host that writes one again empties the section first.
 class KeyAppender {
 public:
     explicit KeyAppender(Section& section) : m_Section(section) {}
@@ -76,7 +80,8 @@ private:
     Section& m_Section;
 };
 
-/// Writes each key in the place of the first one of that name, or at the end.
+/// Writes each key in the place of the first one of that name, or at the end. For records that
+/// share a section with others.
 class KeyReplacer {
 public:
     explicit KeyReplacer(Section& section, std::string start = "")

@@ -28,7 +28,7 @@ TEST(GDIMapper, FitsTheAreaIntoTheRectangleAndComesBackToMiddlesOfPixels) {
         CPoint Pixel;
         Point Back;
     };
-    // Back stands half a unit right of the pixel's left edge, and half a unit below its lower one.
+    // Back is half a unit right of the pixel's left edge, and half a unit below its lower one.
     const Case cases[] = {
         {"centre", {0, 0}, {100, 50}, {0, 0, 200, 200}, {50, 25}, {100, 100}, {50.25, 24.75}},
         {"left edge", {0, 0}, {100, 50}, {0, 0, 200, 200}, {0, 25}, {0, 100}, {0.25, 24.75}},

@@ -26,7 +26,7 @@ CPoint Mapped(HDC dc, POINT p) {
     return p;
 }
 
-// Whatever a case makes, it leaves nothing behind but the fixture's own context.
+// A case deletes all that it makes; only the fixture's own context is left.
 class DeviceContext : public testing::Test {
 protected:
     void TearDown() override { EXPECT_EQ(PLATFORM::LiveDrawingObjects(), m_Live); }
@@ -219,18 +219,22 @@ TEST_F(DeviceContext, ObjectsHaveHandlesOfTheirOwnUntilThereAreTooMany) {
     }
 }
 
-TEST_F(DeviceContext, ThreadsThatEndLeaveRoomForOthers) {
-    for (int round = 0; round < 50; ++round) {
-        std::vector<std::jthread> threads;
-        for (int i = 0; i < 4; ++i) {
-            threads.emplace_back([] {
-                for (int k = 0; k < 50; ++k) {
-                    HFONT font = Sans();
-                    EXPECT_NE(SelectObject(CClientDC(nullptr), font), nullptr);
-                    EXPECT_NE(DeleteObject(font), 0);
-                }
-            });
-        }
+TEST_F(DeviceContext, ThreadsMakeAndDeleteObjectsAtATimeAndShareTheStockObjects) {
+    std::vector<std::jthread> threads;
+    for (int i = 0; i < 4; ++i) {
+        threads.emplace_back([] {
+            for (int k = 0; k < 500; ++k) {
+                HFONT font = Sans();
+                CDC dc;
+                dc.CreateCompatibleDC(nullptr);
+                EXPECT_EQ(SelectObject(dc, font), GetStockObject(SYSTEM_FONT));
+                CBitmap bitmap;
+                bitmap.CreateCompatibleBitmap(&dc, 2, 2);
+                CBitmap* const empty = dc.SelectObject(&bitmap);
+                EXPECT_EQ(dc.SelectObject(empty), &bitmap);
+                EXPECT_NE(DeleteObject(font), 0);
+            }
+        });
     }
 }
 

@@ -25,7 +25,7 @@ FontMatch FaceOf(const char* name) {
     return match;
 }
 
-// At most one font, from a folder which also takes what is noted about it, for the lifetime of a
+// At most one font file, in a folder that also has the notes about it, for the lifetime of a
 // scope.
 class FolderFonts {
 public:
@@ -51,7 +51,7 @@ private:
     TemporaryFolder m_Folder;
 };
 
-// All that a font that cannot be measured must refuse, targets unchanged.
+// A font that cannot be measured refuses all calls and leaves their targets unchanged.
 void ExpectNothing(MeasuredFont&& font) {
     EXPECT_EQ(font.Extent("Depth"), CSize(-1, -1));
     OUTLINETEXTMETRICA metrics;
@@ -135,6 +135,55 @@ TEST(FontFaults, ABitmapFontIsNotMeasured) {
     EXPECT_TRUE(FontCatalog::Families().empty());
 }
 
+// Appends the number as four bytes, the high one first.
+void AppendLong(std::string& bytes, std::size_t number) {
+    for (const unsigned int shift : {24U, 16U, 8U, 0U}) {
+        bytes += static_cast<char>(number >> shift & 0xFFU);
+    }
+}
+
+std::size_t LongAt(const std::string& bytes, std::size_t at) {
+    std::size_t number = 0;
+    for (std::size_t i = at; i < at + 4; ++i) {
+        number = number << 8U | static_cast<unsigned char>(bytes[i]);
+    }
+    return number;
+}
+
+// One file of two fonts: a header, then the fonts, whose tables are further on by as much.
+std::string CollectionOf(const std::string& first, const std::string& second) {
+    std::string file("ttcf\0\1\0\0", 8);
+    AppendLong(file, 2);
+    AppendLong(file, 20);
+    AppendLong(file, 20 + first.size());
+    for (std::string font : {first, second}) {
+        const auto tables = static_cast<std::size_t>(static_cast<unsigned char>(font[5]));
+        for (std::size_t place = 12 + 8; place < 12 + 16 * tables; place += 16) {
+            std::string moved;
+            AppendLong(moved, LongAt(font, place) + file.size());
+            font.replace(place, 4, moved);
+        }
+        file += font;
+    }
+    return file;
+}
+
+TEST(FontCatalog, ReadsAFileOnceForAllItsFaces) {
+    FontMatch bold;
+    ASSERT_TRUE(FontCatalog::Find("Liberation Sans", 700, false, bold));
+    const CSize light = MeasuredFont("Liberation Sans", 100).Extent("Depth");
+    const CSize heavy = MeasuredFont("Liberation Sans", 100, 700).Extent("Depth");
+    const FolderFonts folder(CollectionOf(TemporaryFolder::Read(FaceOf("Liberation Sans").Path),
+                                          TemporaryFolder::Read(bold.Path)));
+    const std::size_t opens = FontCatalog::Costs().FileOpens;
+    EXPECT_EQ(MeasuredFont("Liberation Sans", 100, 700).Extent("Depth"), heavy);
+    EXPECT_EQ(MeasuredFont("Liberation Sans", 100).Extent("Depth"), light);
+    EXPECT_NE(light.cx, heavy.cx);
+    EXPECT_EQ(FontCatalog::Costs().FileOpens, opens + 1);
+    ASSERT_TRUE(FontCatalog::Find("Liberation Sans", 700, false, bold));
+    EXPECT_EQ(bold.Index, 1);
+}
+
 class FontEnumeration : public testing::Test {
 protected:
     static int Note(const LOGFONTA* font, const TEXTMETRICA*, unsigned long type, long argument) {
@@ -157,7 +206,7 @@ protected:
     const long m_Argument = reinterpret_cast<long>(this);
 };
 
-TEST_F(FontEnumeration, TellsEachFamilyOnceInOrderAndOpensNoFile) {
+TEST_F(FontEnumeration, NamesEachFamilyOnceInOrderAndOpensNoFile) {
     const std::size_t opens = FontCatalog::Costs().FileOpens;
     EXPECT_EQ(Enumerate(""), 1);
     EXPECT_EQ(FontCatalog::Costs().FileOpens, opens);
@@ -170,7 +219,7 @@ TEST_F(FontEnumeration, TellsEachFamilyOnceInOrderAndOpensNoFile) {
     EXPECT_TRUE(std::ranges::includes(FontCatalog::Families(), m_Faces, before));
 }
 
-TEST_F(FontEnumeration, TellsTheStylesOfOneFamilyUntilTheCallEndsIt) {
+TEST_F(FontEnumeration, NamesTheStylesOfOneFamilyUntilTheCallEndsIt) {
     EXPECT_EQ(Enumerate("No Such Face"), 1);
     EXPECT_EQ(Enumerate("liberation sans"), 1);
     EXPECT_EQ(m_Styles, (decltype(m_Styles){{400, 0}, {400, 1}, {700, 0}, {700, 1}}));
@@ -182,7 +231,7 @@ TEST_F(FontEnumeration, TellsTheStylesOfOneFamilyUntilTheCallEndsIt) {
     EXPECT_EQ(m_Faces.size(), 6U);
 }
 
-TEST(FontCatalog, SaysWhichFaceStandsForAnother) {
+TEST(FontCatalog, NamesTheSubstituteOfAnUnknownFace) {
     EXPECT_FALSE(FaceOf("liberation SANS").Substituted);
     EXPECT_EQ(FaceOf("liberation SANS").Family, "Liberation Sans");
     EXPECT_TRUE(FaceOf("No Such Face At All").Substituted);

@@ -86,7 +86,7 @@ TEST_P(FontOfFace, MeasuresTheSumOfTheAdvances) {
             EXPECT_EQ(Font(height).Extent(text), expected) << text << " at " << height;
         }
     }
-    // Bytes stand for the characters of Windows-1252, and 0 for none.
+    // Bytes are characters of Windows-1252, and 0 is none.
     for (const auto& [byte, character] :
          {std::pair{'\x80', 0x20ACU}, {'\xFF', 0xFFU}, {'\0', 0xFFFFU}}) {
         const int width = Scaled(m_Tables.Advance(character), 100000, m_Cell);
@@ -94,7 +94,7 @@ TEST_P(FontOfFace, MeasuresTheSumOfTheAdvances) {
     }
 }
 
-TEST_P(FontOfFace, TellsTheMetricsOfItsCell) {
+TEST_P(FontOfFace, HasTheMetricsOfItsCell) {
     const FontTables& t = m_Tables;
     for (const int h : {100, 423, 2500, 30000}) {
         const OUTLINETEXTMETRICA otm = Font(h).Metrics();
@@ -122,7 +122,7 @@ TEST_P(FontOfFace, TakesANegativeHeightForThatOfTheEmSquare) {
 
 INSTANTIATE_TEST_SUITE_P(Installed, FontOfFace, testing::ValuesIn(Faces));
 
-TEST(TextOutline, HasTheBoxesThatTheFontTellsByTheirAdvances) {
+TEST(TextOutline, PutsTheBoxesOfTheFontsGlyphsAtTheirAdvances) {
     const FontTables tables(MatchOf(Faces[0]).Path);
     for (const char c : {'H', 'o', 'g', '8', 'E'}) {
         const auto character = static_cast<unsigned char>(c);
@@ -139,7 +139,7 @@ TEST(TextOutline, HasTheBoxesThatTheFontTellsByTheirAdvances) {
     EXPECT_NEAR(text.Advance * text.Scale, width, 0.5);
     EXPECT_NEAR((text.Ascent + text.Descent) * text.Scale, 2500, 1e-9);
     EXPECT_TRUE(OutlineOf("   ").Steps.empty());
-    // The outside and two holes begin with a move each.
+    // The outside and two holes, a move each.
     const std::vector<OutlineStep> steps = OutlineOf("B").Steps;
     EXPECT_EQ(steps.front().Kind, OutlineStep::MOVE);
     EXPECT_EQ(std::ranges::count(steps, OutlineStep::MOVE, &OutlineStep::Kind), 3);

@@ -42,7 +42,7 @@ struct Surface {
         DC.SetTextColor(0xFFFFFF);
         DC.SetBkMode(TRANSPARENT);
     }
-    // Paints a text and gives the smallest rectangle around all pixels that are not black.
+    // Paints a text and returns the smallest rectangle around all pixels that are not black.
     CRect Painted(int x, int y, const CString& text) {
         EXPECT_TRUE(DC.TextOut(x, y, text));
         CRect box(Width, Height, 0, 0);
@@ -175,7 +175,7 @@ TEST(TextPainting, LongTextsArePaintedToTheirEnd) {
     Surface surface(8000, 60);
     const CString text('m', 300);
     ASSERT_LT(surface.DC.GetTextExtent(text).cx, 15000);
-    // The end of the text stands at the end of the surface, its start far off it.
+    // The text ends at the right edge of the surface and starts far to the left of it.
     surface.DC.SetTextAlign(TA_RIGHT);
     const CRect painted = surface.Painted(8000, 5, text);
     EXPECT_EQ(painted.left, 0);

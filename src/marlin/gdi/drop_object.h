@@ -4,8 +4,15 @@
 #include <marlin/core/export.h>
 #include <marlin/platform/text/c_string.h>
 
-/// What is dragged from one window of the host to another: a kind, whose meaning is the host's,
-/// and a text. Empty at first: `NO_OBJECT` without a text.
+/// An object that is dragged from one window of a host to another: a kind, which has a meaning for
+/// the host alone, and a text. Empty at first: `NO_OBJECT` without a text.
+/// @code
+/// const DropObject dragged(DropObject::OBJECT_2, "survey.cdf");
+/// assert(dragged.ToString() == "2,survey.cdf");
+/// DropObject dropped;
+/// dropped.FromString(dragged.ToString());
+/// assert(dropped.Type() == DropObject::OBJECT_2);
+/// @endcode
 class MARLIN_API DropObject {
 public:
     enum TYPE : int {
@@ -16,16 +23,16 @@ public:
     };
 
     DropObject() = default;
-    /// Both are stored unchecked.
+    /// Any kind and any text are stored.
     DropObject(TYPE type, const CString& data) : m_Type(type), m_Data(data) {}
 
     [[nodiscard]] TYPE Type() const noexcept { return m_Type; }
     [[nodiscard]] const CString& Data() const noexcept { return m_Data; }
 
-    /// The kind as a number, a "," and the text.
+    /// The number of the kind, a "," and the text.
     [[nodiscard]] CString ToString() const;
-    /// Takes the leading number, 1 to 3, and what follows the first ",". Any other text, also
-    /// one whose only "," ends it, makes the object empty.
+    /// Reads a number from 1 to 3 and the text after the first ",". A text without them makes the
+    /// object empty, and so does an empty text after the ",".
     void FromString(const CString& text);
 
 private:

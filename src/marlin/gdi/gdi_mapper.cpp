@@ -5,7 +5,7 @@
 
 namespace {
 
-// Conversion towards 0 that is defined for every value.
+// A plain conversion is undefined for values that do not fit, and hosts draw far off their windows.
 int Truncate(double value) noexcept {
     using Limits = std::numeric_limits<int>;
     if (!(value > Limits::min())) {
@@ -14,7 +14,7 @@ int Truncate(double value) noexcept {
     return value < Limits::max() ? static_cast<int>(value) : Limits::max();
 }
 
-// In 64 bits, where nothing overflows, and back to the 32 of the device.
+// Differences of device coordinates are taken in 64 bits, where they cannot overflow.
 int Cut(long long value) noexcept {
     return Truncate(static_cast<double>(value));
 }
@@ -42,6 +42,8 @@ void GDIMapper::Create(const GTL::Extents2D<double>& area, const CRect& device) 
 }
 
 CPoint GDIMapper::operator<<(const GTL::Point2D<double>& p) const noexcept {
+    // The area's own height turns y round, so a rectangle below 0 moves the picture up: part of the
+    // contract.
     const long long fromTop = Truncate((p.y - m_WorldCenterY) / m_Scale + m_DeviceCenterY);
     return {Truncate((p.x - m_WorldCenterX) / m_Scale + m_DeviceCenterX),
             Cut(m_DeviceHeight - fromTop)};

@@ -6,22 +6,31 @@
 #include <marlin/platform/drawing/rect.h>
 
 /// Maps a world area, y upwards, onto a device rectangle, y downwards, and back. The whole area
-/// fits into the rectangle with its aspect ratio kept and its centre on the rectangle's, where
-/// the rectangle's top is 0; a top of t puts it 2t above. Made empty, with scale 0; conversions
-/// mean something after `Create` with an area and a rectangle that are not empty.
+/// fits into the rectangle and keeps its aspect ratio. Its centre is on the rectangle's centre when
+/// the rectangle's top is 0, and 2t above it for a top of t. Made empty, with scale 0; conversions
+/// have a meaning after `Create` with an area and a rectangle that are not empty.
+/// @code
+/// GTL::Extents2D<double> area;
+/// area.Update({0, 0});
+/// area.Update({100, 50});
+/// GDIMapper mapper;
+/// mapper.Create(area, CRect(0, 0, 200, 200));
+/// assert((mapper << GTL::Point2D<double>(50, 25)) == CPoint(100, 100));
+/// assert(mapper.PixelDist(1.2) == 2);  // half a world unit a pixel
+/// @endcode
 class MARLIN_API GDIMapper {
 public:
     void Create(const GTL::Extents2D<double>& area, const CRect& device) noexcept;
 
-    /// World to device, cut towards 0. What does not fit 32 bits becomes the nearest number that
-    /// does, what is not a number 0.
+    /// World to device, cut towards 0. A coordinate that does not fit 32 bits becomes the nearest
+    /// one that does, NaN becomes 0.
     [[nodiscard]] CPoint operator<<(const GTL::Point2D<double>& p) const noexcept;
-    /// Device to world: the middle of the pixel.
+    /// Device to world, at the middle of the pixel.
     [[nodiscard]] GTL::Point2D<double> operator<<(const CPoint& pt) const noexcept;
-    /// A world distance in device units, halves up; the scale must not be 0.
+    /// A world distance in device units, halves rounded up. The scale must not be 0.
     [[nodiscard]] int PixelDist(double distance) const noexcept;
     [[nodiscard]] double WorldDist(int distance) const noexcept { return distance * m_Scale; }
-    /// World units a device unit.
+    /// World units per device unit.
     [[nodiscard]] double GetScale() const noexcept { return m_Scale; }
 
 private:

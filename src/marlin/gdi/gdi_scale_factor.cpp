@@ -8,6 +8,7 @@
 
 GDIScaleFactor::GDIScaleFactor() noexcept {
     OSVERSIONINFOA version;
+    // Other platforms than this have 16-bit coordinates.
     if (GetVersionExA(&version) == 0 || version.dwPlatformId != VER_PLATFORM_WIN32_NT) {
         m_Factor = 20.0;
         m_MaxCoord = 32767;

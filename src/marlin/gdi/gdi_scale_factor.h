@@ -3,9 +3,13 @@
 
 #include <marlin/core/export.h>
 
-/// How many logical units make one text unit in all text measuring, and the largest device
-/// coordinate that the platform's drawing takes. Set when the library is loaded, from then on
-/// constant: 1000 and 2147483647, or 20 and 32767 on a platform with 16-bit coordinates.
+/// The number of logical units per text unit in all text measuring, and the largest device
+/// coordinate that the platform can draw. Set when the library is loaded and constant after that:
+/// 1000 and 2147483647, or 20 and 32767 on a platform with 16-bit coordinates.
+/// @code
+/// const double textUnits = 3690 / GDIScaleFactor::Get();  // a height in logical units
+/// assert(textUnits == 3.69);
+/// @endcode
 class MARLIN_API GDIScaleFactor {
 public:
     [[nodiscard]] static double Get() noexcept { return g_Factor.m_Factor; }

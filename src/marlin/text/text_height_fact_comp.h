@@ -8,21 +8,27 @@
 #include <map>
 #include <utility>
 
-/// How much larger than its visible characters a font must be asked for, and the font's outline
-/// metrics, measured once for each text style of the process: for each font name (ignoring case),
-/// size and style, in the order of `TextInfo`. Entries are only ever added. One thread at a time.
+/// Computes how much larger than its visible characters a font must be asked for, because the
+/// height of a font includes leading and descent. The factor and the font's outline metrics are
+/// measured once in the process for each font name (ignoring case), size and style, and kept for
+/// its life. One thread at a time.
+/// @code
+/// TextInfo style;  // Arial, characters 2.5 units high
+/// const float factor = TextHeightFactComp::Get()(style);
+/// const float fontHeight = style.Size() * factor;  // about 3.7 with Arial
+/// assert(factor == 0.0F || fontHeight > style.Size());
+/// @endcode
 class MARLIN_API TextHeightFactComp {
 public:
-    /// The one instance, made empty when it is first asked for.
+    /// The one instance of the process, made empty at the first call.
     [[nodiscard]] static TextHeightFactComp& Get();
 
-    /// The font's size divided by the height that is left of its cell without the descent and both
-    /// leadings. 0 for a style that cannot be measured, which is tried again the next time: one
-    /// without an outline font, or with a size that is no number, nothing in logical units or too
-    /// large for the platform.
+    /// The font's size divided by the height of its cell without the descent and both leadings. 0
+    /// for a style that cannot be measured: one without an outline font, or whose size is not a
+    /// number, 0 in logical units or too large for them. Such a style is tried again at each call.
     [[nodiscard]] float operator()(const TextInfo& ti);
-    /// Metrics of all zeros for a style that cannot be measured. The reference stays good for the
-    /// life of the process.
+    /// All zeros for a style that cannot be measured. The reference is valid as long as the
+    /// instance.
     [[nodiscard]] const OUTLINETEXTMETRICA& GetMetrics(const TextInfo& ti);
 
 private:
@@ -31,9 +37,9 @@ private:
 
     TextHeightFactComp() = default;
 
-    /// The style's measures, taken and added if there are none; null where they cannot be.
+    /// Measures the style when it is not known yet. Null when it cannot be measured.
     const Measures* Find(const TextInfo& ti);
-    /// The end where the style cannot be measured.
+    /// The end when the style cannot be measured.
     Entries::iterator AddEntry(const TextInfo& ti);
 
     Entries m_Entries;

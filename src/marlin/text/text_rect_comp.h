@@ -13,46 +13,57 @@
 #include <utility>
 #include <vector>
 
-/// Computes the area that a text occupies, as a rectangle about the text's insertion point, the
-/// origin: the point of the text box that its justification names lies there. Lengths are in the
-/// units of `TextInfo::Size()`, y points up, rotation is clockwise. A style that cannot be
-/// measured gives a rectangle of no size.
+/// Computes the area of a text as a rectangle around the origin: the point of the text box that the
+/// justification names lies at (0, 0). Lengths are in the units of `TextInfo::Size()`, y points up,
+/// rotation is clockwise. For a style that cannot be measured width and height are 0.
 ///
-/// It keeps the lines into which the text measured last was broken and the height of one of them;
-/// made new it has none, and 0. One thread at a time, and text is measured on one thread of the
-/// process at a time. A value.
+/// It keeps the lines of the text measured last, and the height of one line; at first none, and 0.
+/// A value. The process measures text on one thread at a time.
+/// @code
+/// TextInfo style;
+/// style.SetJustification(TextInfo::MIDDLE_CENTER);
+/// TextRectComp rects;
+/// const TextRectComp::Rect box = rects(style, "Wreck 1954");
+/// assert(box.points[0].x == -box.width / 2);
+/// DepthLabelInfo label(style);
+/// label.SetPresentation(DepthLabelInfo::PRESENTATION_1);
+/// label.SetPrecision(1);
+/// const auto [integers, decimals] = rects(label, 12.5);
+/// assert(integers.second == "12" && decimals.second == "5");
+/// @endcode
 class MARLIN_API TextRectComp {
 public:
     using Rect = GTL::Rectangle<GTL::Point2D<double>>;
-    /// A part of a depth label and its text.
+    /// One part of a depth label: its rectangle and its text.
     using LabelPart = std::pair<Rect, std::string>;
 
-    /// The rectangle of a text. A multi-line style breaks it at each "\P" (a backslash and a P)
-    /// and wraps what lies between to `RectWidth()`, behind spaces and hyphens, within words that
-    /// are wider. The baseline justifications lower the box of a single line by descent and
-    /// internal leading. An empty text has no size, and leaves lines and line height as they were.
+    /// The rectangle of a text. A multi-line style breaks the text at each "\P" (a backslash and a
+    /// P) and wraps the paragraphs to `RectWidth()`: after spaces and hyphens, and inside words
+    /// that are wider. The baseline justifications make the box of a single line less high, by
+    /// descent and internal leading. An empty text has no size, and leaves lines and line height
+    /// unchanged.
     [[nodiscard]] Rect operator()(const TextInfo& ti, const char* text);
     [[nodiscard]] Rect operator()(const TextInfo& ti, const std::string& text);
-    /// The same; the number is not used.
+    /// The same; the number has no effect.
     [[nodiscard]] Rect operator()(const TextInfo& ti, const char* text, double);
     [[nodiscard]] Rect operator()(const TextInfo& ti, const std::string& text, double);
 
-    /// The integer part of a depth label and its decimal part, as the label's presentation sets
-    /// them apart and its placement puts them. Presentation 0 has all in the first part and no
-    /// text in the second; a depth without a decimal point has " " there. More than
-    /// `MaxDecimals` decimals are cut to it.
+    /// The integer part and the decimal part of a depth label, separated by its presentation and
+    /// placed by its placement. In presentation 0 the first part has the whole number and the
+    /// second no text; for a depth without a decimal point the second text is " ". A precision
+    /// above `MaxDecimals` counts as that.
     [[nodiscard]] std::pair<LabelPart, LabelPart> operator()(const DepthLabelInfo& dli,
                                                              double depth);
 
-    /// More than any depth has.
+    /// As many decimals as the smallest double has.
     static constexpr int MaxDecimals = 1074;
 
     [[nodiscard]] int GetNumberOfSubStrings() const noexcept {
         return static_cast<int>(m_Lines.size());
     }
-    /// A line of the text measured last; false, and `out` unchanged, for an index outside the list.
+    /// A line of the text measured last. False, and `out` unchanged, for an index outside the list.
     bool GetSubString(int i, std::string& out) const;
-    /// The line, or an empty one for an index outside the list.
+    /// The same line; an empty text for an index outside the list.
     [[nodiscard]] std::string GetSubString(int i) const;
     /// The height of one line.
     [[nodiscard]] double GetTextHeight() const noexcept { return m_LineHeight; }
@@ -60,7 +71,7 @@ public:
 private:
     using Extents = GTL::Vector2D<double>;
 
-    /// Width and height; `small` measures a single line at two thirds of the size.
+    /// Width and height; `small` measures a single line in two thirds of the size.
     Extents GetTextExtents(const TextInfo& ti, std::string_view text, bool small);
     Extents GetLineExtents(const TextInfo& ti, std::string_view text);
     Extents GetMTextExtents(const TextInfo& ti, std::string_view text);

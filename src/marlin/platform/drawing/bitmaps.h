@@ -4,7 +4,7 @@
 #include <marlin/core/export.h>
 #include <marlin/platform/drawing/handles.h>
 
-/// What `GetObjectA` tells of a bitmap.
+/// A bitmap as `GetObjectA` describes it.
 struct BITMAP {
     int bmType = 0;
     int bmWidth = 0;
@@ -15,18 +15,17 @@ struct BITMAP {
     void* bmBits = nullptr;
 };
 
-/// A bitmap of black 32-bit pixels, deleted by `DeleteObject`. Null for a wrong context, a side
-/// outside 1 to 32767, more than 2^26 pixels or want of memory.
+/// Makes a bitmap of black 32-bit pixels, to be deleted by `DeleteObject`. Returns null for a wrong
+/// context, a side outside 1 to 32767, more than 2^26 pixels or too little memory.
 [[nodiscard]] MARLIN_API HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height);
-/// Fills a `BITMAP`, whose size `size` must be at least. Returns that size; 0, and nothing
-/// filled, for a handle of no bitmap.
+/// Fills a `BITMAP` and returns its size. Returns 0, and fills nothing, when `size` is smaller or
+/// the handle is not that of a bitmap.
 MARLIN_API int GetObjectA(HGDIOBJ handle, int size, void* object) noexcept;
-/// Copies up to `count` bytes of pixels, rows from the top, each pixel as blue, green, red and
-/// an unused 0. Returns how many; 0 for a wrong handle.
+/// Copies up to `count` bytes of pixels, rows from the top, each pixel as blue, green, red and an
+/// unused 0. Returns how many bytes; 0 for a wrong handle.
 MARLIN_API int GetBitmapBits(HBITMAP handle, int count, void* bits) noexcept;
 
-/// The color of a pixel, in logical coordinates; CLR_INVALID off the surface or for a wrong
-/// context.
+/// The color at logical coordinates; CLR_INVALID off the surface or for a wrong context.
 [[nodiscard]] MARLIN_API COLORREF GetPixel(HDC dc, int x, int y) noexcept;
-/// Returns the color set; CLR_INVALID where there is no such pixel.
+/// Returns the color that was set; CLR_INVALID where there is no such pixel.
 MARLIN_API COLORREF SetPixel(HDC dc, int x, int y, COLORREF color) noexcept;

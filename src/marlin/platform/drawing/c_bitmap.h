@@ -6,18 +6,18 @@
 
 class CDC;
 
-/// A surface of 32-bit pixels, painted through the memory context it is selected into.
+/// A surface of 32-bit pixels, painted through the memory context that it is selected into.
 class MARLIN_API CBitmap : public CGdiObject {
 public:
     CBitmap() noexcept = default;
 
-    /// Null for a handle that names no bitmap.
+    /// Null when the handle is not that of a bitmap.
     [[nodiscard]] static CBitmap* FromHandle(HBITMAP handle) noexcept;
     [[nodiscard]] operator HBITMAP() const noexcept;
 
     /// Black pixels; false for a size that `::CreateCompatibleBitmap` refuses.
     bool CreateCompatibleBitmap(CDC* dc, int width, int height);
-    /// Tells the size; 0, and the target unchanged, without a bitmap.
+    /// Returns 0, and leaves the target as it was, without a bitmap.
     int GetBitmap(BITMAP* bitmap) const noexcept;
     /// As `::GetBitmapBits`.
     unsigned long GetBitmapBits(unsigned long count, void* bits) const noexcept;

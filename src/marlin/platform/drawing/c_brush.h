@@ -9,7 +9,7 @@ public:
     CBrush() noexcept = default;
     explicit CBrush(COLORREF color) { CreateSolidBrush(color); }
 
-    /// Null for a handle that names no brush.
+    /// Null when the handle is not that of a brush.
     [[nodiscard]] static CBrush* FromHandle(HBRUSH handle) noexcept;
     [[nodiscard]] operator HBRUSH() const noexcept;
 

@@ -5,7 +5,7 @@
 
 class CWnd;
 
-/// The context of a window's inside: one of the display, for every window and for none.
+/// The context of the inside of a window. It is one of the display, whatever the window.
 class MARLIN_API CClientDC : public CDC {
 public:
     explicit CClientDC(CWnd* window);

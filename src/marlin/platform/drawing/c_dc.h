@@ -13,11 +13,22 @@ class CFont;
 class CGdiObject;
 
 /// Wraps a device context and owns it: destruction ends the context, unless it was detached. Made
-/// empty. Operations are those of the free functions of the same names; without a context they
-/// give their failure results. Wrappers that `FromHandle` makes up own nothing.
+/// empty. The operations are the free functions of the same names; without a context they return
+/// their failure results. A wrapper from `FromHandle` owns nothing.
+/// @code
+/// CBitmap bitmap;  // before the context, which then ends first
+/// CBrush red(0x0000FF);
+/// CDC dc;
+/// dc.CreateCompatibleDC(nullptr);
+/// bitmap.CreateCompatibleBitmap(&dc, 64, 32);
+/// dc.SelectObject(&bitmap);
+/// dc.FillRect(CRect(0, 0, 64, 32), &red);
+/// dc.TextOut(4, 4, "12.5");
+/// assert(dc.GetPixel(63, 31) == 0x0000FF);
+/// @endcode
 class MARLIN_API CDC {
 public:
-    /// Where output goes, and what is asked for attributes; here always the same context.
+    /// The context for output and the one for queries; here always the same.
     HDC m_hDC = nullptr;
     HDC m_hAttribDC = nullptr;
 
@@ -26,8 +37,8 @@ public:
     CDC& operator=(const CDC&) = delete;
     virtual ~CDC();
 
-    /// The wrapper that the handle is attached to, or one made up for it that lives as long as
-    /// the context; null for a handle of no context.
+    /// The wrapper that the handle is attached to, or else one that lives as long as the context;
+    /// null when the handle is not that of a context.
     [[nodiscard]] static CDC* FromHandle(HDC handle) noexcept;
     [[nodiscard]] HDC GetSafeHdc() const noexcept;
     [[nodiscard]] operator HDC() const noexcept { return GetSafeHdc(); }
@@ -36,13 +47,13 @@ public:
     HDC Detach() noexcept;
     bool CreateDCA(const char* driver, const char* device, const char* output,
                    const void* initData);
-    /// Null stands for the display.
+    /// Null means the display.
     bool CreateCompatibleDC(CDC* dc);
     bool DeleteDC() noexcept;
 
     [[nodiscard]] int GetDeviceCaps(int index) const noexcept;
 
-    /// Selects the object of a handle into the context of a handle; the object before, or null.
+    /// Selects by handles. Returns the object that was selected before, or null on failure.
     static CGdiObject* SelectGdiObject(HDC dc, HGDIOBJ object);
     virtual CGdiObject* SelectStockObject(int index);
     CFont* SelectObject(CFont* font);

@@ -16,20 +16,21 @@
                                        const void* initData);
 /// A memory context like the given one; null means the display.
 [[nodiscard]] MARLIN_API HDC CreateCompatibleDC(HDC dc);
-/// Ends the context; objects selected into it are free again.
+/// Ends the context and lets go of its bitmap, which can then be deleted or selected elsewhere.
 MARLIN_API BOOL DeleteDC(HDC dc) noexcept;
 
 /// The display has 1920 by 1080 pixels of 32 bits at 96 dots an inch; 0 for an unknown index.
 [[nodiscard]] MARLIN_API int GetDeviceCaps(HDC dc, int index) noexcept;
 
-/// Selects a font, brush or bitmap and returns the one before it. Null, and nothing changed,
-/// for a wrong or null handle, a bitmap for the display or one that another context holds.
-/// Memory contexts begin with a bitmap without pixels; selecting it again lets a bitmap go.
+/// Selects a font, brush or bitmap and returns the one before. Returns null, and changes nothing,
+/// for a wrong or null handle, for a bitmap that another context holds, and for any bitmap in a
+/// context of the display. A new memory context has a bitmap without pixels; to let go of another
+/// one, select it again.
 MARLIN_API HGDIOBJ SelectObject(HDC dc, HGDIOBJ object);
-/// Null for a kind that contexts do not hold.
+/// The selected object of a kind; null for a kind that contexts do not hold.
 [[nodiscard]] MARLIN_API HGDIOBJ GetCurrentObject(HDC dc, unsigned int kind);
 
-/// These return the value before; GDI_ERROR, CLR_INVALID or 0 for a wrong handle.
+/// Each returns the value before; GDI_ERROR, CLR_INVALID, CLR_INVALID and 0 for a wrong handle.
 MARLIN_API unsigned int SetTextAlign(HDC dc, unsigned int alignment) noexcept;
 MARLIN_API COLORREF SetTextColor(HDC dc, COLORREF color) noexcept;
 MARLIN_API COLORREF SetBkColor(HDC dc, COLORREF color) noexcept;

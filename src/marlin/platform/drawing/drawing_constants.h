@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// The framework's numbers for what the drawing calls take and give.
+// The framework's numbers for the arguments and results of the drawing calls.
 
 /// Mapping modes: the unit of logical coordinates, and y up for all but MM_TEXT.
 inline constexpr int MM_TEXT = 1;
@@ -13,7 +13,7 @@ inline constexpr int MM_TWIPS = 6;
 inline constexpr int MM_ISOTROPIC = 7;
 inline constexpr int MM_ANISOTROPIC = 8;
 
-/// What `GetDeviceCaps` tells.
+/// Indices for `GetDeviceCaps`.
 inline constexpr int TECHNOLOGY = 2;
 inline constexpr int HORZSIZE = 4;  // millimetres
 inline constexpr int VERTSIZE = 6;
@@ -26,7 +26,7 @@ inline constexpr int LOGPIXELSX = 88;  // pixels an inch
 inline constexpr int LOGPIXELSY = 90;
 inline constexpr int DT_RASDISPLAY = 1;
 
-/// Objects that are always there.
+/// Stock objects, for `GetStockObject`.
 inline constexpr int WHITE_BRUSH = 0;
 inline constexpr int LTGRAY_BRUSH = 1;
 inline constexpr int GRAY_BRUSH = 2;
@@ -46,7 +46,8 @@ inline constexpr unsigned int OBJ_BRUSH = 2;
 inline constexpr unsigned int OBJ_FONT = 6;
 inline constexpr unsigned int OBJ_BITMAP = 7;
 
-/// Where a text stands to its reference point: one of each row, combined.
+/// The point of a text that is put on its position: one of the first three combined with one of
+/// the others.
 inline constexpr unsigned int TA_LEFT = 0;
 inline constexpr unsigned int TA_RIGHT = 2;
 inline constexpr unsigned int TA_CENTER = 6;
@@ -55,7 +56,7 @@ inline constexpr unsigned int TA_BOTTOM = 8;
 inline constexpr unsigned int TA_BASELINE = 24;
 inline constexpr unsigned int GDI_ERROR = 0xFFFFFFFF;
 
-/// Whether a text paints the cell behind it.
+/// Background modes: text painted alone, or on its cell in the background color.
 inline constexpr int TRANSPARENT = 1;
 inline constexpr int OPAQUE = 2;
 
@@ -75,6 +76,6 @@ inline constexpr unsigned int DEFAULT_QUALITY = 0;
 inline constexpr unsigned int PROOF_QUALITY = 2;
 inline constexpr unsigned int DEFAULT_PITCH = 0;
 
-/// Kinds of fonts that an enumeration tells.
+/// Kinds of fonts in an enumeration.
 inline constexpr unsigned long RASTER_FONTTYPE = 1;
 inline constexpr unsigned long TRUETYPE_FONTTYPE = 4;

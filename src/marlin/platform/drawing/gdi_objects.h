@@ -7,19 +7,19 @@
 #include <cstddef>
 
 /// Deletes a font, brush or bitmap. Returns 0 for a wrong handle and for a bitmap that a context
-/// holds; 1 else. Stock objects stay. A font or brush deleted while selected leaves its context
-/// with none.
+/// holds, else 1, also for a stock object, which stays. A context whose font or brush is deleted
+/// has none.
 MARLIN_API BOOL DeleteObject(HGDIOBJ handle) noexcept;
 
-/// A brush or font that is always there, the same one at each call; null for other numbers.
+/// A brush or font of the platform, the same one at each call; null for an unknown number.
 [[nodiscard]] MARLIN_API HGDIOBJ GetStockObject(int index);
 
 [[nodiscard]] MARLIN_API HBRUSH CreateSolidBrush(COLORREF color);
 
 namespace PLATFORM {
 
-/// How many contexts, fonts, brushes and bitmaps of the process are made and not yet deleted,
-/// stock objects aside. For finding leaks: it walks all objects.
+/// Counts the contexts, fonts, brushes and bitmaps that the process has made and not yet deleted,
+/// without stock objects. Meant for finding leaks: it looks at all objects.
 [[nodiscard]] MARLIN_API std::size_t LiveDrawingObjects();
 
 }  // namespace PLATFORM

@@ -11,5 +11,5 @@
 /// Fills the rectangle, given in logical coordinates in any order of its edges. A hollow brush
 /// paints nothing.
 MARLIN_API int FillRect(HDC dc, const RECT* rect, HBRUSH brush) noexcept;
-/// Paints the rectangle's edge, one logical unit wide, within it.
+/// Paints the edge of the rectangle, one logical unit wide, inside it.
 MARLIN_API int FrameRect(HDC dc, const RECT* rect, HBRUSH brush) noexcept;

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// A position in device units, 32 bits a coordinate.
+/// A position in device or logical units.
 struct POINT {
     int x = 0;
     int y = 0;
 };
 
-/// The framework's own point over `POINT`. Default (0, 0).
+/// A `POINT` with constructors and comparison. Default (0, 0).
 class CPoint : public POINT {
 public:
     constexpr CPoint() noexcept = default;

@@ -4,7 +4,7 @@
 #include <marlin/platform/drawing/point.h>
 #include <marlin/platform/drawing/size.h>
 
-/// A rectangle of device or logical units; the right and bottom edges lie outside it.
+/// A rectangle in device or logical units; the right and bottom edges are not part of it.
 struct RECT {
     int left = 0;
     int top = 0;
@@ -12,8 +12,8 @@ struct RECT {
     int bottom = 0;
 };
 
-/// The framework's own rectangle over `RECT`. Default all 0; corners are kept as given, so a
-/// rectangle may be upside down and its width or height negative.
+/// A `RECT` with constructors, comparison and its sizes. Default all 0. Corners stay as they are
+/// given, so a rectangle may be upside down and its width or height negative.
 class CRect : public RECT {
 public:
     constexpr CRect() noexcept = default;

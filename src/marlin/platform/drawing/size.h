@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// A width and a height, 32 bits each.
+/// A width and a height in device or logical units.
 struct SIZE {
     int cx = 0;
     int cy = 0;
 };
 
-/// The framework's own size over `SIZE`. Default (0, 0).
+/// A `SIZE` with constructors and comparison. Default (0, 0).
 class CSize : public SIZE {
 public:
     constexpr CSize() noexcept = default;

@@ -9,7 +9,7 @@
 
 namespace PLATFORM {
 
-/// The face that stands for one that was asked.
+/// A face that was found for the name of a font.
 struct FontMatch {
     /// UTF-8, as the face itself names its family and style.
     std::string Family;
@@ -17,29 +17,37 @@ struct FontMatch {
     /// The file, and the number of the face in it.
     std::string Path;
     int Index = 0;
-    /// Whether the family has another name than the one that was asked.
+    /// True when no family of the name was found and this is a substitute.
     bool Substituted = false;
 };
 
-/// The work that finding fonts has cost so far in this process.
+/// How much work it has been to find fonts, since the process began.
 struct FontCosts {
     std::size_t FileOpens = 0;
     std::size_t Queries = 0;
 };
 
-/// Which fonts there are, and which one a name stands for. Faces found are kept for the process,
-/// so each style is looked up and each file read once.
+/// Lists the fonts that can be measured, and finds the one that a name is measured with. A face
+/// that was found is kept for the process: a name is looked up once, and a font file read once.
+/// Any thread may ask.
+/// @code
+/// PLATFORM::FontMatch match;
+/// if (PLATFORM::FontCatalog::Find("Arial", 700, false, match)) {
+///     std::string text = match.Family + ' ' + match.Style;  // such as "Liberation Sans Bold"
+///     text += match.Substituted ? " in place of Arial" : "";
+/// }
+/// @endcode
 class MARLIN_API FontCatalog {
 public:
-    /// The families that can be measured, sorted without regard to case; UTF-8.
+    /// The families with Latin letters, sorted without regard to case; UTF-8.
     [[nodiscard]] static std::vector<std::string> Families();
-    /// The face that a font of this name (Windows-1252), weight (400 normal, 700 bold) and slant
-    /// is measured with. False, and the target unchanged, when there is none.
+    /// Finds the face for a font of this name (Windows-1252), weight (400 normal, 700 bold) and
+    /// slant. Returns false, and leaves the target as it was, when there is none.
     [[nodiscard]] static bool Find(const char* faceName, int weight, bool italic, FontMatch& match);
     [[nodiscard]] static FontCosts Costs() noexcept;
 
-    /// From now on fonts come from the files in these folders alone, or again from the system.
-    /// Fonts made before keep their faces. Nothing else may use fonts meanwhile.
+    /// Takes fonts from the files in these folders alone, or from the system again. Fonts made
+    /// before keep their faces. No other thread may use fonts during the call.
     static void SetFolders(const std::vector<std::string>& folders);
     static void UseSystemFonts();
 };

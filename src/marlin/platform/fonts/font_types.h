@@ -6,7 +6,8 @@
 
 inline constexpr int LF_FACESIZE = 32;
 
-/// What is asked of a font. The face name ends with a null character, so it has at most 31.
+/// A font as it is asked for; `CreateFontA` explains the fields. The face name ends with a null
+/// character, so it has at most 31 others.
 struct LOGFONTA {
     int lfHeight = 0;
     int lfWidth = 0;
@@ -25,7 +26,7 @@ struct LOGFONTA {
 };
 static_assert(sizeof(LOGFONTA) == 60);
 
-/// The measures of a font in logical units.
+/// The measures of a font's cell, in logical units.
 struct TEXTMETRICA {
     int tmHeight = 0;
     int tmAscent = 0;
@@ -55,8 +56,9 @@ struct PANOSE {
     unsigned char bNumbers[10] = {};
 };
 
-/// The measures of an outline font, in logical units unless said otherwise. The names are offsets
-/// of texts in the buffer that the structure begins; 0 in a buffer that has no room for them.
+/// The measures of an outline font, in logical units unless said otherwise. The last four are the
+/// offsets of texts in the buffer that starts with this structure; 0 when the buffer has no room
+/// for the texts.
 struct OUTLINETEXTMETRICA {
     unsigned int otmSize = 0;
     TEXTMETRICA otmTextMetrics;

@@ -20,7 +20,7 @@ bool IsText(const char* text, int count) noexcept {
     return count >= 0 && (text || count == 0);
 }
 
-// Writes the names behind the metrics, and where each one begins into them.
+// Writes the names after the metrics, and their offsets into the metrics.
 void AppendNames(const FontFace& face, OUTLINETEXTMETRICA& otm, char* end) {
     unsigned int* const offsets[] = {&otm.otmpFamilyName, &otm.otmpFaceName, &otm.otmpStyleName,
                                      &otm.otmpFullName};

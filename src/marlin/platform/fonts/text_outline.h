@@ -8,14 +8,14 @@
 
 namespace PLATFORM {
 
-/// A point in design units of a face, y upwards; (0, 0) is the start of the text's baseline.
+/// A point in design units of a face, y upwards, from the start of the text's baseline.
 struct OutlinePoint {
     double X = 0;
     double Y = 0;
 };
 
-/// One step of a pen: it jumps to `To`, or draws there straight or by a Bezier curve of one or two
-/// control points.
+/// One step of a pen: it jumps to `To`, or draws a line or a Bezier curve of one or two control
+/// points there.
 struct OutlineStep {
     enum KIND { MOVE, LINE, CONIC, CUBIC };
     KIND Kind = MOVE;
@@ -24,11 +24,11 @@ struct OutlineStep {
     OutlinePoint Control2;
 };
 
-/// The shape of a text: closed contours to be filled by the non-zero winding rule, from the very
+/// The shape of a text: closed contours, to be filled by the non-zero winding rule, of the same
 /// face that measures the text.
 struct TextOutline {
     std::vector<OutlineStep> Steps;
-    /// The sum of advances, and the cell above and below the baseline; design units.
+    /// The width of the text, and the cell above and below its baseline; design units.
     double Advance = 0;
     double Ascent = 0;
     double Descent = 0;
@@ -36,8 +36,9 @@ struct TextOutline {
     double Scale = 0;
 };
 
-/// The outline of `count` bytes of text in the context's font, with the lines under and through
-/// it that the font asks for. False, and the target unchanged, where it cannot be measured.
+/// Takes the outline of `count` bytes of text in the context's font, with the lines under and
+/// through the text that the font has. Returns false, and leaves the target as it was, for a wrong
+/// handle, a negative count, a null text with a count above 0 or a font that cannot be measured.
 [[nodiscard]] MARLIN_API bool GetTextOutline(HDC dc, const char* text, int count,
                                              TextOutline& outline);
 

@@ -42,9 +42,10 @@ void TextWrapper::Wrap(std::string_view text) {
     }
 }
 
-void TextWrapper::Measure(std::string_view line) {
+void TextWrapper::AddLine(std::string_view line) {
     m_Last = m_Measure.Extent(line);
-    m_MaxWidth = std::max(m_MaxWidth, static_cast<int>(m_Last.cx));
+    m_MaxWidth = std::max(m_MaxWidth, m_Last.cx);
+    m_Lines.emplace_back(line);
 }
 
 void TextWrapper::WrapParagraph(std::string_view paragraph) {
@@ -52,9 +53,9 @@ void TextWrapper::WrapParagraph(std::string_view paragraph) {
     const double ratio =
         whole.cy != 0 ? static_cast<double>(m_Measure.Height()) / static_cast<double>(whole.cy)
                       : 1.0;
+    // Written so, a width that is not a number breaks nothing.
     if (!(std::ceil(m_Width / ratio) < whole.cx)) {
-        m_Lines.emplace_back(paragraph);
-        Measure(paragraph);
+        AddLine(paragraph);
         return;
     }
     m_Rest = paragraph;
@@ -62,13 +63,13 @@ void TextWrapper::WrapParagraph(std::string_view paragraph) {
     WrapWords();
     const std::string_view last = WithoutTrailingSpaces(m_Line);
     if (!last.empty()) {
-        Measure(last);
-        m_Lines.emplace_back(last);
+        AddLine(last);
     }
     m_Line.clear();
     m_LineWidth = 0;
 }
 
+// The pieces of a line are measured one by one, so their widths, each rounded, are summed up.
 void TextWrapper::WrapWords() {
     while (!m_Rest.empty()) {
         m_InBrokenWord =
@@ -99,9 +100,7 @@ void TextWrapper::BreakWord() {
 }
 
 void TextWrapper::EndLine() {
-    const std::string_view line = WithoutTrailingSpaces(m_Line);
-    Measure(line);
-    m_Lines.emplace_back(line);
+    AddLine(WithoutTrailingSpaces(m_Line));
     m_Line.clear();
     m_LineWidth = 0;
     m_Rest = WithoutLeadingSpaces(m_Rest);

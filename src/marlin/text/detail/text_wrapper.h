@@ -9,8 +9,8 @@
 
 namespace MARLINSUITE::detail {
 
-/// Breaks a text into lines of a width, in logical units: at each "\P", behind spaces and hyphens,
-/// and inside words that are wider than a line.
+/// Breaks a text into lines of at most a width, in logical units: at each "\P", after spaces and
+/// hyphens, and inside words that are wider than a line. Serves one text.
 class TextWrapper {
 public:
     TextWrapper(const TextMeasure& measure, double width, std::vector<std::string>& lines)
@@ -20,7 +20,7 @@ public:
     void Wrap(std::string_view text);
 
     [[nodiscard]] int MaxWidth() const noexcept { return m_MaxWidth; }
-    /// Of the line that was measured last.
+    /// The height of the line that was measured last.
     [[nodiscard]] int LineHeight() const noexcept { return m_Last.cy; }
 
 private:
@@ -28,7 +28,7 @@ private:
     void WrapWords();
     void BreakWord();
     void EndLine();
-    void Measure(std::string_view line);
+    void AddLine(std::string_view line);
     [[nodiscard]] int WidthOf(std::string_view piece) const noexcept {
         return m_Measure.Extent(piece).cx;
     }
@@ -39,7 +39,7 @@ private:
     int m_MaxWidth = 0;
     SIZE m_Last{};
 
-    // The line being filled, and what is left of the paragraph.
+    // The line being filled, and the rest of the paragraph.
     std::string m_Line;
     double m_LineWidth = 0;
     std::string_view m_Rest;

@@ -70,10 +70,10 @@ using BitmapTable = HandleTable<BitmapRecord, CBitmap, CGdiObject, OBJECT_KIND::
 /// The bitmap that a context paints on; null for the display and for a context without one.
 [[nodiscard]] BitmapRecord* SurfaceOf(const ContextRecord& context) noexcept;
 
-/// The bitmap without pixels that memory contexts begin with; any number may hold it.
+/// The bitmap without pixels of a new memory context; any number of contexts may have it.
 [[nodiscard]] HGDIOBJ EmptyBitmap();
 
-/// The word of a pixel, and back.
+/// A pixel as a bitmap has it, from a color and back.
 [[nodiscard]] constexpr std::uint32_t PixelOf(COLORREF color) noexcept {
     return static_cast<std::uint32_t>((color & 0xFFU) << 16U | (color & 0xFF00U) |
                                       (color >> 16U & 0xFFU));

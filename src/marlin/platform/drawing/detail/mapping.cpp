@@ -8,7 +8,7 @@ namespace PLATFORM::detail {
 
 namespace {
 
-// The device's units an inch stay DotsPerInch; this many logical units make an inch.
+// Logical units per inch; 0 for modes without a fixed unit.
 int UnitsPerInch(int mode) noexcept {
     switch (mode) {
         case MM_LOMETRIC:

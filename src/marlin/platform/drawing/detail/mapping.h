@@ -7,10 +7,10 @@
 
 namespace PLATFORM::detail {
 
-/// Dots an inch of the display and of every surface.
+/// The resolution of the display and of every surface.
 inline constexpr int DotsPerInch = 96;
 
-/// The mapping between logical and device coordinates. Extents are never 0.
+/// The mapping between logical and device coordinates. Default MM_TEXT. Extents are never 0.
 struct Mapping {
     int Mode = MM_TEXT;
     POINT WindowOrigin;
@@ -22,12 +22,12 @@ struct Mapping {
     [[nodiscard]] bool IsFree() const noexcept {
         return Mode == MM_ISOTROPIC || Mode == MM_ANISOTROPIC;
     }
-    /// False, and nothing changed, for an extent of 0; nothing changes in a fixed mode.
+    /// False, and nothing changed, for an extent of 0. True, and nothing changed, in a fixed mode.
     [[nodiscard]] bool SetExtent(SIZE Mapping::*extent, SIZE value) noexcept;
 
     [[nodiscard]] POINT ToDevice(POINT logical) const noexcept;
     [[nodiscard]] POINT ToLogical(POINT device) const noexcept;
-    /// Device units a logical unit, without signs.
+    /// Device units per logical unit, without signs.
     [[nodiscard]] double ScaleX() const noexcept;
     [[nodiscard]] double ScaleY() const noexcept;
 

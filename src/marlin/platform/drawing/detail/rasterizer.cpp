@@ -14,7 +14,8 @@ namespace PLATFORM::detail {
 
 namespace {
 
-// FreeType's outlines are contours of points; their numbers are 16 bits and 26.6 fixed point.
+// An outline of FreeType: counts have 16 bits, coordinates 26.6 fixed point. `Fits` becomes false
+// for a shape that they cannot hold.
 struct Contours {
     std::vector<FT_Vector> Points;
     std::vector<char> Tags;

@@ -8,8 +8,8 @@
 
 namespace PLATFORM::detail {
 
-/// A place on a surface and two directions: the pixels that one unit to the right and one unit
-/// up lead to.
+/// Where a shape is painted: the pixel of its origin, and the ways in pixels of one unit to the
+/// right and of one unit up.
 struct Placement {
     double X = 0;
     double Y = 0;
@@ -19,9 +19,9 @@ struct Placement {
     double UpY = -1;
 };
 
-/// Paints the inside of the contours, smoothed, on the pixels of the surface. Not painted are
-/// shapes that reach further than 32,000 pixels from the surface's corner or are made of more
-/// than 32,000 points.
+/// Paints the inside of the contours, with smooth edges, on the surface. A shape that reaches
+/// further than 32,000 pixels from the surface's corner, or has more than 32,000 points, is not
+/// painted.
 void PaintShape(const std::vector<OutlineStep>& steps, const Placement& placement, COLORREF color,
                 BitmapRecord& surface);
 

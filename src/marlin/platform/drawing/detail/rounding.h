@@ -6,7 +6,7 @@
 
 namespace PLATFORM::detail {
 
-/// The nearest whole number, halves away from 0, cut to 32 bits; 0 for what is not a number.
+/// The nearest whole number, halves away from 0; the nearest that fits 32 bits; 0 for NaN.
 [[nodiscard]] constexpr int RoundToInt(double value) noexcept {
     constexpr double limit = std::numeric_limits<int>::max();
     const double away = value < 0 ? value - 0.5 : value + 0.5;

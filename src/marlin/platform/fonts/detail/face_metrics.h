@@ -7,7 +7,8 @@ struct FT_FaceRec_;
 
 namespace PLATFORM::detail {
 
-/// The numbers of a face that do not depend on its size; lengths in design units.
+/// The numbers of a face that do not depend on its size, read once by `FontFace` and scaled by
+/// `SizedFont`; lengths in design units.
 struct FaceMetrics {
     int UnitsPerEm = 0;
     /// The cell above and below the baseline, both counted positive; their sum is above 0.
@@ -27,7 +28,6 @@ struct FaceMetrics {
     int EmbeddingRights = 0;
     int CapHeight = 0;
     int XHeight = 0;
-    int SmallestPixels = 0;
     int SlopeRise = 0;
     int SlopeRun = 0;
     /// Tenths of a degree, counter-clockwise.

@@ -18,7 +18,7 @@ struct FontWish {
     std::string Face;
     int Weight = 400;
     bool Italic = false;
-    /// Outline fonts before all others, whatever their names.
+    /// An outline font rather than a bitmap font of that name.
     bool OutlineFirst = true;
 
     [[nodiscard]] auto operator<=>(const FontWish& other) const = default;
@@ -42,7 +42,7 @@ public:
     /// Takes note of fonts that came or went.
     void Refresh();
 
-    /// The font that comes nearest to the wish; `outline` says if its shapes are outlines.
+    /// The font that comes nearest to the wish; `outline` is true when its shapes are outlines.
     [[nodiscard]] std::optional<FontMatch> Match(const FontWish& wish, bool& outline);
     /// The outline fonts with Latin letters: of each family the one of lowest weight and slant,
     /// or all of one family. Sorted by family, weight and slant.

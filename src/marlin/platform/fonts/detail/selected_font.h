@@ -6,7 +6,8 @@
 
 namespace PLATFORM::detail {
 
-/// The font of a context, ready to measure; empty when it cannot.
+/// The font of a context, which the framework's font calls measure and paint with; empty when it
+/// cannot be measured.
 struct SelectedFont {
     const FontRecord* Record = nullptr;
     SizedFont Sized;

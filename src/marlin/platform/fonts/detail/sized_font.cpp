@@ -22,7 +22,6 @@ void SetStyle(OUTLINETEXTMETRICA& otm, const FaceMetrics& face) noexcept {
     otm.otmsCharSlopeRun = face.SlopeRun;
     otm.otmItalicAngle = face.ItalicAngle;
     otm.otmEMSquare = static_cast<unsigned int>(face.UnitsPerEm);
-    otm.otmusMinimumPPEM = static_cast<unsigned int>(face.SmallestPixels);
 }
 
 }  // namespace

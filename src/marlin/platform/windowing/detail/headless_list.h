@@ -45,12 +45,12 @@ public:
 private:
     struct Column {
         CString Heading;
-        int Width;
+        int Width = 0;
     };
     struct Row {
         std::vector<CString> Cells;
-        int Image;
-        bool IsSelected;
+        int Image = -1;
+        bool IsSelected = false;
     };
 
     [[nodiscard]] const Row& At(int row) const;

@@ -57,8 +57,7 @@ struct ConvertColors {
         if (!colors.FileSave(file)) {
             Refuse(From + ": a value that is not finite");
         }
-        constexpr unsigned int writeFlags = 0x1011;  // create, write, deny others all
-        if (!file.FileSave(CString(To.c_str()), writeFlags)) {
+        if (!file.FileSave(CString(To.c_str()))) {
             Require(ErrorString::LastError());
         }
         output.Text += Printable(AsUtf8(To)) + ": " + NumberText(colors.NumEntries()) +

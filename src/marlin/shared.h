@@ -158,7 +158,6 @@
 #include <marlin/settings/file_checksum.h>
 #include <marlin/settings/hashed_string.h>
 #include <marlin/settings/ini_file.h>
-#include <marlin/settings/rare_text.h>
 #include <marlin/settings/section.h>
 #include <marlin/settings/section_key.h>
 #include <marlin/settings/steady_list.h>

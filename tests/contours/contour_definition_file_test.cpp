@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/contours/contour_definition_list.h>
 #include <marlin/core/number_text.h>
+#include <marlin/settings/section.h>
 
 #include <string>
 
@@ -9,15 +10,22 @@
 
 namespace {
 
-// "level/color/type/width/annotate " for each definition.
+using Definition = ContourDefinitionList::ContourDefInfo;
+
+// "level/color/type/width/annotate ".
+std::string TextOf(const Definition& definition) {
+    std::string text;
+    MARLINSUITE::AppendShortest(text, definition.Level);
+    MARLINSUITE::AppendNumber(text += '/', definition.Color);
+    MARLINSUITE::AppendNumber(text += '/', definition.LineType);
+    MARLINSUITE::AppendShortest(text += '/', definition.LineWidth);
+    return text + (definition.Annotate ? "/1 " : "/0 ");
+}
+
 std::string TextOf(const ContourDefinitionList& list) {
     std::string text;
     for (int i = 0; i < list.NumContours(); ++i) {
-        MARLINSUITE::AppendShortest(text, list[i].Level);
-        MARLINSUITE::AppendNumber(text += '/', list[i].Color);
-        MARLINSUITE::AppendNumber(text += '/', list[i].LineType);
-        MARLINSUITE::AppendShortest(text += '/', list[i].LineWidth);
-        text += list[i].Annotate ? "/1 " : "/0 ";
+        text += TextOf(list[i]);
     }
     return text;
 }
@@ -62,6 +70,32 @@ TEST(ContourDefinitionFile, LoadsBehindWhatTheListHolds) {
     more.Add({3.0F, 2, 99.0, 1, true});
     EXPECT_TRUE(more.Load(file.Path()));
     EXPECT_EQ(TextOf(more), "99/1/2/3/1 " + TextOf(saved));
+}
+
+TEST(ContourDefinitionFile, ADefinitionReplacesItsKeysInASectionAndLeavesTheOthers) {
+    Section section("Contour(7)");
+    section += SectionKey("annotate", "yes", " why");
+    section += SectionKey("Source", "survey");
+    section += SectionKey("COLOR", 1);
+    EXPECT_TRUE((Definition{0.25F, 1, 10.0, 0x0201FF, true}.Write(section)));
+    std::string text;
+    section.AppendTo(text);
+    EXPECT_EQ(text,
+              "[Contour(7)]\r\n"
+              "annotate  = 1         ; why\r\n"
+              "Source    = survey\r\n"
+              "COLOR     = 10\r\n"
+              "Level     = 10.000000\r\n"
+              "TrueColor = 131583\r\n"
+              "LineType  = DASHED\r\n"
+              "LineWidth = 0.250000\r\n"
+              "\r\n");
+    Definition read;
+    EXPECT_TRUE(read.Read(section));
+    EXPECT_EQ(TextOf(read), "10/131583/1/0.25/1 ");
+    EXPECT_TRUE(read.Read(Section("Contour(8)")));
+    EXPECT_EQ(TextOf(read), "10/0/0/0.25/1 ") << "color and line type have no value to keep";
+    EXPECT_EQ(ContourDefinitionList::SectionName(12), "Contour(12)");
 }
 
 TEST(ContourDefinitionFile, IsReadInEveryFormThatSettingsFilesMayHave) {

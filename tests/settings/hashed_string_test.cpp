@@ -3,9 +3,9 @@
 #include <marlin/settings/hashed_string.h>
 
 #include <array>
-#include <cctype>
 #include <set>
 #include <string>
+#include <unordered_set>
 
 #include <gtest/gtest.h>
 
@@ -39,6 +39,17 @@ TEST(HashedString, NamesAreEqualIgnoringTheCaseOfAsciiLettersOnly) {
     EXPECT_NE(HashedString("Key"), HashedString("Key "));
     EXPECT_NE(HashedString("["), HashedString("{"));
     EXPECT_EQ(*HashedString("KeY"), "KeY");
+}
+
+TEST(HashedString, NamesOfOneHashAreToldApartByTheirTexts) {
+    const HashedString a("K4112366960");
+    const HashedString b("k2663348725");
+    ASSERT_EQ(a.HashValue(), b.HashValue());
+    EXPECT_NE(a, b);
+    EXPECT_TRUE(b < a && a > b) << "by text, since the hashes are equal";
+    const std::unordered_set<HashedString> names = {a, b, "K2663348725"};
+    EXPECT_EQ(names.size(), 2U);
+    EXPECT_TRUE(names.contains("k4112366960"));
 }
 
 TEST(HashedString, DefaultMadeHasHashZeroAndCopiesKeepBothFields) {

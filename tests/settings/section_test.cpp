@@ -3,6 +3,7 @@
 #include <marlin/settings/section.h>
 
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -40,13 +41,54 @@ TEST(Section, AConstLookUpOfAMissingKeyYieldsTheSharedInvalidKey) {
 
 TEST(Section, ReferencesStayGoodWhileKeysAreAppended) {
     Section section("S");
-    SectionKey& first = section["First"];
+    SectionKey& kept = section["Kept"];
     for (int i = 0; i < 1000; ++i) {
         section += std::to_string(i);
     }
-    first << "kept";
-    EXPECT_EQ(section[0].GetValue(), "kept");
+    kept << "value";
+    EXPECT_EQ(section[0].GetValue(), "value");
     EXPECT_EQ(section.NumKeys(), 1001);
+}
+
+TEST(Section, RemovingAnyKeyKeepsTheOrderOfTheOthers) {
+    for (int removed = 0; removed < 40; ++removed) {
+        Section section("S");
+        for (int i = 0; i < 40; ++i) {
+            section += std::to_string(i);
+        }
+        ASSERT_TRUE(section.RemoveKey(section[removed]));
+        ASSERT_EQ(section.NumKeys(), 39);
+        int expected = removed == 0 ? 1 : 0;
+        for (const SectionKey& key : section.Keys()) {
+            EXPECT_EQ(*key.GetName(), std::to_string(expected));
+            expected += expected + 1 == removed ? 2 : 1;
+        }
+        section += "last";
+        EXPECT_EQ(*section[39].GetName(), "last");
+    }
+}
+
+TEST(Section, TellsKeysApartWhoseNamesHaveOneHash) {
+    Section section("S");
+    section["K4112366960"] << 1;
+    section["K2663348725"] << 2;
+    EXPECT_EQ(std::as_const(section)["k4112366960"].GetValue(), "1");
+    EXPECT_TRUE(section.RemoveKey("k2663348725"));
+    ASSERT_EQ(section.NumKeys(), 1);
+    EXPECT_FALSE(section.HasKey("K2663348725"));
+}
+
+TEST(Section, CopiesShareNothing) {
+    Section section = Filled();
+    const Section copy = section;
+    section["Alpha"] << 9;
+    section.RemoveKey(section[1]);
+    EXPECT_EQ(copy["Alpha"].GetValue(), "1");
+    EXPECT_EQ(copy["LongerName"].GetComments(), " note");
+    section = copy;
+    EXPECT_EQ(section.NumKeys(), 2);
+    section["Alpha"] << 9;
+    EXPECT_EQ(copy[0].GetValue(), "1");
 }
 
 TEST(Section, SeveralKeysMayBearOneNameAndTheFirstIsFound) {

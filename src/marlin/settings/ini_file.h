@@ -11,18 +11,27 @@
 #include <string>
 #include <string_view>
 
-namespace MARLINSUITE {
-class BlockOutput;
-class LineReader;
-}  // namespace MARLINSUITE
+namespace MARLINSUITE::detail {
+struct SettingsOutcome;
+}
 
 /// A settings file in memory: an ordered list of sections, read from and written to a text
 /// file. Names of sections are compared ignoring case; `AddSection` and reading keep them
 /// unique. Neither copied nor assigned. The file is open only within `Open` and `Save`.
 /// The format is described in docs/formats/settings.md.
+///
+/// @code
+/// IniFile file;
+/// file["General"]["Color"] << 255;
+/// assert(file.Text() == "[General]\r\nColor = 255\r\n\r\n");
+/// IniFile read;
+/// assert(read.OpenText(file.Text()).Empty() && read.HasSection("GENERAL"));
+/// const ErrorString error = read.Open(std::string("/no/such/file.ini"));
+/// assert(error.Text() == "Error opening \"/no/such/file.ini\" for reading!");
+/// @endcode
 class MARLIN_API IniFile {
 public:
-    /// What a const look-up of a missing section returns: no name, no keys, not valid.
+    /// Returned by a const look-up of a missing section: no name, no keys, not valid.
     static const Section m_ErrorSection;
 
     IniFile() = default;
@@ -31,9 +40,9 @@ public:
     IniFile(const IniFile&) = delete;
     IniFile& operator=(const IniFile&) = delete;
 
-    /// Replaces the contents by the sections of the file. Fails when the path is empty or
-    /// cannot be read, at a header "[]" and at a second section of one name; the sections
-    /// completed before stay.
+    /// Replaces the contents by the sections of the file. Without sections when the path is
+    /// empty or the file cannot be read to its end. A header "[]" and a second section of one
+    /// name are errors too, but the sections completed before them stay.
     ErrorString Open(const std::string& path);
     ErrorString Open(const FileName& path);
     /// The same from a text in memory.
@@ -57,6 +66,7 @@ public:
     [[nodiscard]] bool Empty() const noexcept { return m_Sections.empty(); }
     [[nodiscard]] int NumSections() const noexcept { return static_cast<int>(m_Sections.size()); }
 
+    /// Only the name of a section given is compared.
     [[nodiscard]] bool HasSection(const Section& section) const noexcept;
     [[nodiscard]] bool HasSection(const char* name) const noexcept;
     [[nodiscard]] bool HasSection(const std::string& name) const noexcept;
@@ -85,13 +95,8 @@ public:
     bool RenameSection(const char* from, const char* to);
 
 private:
-    ErrorString Read(MARLINSUITE::LineReader& lines, const std::string& path);
-    void Write(MARLINSUITE::BlockOutput& output) const;
-    [[nodiscard]] const Section* FindSection(std::string_view name,
-                                             unsigned int hash) const noexcept;
-    [[nodiscard]] const Section* FindSection(std::string_view name) const noexcept;
-    Section& SectionOrNew(std::string_view name);
-    bool RemoveSectionNamed(std::string_view name, unsigned int hash);
+    ErrorString Finish(const MARLINSUITE::detail::SettingsOutcome& outcome,
+                       const std::string& path);
 
     std::deque<Section> m_Sections;
 };

@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/crc_checksum.h>
+#include <marlin/base/files/detail/settings_writer.h>
 #include <marlin/core/detail/load_order.h>
-#include <marlin/settings/detail/name_hash.h>
+#include <marlin/settings/detail/named_items.h>
 #include <marlin/settings/section.h>
 
 #include <algorithm>
 #include <cassert>
-#include <utility>
+
+using MARLINSUITE::detail::HasNamed;
+using MARLINSUITE::detail::NamedOr;
+using MARLINSUITE::detail::NamedOrNew;
+using MARLINSUITE::detail::RemoveNamed;
 
 // Made before the objects of hosts and of the library's other sources, destroyed after them.
 [[gnu::init_priority(
@@ -16,37 +21,24 @@
 
 void Section::SetComments(const char* comments) {
     if (comments) {
-        m_Comments.Set(comments);
+        m_Comments = comments;
     }
 }
 
-const SectionKey* Section::FindKey(std::string_view name, unsigned int hash) const noexcept {
-    return m_Keys.FindIf([=](const SectionKey& key) { return key.GetName().Is(name, hash); });
-}
-
-const SectionKey* Section::FindKey(std::string_view name) const noexcept {
-    return FindKey(name, MARLINSUITE::HashOfName(name));
-}
-
 bool Section::HasKey(const SectionKey& key) const noexcept {
-    return FindKey(*key.GetName(), key.GetName().HashValue()) != nullptr;
+    return HasNamed(m_Keys, *key.GetName());
 }
 
 bool Section::HasKey(const char* name) const noexcept {
-    return FindKey(name) != nullptr;
+    return HasNamed(m_Keys, name);
 }
 
 bool Section::HasKey(const std::string& name) const noexcept {
-    return FindKey(name) != nullptr;
+    return HasNamed(m_Keys, name);
 }
 
 bool Section::AddKey(const SectionKey& key) {
     m_Keys.emplace_back(key);
-    return true;
-}
-
-bool Section::AddKey(SectionKey&& key) {
-    m_Keys.emplace_back(std::move(key));
     return true;
 }
 
@@ -57,6 +49,11 @@ bool Section::AddKey(const char* name) {
 
 bool Section::AddKey(const std::string& name) {
     m_Keys.emplace_back(name);
+    return true;
+}
+
+bool Section::AddKey(std::string_view name, std::string_view value, std::string_view comments) {
+    m_Keys.emplace_back(name, value, comments);
     return true;
 }
 
@@ -75,29 +72,20 @@ Section& Section::operator+=(const std::string& name) {
     return *this;
 }
 
-SectionKey& Section::KeyOrNew(std::string_view name) {
-    if (const SectionKey* const key = FindKey(name)) {
-        return const_cast<SectionKey&>(*key);  // of this section, which is not const here
-    }
-    return m_Keys.emplace_back(HashedString(name), std::string_view(), std::string_view());
-}
-
 SectionKey& Section::operator[](const std::string& name) {
-    return KeyOrNew(name);
+    return NamedOrNew(m_Keys, name);
 }
 
 SectionKey& Section::operator[](const char* name) {
-    return KeyOrNew(name);
+    return NamedOrNew(m_Keys, name);
 }
 
 const SectionKey& Section::operator[](const std::string& name) const noexcept {
-    const SectionKey* const key = FindKey(name);
-    return key ? *key : m_ErrorKey;
+    return NamedOr(m_Keys, name, m_ErrorKey);
 }
 
 const SectionKey& Section::operator[](const char* name) const noexcept {
-    const SectionKey* const key = FindKey(name);
-    return key ? *key : m_ErrorKey;
+    return NamedOr(m_Keys, name, m_ErrorKey);
 }
 
 SectionKey& Section::operator[](int position) noexcept {
@@ -110,30 +98,21 @@ const SectionKey& Section::operator[](int position) const noexcept {
     return m_Keys[static_cast<std::size_t>(position)];
 }
 
-bool Section::RemoveKeyNamed(std::string_view name, unsigned int hash) {
-    const auto found = std::ranges::find_if(
-        m_Keys, [&](const SectionKey& key) { return key.GetName().Is(name, hash); });
-    if (found == m_Keys.end()) {
-        return false;
-    }
-    m_Keys.erase(found);
-    return true;
-}
-
 bool Section::RemoveKey(const SectionKey& key) {
-    return RemoveKeyNamed(*key.GetName(), key.GetName().HashValue());
+    // A copy, since the name may be that of the key that goes.
+    return RemoveNamed(m_Keys, std::string(*key.GetName()));
 }
 
 bool Section::RemoveKey(const char* name) {
-    return RemoveKeyNamed(name, HashedString::ComputeHashValue(name));
+    return RemoveNamed(m_Keys, name);
 }
 
 bool Section::RemoveKey(const std::string& name) {
-    return RemoveKeyNamed(name, HashedString::ComputeHashValue(name));
+    return RemoveNamed(m_Keys, name);
 }
 
 Section& Section::operator<<(const Section& other) {
-    const std::size_t count = other.m_Keys.size();  // fixed, should other be this section
+    const std::size_t count = other.m_Keys.size();  // fixed, since other may be this section
     for (std::size_t i = 0; i < count; ++i) {
         m_Keys.emplace_back(other.m_Keys[i]);
     }
@@ -152,13 +131,14 @@ unsigned int Section::ComputeChecksum() const noexcept {
 }
 
 void Section::AddChecksum() {
-    KeyOrNew(*m_ChecksumName) << ComputeChecksum();
+    NamedOrNew(m_Keys, *m_ChecksumName) << ComputeChecksum();
 }
 
 bool Section::IsModified() const noexcept {
-    const SectionKey* const key = FindKey(*m_ChecksumName, m_ChecksumName.HashValue());
+    // A missing key has no number, so it counts as modified too.
     unsigned int stored = 0;
-    return !key || !MARLINSUITE::ParseNumber(key->GetValue(), stored) ||
+    return !MARLINSUITE::ParseNumber(NamedOr(m_Keys, *m_ChecksumName, m_ErrorKey).GetValue(),
+                                     stored) ||
            stored != ComputeChecksum();
 }
 
@@ -171,4 +151,17 @@ void Section::GetWriteOffsets(int& name, int& value) const noexcept {
     }
     name = static_cast<int>(longestName);
     value = static_cast<int>(longestValue);
+}
+
+void Section::AppendTo(std::string& text) const {
+    int longestName = 0;
+    int longestValue = 0;
+    GetWriteOffsets(longestName, longestValue);
+    MARLINSUITE::detail::SettingsWriter writer(text);
+    writer.BeginSection(*m_Name, m_Comments, static_cast<std::size_t>(longestName),
+                        static_cast<std::size_t>(longestValue));
+    for (const SectionKey& key : m_Keys) {
+        writer.AddKey(*key.GetName(), key.GetValue(), key.GetComments());
+    }
+    writer.EndSection();
 }

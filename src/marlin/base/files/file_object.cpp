@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/base/files/detail/file_output.h>
 #include <marlin/base/files/detail/settings_reader.h>
 #include <marlin/base/files/detail/settings_writer.h>
 #include <marlin/base/files/file_object.h>
+#include <marlin/base/files/file_replacement.h>
 #include <marlin/core/ascii.h>
 
 #include <algorithm>
-#include <system_error>
 
 namespace {
 
@@ -22,7 +21,7 @@ CString TextOf(const std::string& text) {
 
 }  // namespace
 
-/// Takes over what the lines of a settings file hold.
+/// Stores the sections and entries of a settings file as they are read.
 class FileObject::FileSink {
 public:
     explicit FileSink(FileObject& file) noexcept : m_File(file) {}
@@ -40,9 +39,6 @@ public:
             Store(*m_Section, name, value, false);
         }
     }
-
-    // An error ends in an empty object anyway.
-    void DropSection() noexcept {}
 
 private:
     FileObject& m_File;
@@ -63,24 +59,18 @@ bool FileObject::SetEntry(const CString& section, const CString& key, const CStr
 bool FileObject::FileOpen(const CString& path, unsigned int) {
     Clear();
     const std::string name(path.View());
-    MARLINSUITE::LineReader lines;
-    MARLINSUITE::SettingsOutcome outcome;
-    outcome.Error = lines.Open(name);
-    if (outcome.Error != 0) {
-        outcome.Kind = MARLINSUITE::SettingsOutcome::READ_ERROR;
-    } else {
-        FileSink sink(*this);
-        outcome = MARLINSUITE::ReadSettings(lines, sink);
-    }
-    const bool done = outcome.Result(name).Empty();
+    FileSink sink(*this);
+    // A failure made here is the one that `ErrorString::LastError()` gives.
+    const bool done = MARLINSUITE::detail::ReadSettingsFile(name, sink).Result(name).Empty();
     if (!done) {
         Clear();
     }
     return done;
 }
 
-void FileObject::Write(MARLINSUITE::BlockOutput& output) const {
-    MARLINSUITE::SettingsWriter writer(output);
+std::string FileObject::Text() const {
+    std::string text;
+    MARLINSUITE::detail::SettingsWriter writer(text);
     for (const NamedSection& section : m_Sections) {
         std::size_t longestName = 0;
         for (const Entry& entry : section.Entries) {
@@ -92,11 +82,11 @@ void FileObject::Write(MARLINSUITE::BlockOutput& output) const {
         }
         writer.EndSection();
     }
+    return text;
 }
 
 bool FileObject::FileSave(const CString& path, unsigned int) const {
-    const auto contents = [this](MARLINSUITE::BlockOutput& output) { Write(output); };
-    return MARLINSUITE::ReplaceFile(std::string(path.View()), contents).Empty();
+    return MARLINSUITE::ReplaceFile(std::string(path.View()), Text()).Empty();
 }
 
 bool FileObject::GetFirstSectionEntry(FobjSection& cursor, CString& section) const {

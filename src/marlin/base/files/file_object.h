@@ -11,11 +11,7 @@
 #include <string_view>
 #include <unordered_map>
 
-namespace MARLINSUITE {
-class BlockOutput;
-}
-
-/// Where a walk over a `FileObject` stands: a section, and an entry of the section being
+/// The position of a walk over a `FileObject`: a section, and an entry of the section being
 /// walked. One cursor serves both walks at once.
 struct FobjSection {
     std::size_t Section = 0;
@@ -26,6 +22,14 @@ struct FobjSection {
 /// A settings store that can be read from a file, filled, walked and written: an ordered list
 /// of sections, each an ordered list of (key, value) entries. Names are compared ignoring
 /// case. Its files are settings files; their comments are not kept. A value.
+///
+/// @code
+/// FileObject file;
+/// file.SetEntry("ColorTable", "Below", "255", FileObject::REPLACE);
+/// CString value;
+/// assert(file.GetEntry("COLORTABLE", "below", value) && value == "255");
+/// assert(!file.FileOpen("/no/such/table.col") && !ErrorString::LastError().Empty());
+/// @endcode
 class MARLIN_API FileObject {
 public:
     FileObject() = default;
@@ -36,9 +40,9 @@ public:
 
     virtual ~FileObject();
 
-    /// What `SetEntry` does with an entry whose key the section holds already.
+    /// The treatment by `SetEntry` of an entry whose key the section holds already.
     enum MODE : int {
-        APPEND = 0,   ///< Stores it behind the one that is there; look-ups find the first.
+        APPEND = 0,   ///< Stores it after the others; look-ups find the first.
         REPLACE = 1,  ///< Gives the first such entry the new value; so does any other number.
     };
 
@@ -53,10 +57,10 @@ public:
     /// and comments are dropped, sections without entries are kept.
     /// `flags` are the open flags of the platform's file class; the file is always read whole
     /// and shared with others, so they change nothing.
-    bool FileOpen(const CString& path, unsigned int flags);
+    bool FileOpen(const CString& path, unsigned int flags = 0);
     /// Writes a settings file, replacing an existing one whole. False when it cannot be
     /// written, with the cause in `ErrorString::LastError()`; the old file is then unchanged.
-    bool FileSave(const CString& path, unsigned int flags) const;
+    bool FileSave(const CString& path, unsigned int flags = 0) const;
 
     /// The walk over the sections in their order; each call that returns true yields a name.
     bool GetFirstSectionEntry(FobjSection& cursor, CString& section) const;
@@ -85,7 +89,7 @@ private:
         std::unordered_map<std::string, std::size_t> FirstOfKey;  // by lower-case name
     };
 
-    void Write(MARLINSUITE::BlockOutput& output) const;
+    [[nodiscard]] std::string Text() const;
     [[nodiscard]] const NamedSection* FindSection(std::string_view name) const;
     NamedSection& SectionOrNew(std::string_view name);
     static void Store(NamedSection& section, std::string_view key, std::string_view value,

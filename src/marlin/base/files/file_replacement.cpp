@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/base/files/detail/file_output.h>
 #include <marlin/base/files/file_replacement.h>
 #include <marlin/core/number_text.h>
 #include <marlin/platform/kernel/detail/new_file.h>
@@ -15,38 +14,18 @@ using PLATFORM::detail::FILE_KIND;
 using PLATFORM::detail::FileStatus;
 using PLATFORM::detail::NewFile;
 
-int WriteContents(const File& file, const Contents& contents) {
-    int error = 0;
-    BlockOutput output([&](std::string_view block) {
-        if (error == 0) {
-            error = file.WriteAll(block);
-        }
-    });
-    contents(output);
-    output.Finish();
-    return error;
-}
-
-std::uint64_t SizeOf(const Contents& contents) {
-    std::uint64_t size = 0;
-    BlockOutput output([&](std::string_view block) { size += block.size(); });
-    contents(output);
-    output.Finish();
-    return size;
-}
-
 // Errors of a folder that takes no new file, though its file may be written.
 bool FolderRefused(int error) {
     return error == EACCES || error == EPERM || error == EROFS || error == EBUSY || error == EXDEV;
 }
 
-int WriteNewFile(NewFile& file, const Contents& contents, const FileStatus* old) {
+int WriteNewFile(NewFile& file, std::string_view bytes, const FileStatus* old) {
     // Until it has the old file's mode, nobody else may read what that one may hide.
     constexpr unsigned int ownerAlone = 0600;
     constexpr unsigned int asMasked = 0666;
     int error = file.Create(old ? ownerAlone : asMasked);
     if (error == 0) {
-        error = WriteContents(file.Contents(), contents);
+        error = file.Contents().WriteAll(bytes);
     }
     if (error == 0) {
         // Before the rename, so that a crash leaves either file whole.
@@ -59,30 +38,29 @@ int WriteNewFile(NewFile& file, const Contents& contents, const FileStatus* old)
 }
 
 // A device or a pipe takes bytes, and has no size.
-int WriteOther(const std::string& path, const Contents& contents) {
+int WriteOther(const std::string& path, std::string_view bytes) {
     File file;
     int error = file.OpenForWriting(path);
     if (error == 0) {
-        error = WriteContents(file, contents);
+        error = file.WriteAll(bytes);
     }
     return error == 0 ? file.Close() : error;
 }
 
 // Reserves the new size before the first old byte is touched, so that a full disk is noticed
 // while the file is still whole.
-int RewriteInPlace(const std::string& path, const Contents& contents, const FileStatus& old) {
+int RewriteInPlace(const std::string& path, std::string_view bytes, const FileStatus& old) {
     File file;
     if (const int error = file.OpenForWriting(path); error != 0) {
         return error;
     }
-    const std::uint64_t size = SizeOf(contents);
-    if (const int error = file.Reserve(size); error != 0) {
+    if (const int error = file.Reserve(bytes.size()); error != 0) {
         const int resized = file.Resize(old.Size);
         return resized != 0 ? resized : error;
     }
-    int error = WriteContents(file, contents);
+    int error = file.WriteAll(bytes);
     if (error == 0) {
-        error = file.Resize(size);
+        error = file.Resize(bytes.size());
     }
     if (error == 0) {
         error = file.Sync();
@@ -90,7 +68,7 @@ int RewriteInPlace(const std::string& path, const Contents& contents, const File
     return error == 0 ? file.Close() : error;
 }
 
-int ReplaceOld(const std::string& target, const Contents& contents, const FileStatus& old) {
+int ReplaceOld(const std::string& target, std::string_view bytes, const FileStatus& old) {
     if (old.Kind == FILE_KIND::FOLDER) {
         return EISDIR;
     }
@@ -100,14 +78,14 @@ int ReplaceOld(const std::string& target, const Contents& contents, const FileSt
         return error;
     }
     if (old.Kind == FILE_KIND::OTHER) {
-        return WriteOther(target, contents);
+        return WriteOther(target, bytes);
     }
     NewFile file(target);
-    const int error = WriteNewFile(file, contents, &old);
-    return FolderRefused(error) ? RewriteInPlace(target, contents, old) : error;
+    const int error = WriteNewFile(file, bytes, &old);
+    return FolderRefused(error) ? RewriteInPlace(target, bytes, old) : error;
 }
 
-int Replace(std::string target, const Contents& contents) {
+int Replace(std::string target, std::string_view bytes) {
     if (const int error = PLATFORM::detail::FollowLinks(target); error != 0) {
         return error;
     }
@@ -115,9 +93,9 @@ int Replace(std::string target, const Contents& contents) {
     const int error = PLATFORM::detail::StatusOf(target, old);
     if (error == ENOENT) {
         NewFile file(target);
-        return WriteNewFile(file, contents, nullptr);
+        return WriteNewFile(file, bytes, nullptr);
     }
-    return error == 0 ? ReplaceOld(target, contents, old) : error;
+    return error == 0 ? ReplaceOld(target, bytes, old) : error;
 }
 
 ErrorString ResultOf(const std::string& path, int error) {
@@ -127,11 +105,7 @@ ErrorString ResultOf(const std::string& path, int error) {
 }  // namespace
 
 ErrorString ReplaceFile(const std::string& path, std::string_view bytes) {
-    return ReplaceFile(path, [bytes](BlockOutput& output) { output.Pass(bytes); });
-}
-
-ErrorString ReplaceFile(const std::string& path, const Contents& contents) {
-    return ResultOf(path, Replace(path, contents));
+    return ResultOf(path, Replace(path, bytes));
 }
 
 ErrorString ReadFile(const std::string& path, std::string& bytes, std::size_t limit) {

@@ -22,7 +22,6 @@ using enum MARLINSUITE::CONTROL_ID;
 
 namespace {
 
-constexpr unsigned int readOnlySharedByAll = 0x20;
 constexpr unsigned int contourData = 4;
 
 }  // namespace
@@ -170,7 +169,7 @@ void CContourEditor::OnGenerateFromColorTable() {
     // A file that cannot be read leaves the table empty, which is refused.
     FileObject file;
     ColorTable table;
-    file.FileOpen(path, readOnlySharedByAll);
+    file.FileOpen(path);
     table.FileOpen(file);
     ShowGenerated(m_Definitions.Generate(table, false));
 }

@@ -18,7 +18,7 @@ inline constexpr int LoadStartUp = 101;
 /// Objects made of the standard library alone: texts and empty tables.
 inline constexpr int LoadValues = 102;
 
-/// Objects made with the help of those: names, keys and sections copy the empty texts.
+/// Objects made with the help of those: names, keys and sections.
 inline constexpr int LoadComposites = 103;
 
 }  // namespace MARLINSUITE::detail

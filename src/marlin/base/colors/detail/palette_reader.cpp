@@ -70,7 +70,7 @@ bool PaletteReader::Read(std::string_view text) {
 
 template <class Take>
 bool PaletteReader::ForEachLine(std::string_view text, Take take) {
-    LineReader lines(text);
+    detail::LineReader lines(text);
     m_Line = 0;
     std::string_view line;
     while (lines.Next(line)) {

@@ -5,7 +5,7 @@
 #include <cerrno>
 #include <new>
 
-namespace MARLINSUITE {
+namespace MARLINSUITE::detail {
 
 int LineReader::Open(const std::string& path) {
     return m_File.OpenForReading(path);
@@ -65,4 +65,4 @@ int LineReader::Grow() {
     return 0;
 }
 
-}  // namespace MARLINSUITE
+}  // namespace MARLINSUITE::detail

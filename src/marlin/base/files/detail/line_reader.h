@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace MARLINSUITE {
+namespace MARLINSUITE::detail {
 
 /// Yields the lines of a file or of a text, each with its line feed. A file is read
 /// through one buffer that grows only to hold a longer line, so that reading costs little memory
@@ -54,4 +54,4 @@ private:
     int m_Error = 0;
 };
 
-}  // namespace MARLINSUITE
+}  // namespace MARLINSUITE::detail

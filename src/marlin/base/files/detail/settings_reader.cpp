@@ -5,7 +5,7 @@
 
 #include <system_error>
 
-namespace MARLINSUITE {
+namespace MARLINSUITE::detail {
 
 ErrorString SettingsOutcome::Result(const std::string& path) const {
     std::string message;
@@ -35,4 +35,4 @@ ErrorString SettingsOutcome::Result(const std::string& path) const {
     return ErrorString(message).SetCause(cause);
 }
 
-}  // namespace MARLINSUITE
+}  // namespace MARLINSUITE::detail

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace MARLINSUITE {
+namespace MARLINSUITE::detail {
 
 /// How the reading of a settings file ended.
 struct SettingsOutcome {
@@ -23,27 +23,23 @@ struct SettingsOutcome {
 };
 
 /// Gives a sink the sections and keys of a settings file, in their order. The sink has
-/// `bool BeginSection(name, comments)`, false for a name that it has already,
-/// `void AddKey(name, value, comments)` for the section begun last, and `void DropSection()`,
-/// which takes that section back because an error followed it.
+/// `bool BeginSection(name, comments)`, false for a name that it has already, and
+/// `void AddKey(name, value, comments)` for the section begun last. After a bad header or a read
+/// error the last section is incomplete.
 template <class Sink>
-SettingsOutcome ReadSettings(LineReader& lines, Sink& sink) {
+[[nodiscard]] SettingsOutcome ReadSettings(LineReader& lines, Sink& sink) {
     SettingsGrammar grammar;
     SettingsOutcome outcome;
-    bool inSection = false;
     std::string_view bytes;
     while (outcome.Kind == SettingsOutcome::DONE && lines.Next(bytes)) {
         const SettingsLine line = grammar.Take(bytes);
         outcome.Line = line.Number;
         if (line.Kind == SettingsLine::KEY || line.Kind == SettingsLine::COMMENT) {
             sink.AddKey(line.Name, line.Value, line.Comments);
-        } else if (line.Kind != SettingsLine::HEADER) {
-            continue;
-        } else if (line.Name.empty()) {
+        } else if (line.Kind == SettingsLine::HEADER && line.Name.empty()) {
             outcome.Kind = SettingsOutcome::BAD_HEADER;
-        } else if (sink.BeginSection(line.Name, line.Comments)) {
-            inSection = true;
-        } else {
+        } else if (line.Kind == SettingsLine::HEADER &&
+                   !sink.BeginSection(line.Name, line.Comments)) {
             outcome.Kind = SettingsOutcome::DUPLICATE_SECTION;
             outcome.Name = line.Name;
         }
@@ -52,13 +48,19 @@ SettingsOutcome ReadSettings(LineReader& lines, Sink& sink) {
         outcome.Kind = SettingsOutcome::READ_ERROR;
         outcome.Error = lines.Error();
     }
-    // The section before a repeated name is complete.
-    const bool isCutShort =
-        outcome.Kind == SettingsOutcome::BAD_HEADER || outcome.Kind == SettingsOutcome::READ_ERROR;
-    if (inSection && isCutShort) {
-        sink.DropSection();
-    }
     return outcome;
 }
 
-}  // namespace MARLINSUITE
+template <class Sink>
+[[nodiscard]] SettingsOutcome ReadSettingsFile(const std::string& path, Sink& sink) {
+    LineReader lines;
+    if (const int error = lines.Open(path); error != 0) {
+        SettingsOutcome outcome;
+        outcome.Kind = SettingsOutcome::READ_ERROR;
+        outcome.Error = error;
+        return outcome;
+    }
+    return ReadSettings(lines, sink);
+}
+
+}  // namespace MARLINSUITE::detail

@@ -1,79 +1,54 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <marlin/base/files/detail/block_output.h>
-
-#include <algorithm>
 #include <cstddef>
-#include <cstring>
+#include <string>
 #include <string_view>
 
-namespace MARLINSUITE {
+namespace MARLINSUITE::detail {
 
-/// Writes the text of settings files, the inverse of `ReadSettings`: header lines, key lines
-/// in columns, an empty line behind each section, line ends of carriage return and line feed.
+/// Appends sections to the text of a settings file, the inverse of `ReadSettings`: a header line,
+/// key lines in columns, an empty line at the end, each line ended by carriage return and line
+/// feed.
 class SettingsWriter {
 public:
-    explicit SettingsWriter(BlockOutput& output) noexcept : m_Output(output) {}
+    /// The text must outlive the writer.
+    explicit SettingsWriter(std::string& text) noexcept : m_Text(text) {}
 
-    /// The longest name and value of the section that is written.
+    /// The sizes are those of the longest name and value among the keys that follow.
     void BeginSection(std::string_view name, std::string_view comments, std::size_t longestName,
                       std::size_t longestValue) {
         m_NameWidth = longestName + 1;
         m_ValueWidth = longestValue + 1;
-        char* at = m_Output.Room(name.size() + comments.size() + mostMarks);
-        at = Copied(at, "[");
-        at = Copied(at, name);
-        at = Copied(at, "]");
+        m_Text.append("[").append(name).append("]");
         if (!comments.empty()) {
-            at = Copied(at, " ;");
-            at = Copied(at, comments);
+            m_Text.append(" ;").append(comments);
         }
-        m_Output.Take(Copied(at, lineEnd));
+        m_Text.append(lineEnd);
     }
 
-    /// A key without a name writes its comment alone.
+    /// Writes the comment alone of a key without a name.
     void AddKey(std::string_view name, std::string_view value, std::string_view comments) {
-        char* at =
-            m_Output.Room(std::max(name.size(), m_NameWidth) +
-                          std::max(value.size(), m_ValueWidth) + comments.size() + mostMarks);
         if (!name.empty()) {
-            at = Padded(Copied(at, name), name.size(), m_NameWidth);
-            at = Copied(at, "= ");
-            at = Copied(at, value);
+            m_Text.append(name).append(m_NameWidth - name.size(), ' ').append("= ").append(value);
             if (!comments.empty()) {
-                at = Padded(at, value.size(), m_ValueWidth);
+                m_Text.append(m_ValueWidth - value.size(), ' ');
             }
         }
         if (!comments.empty()) {
-            at = Copied(at, ";");
-            at = Copied(at, comments);
+            m_Text.append(";").append(comments);
         }
-        m_Output.Take(Copied(at, lineEnd));
+        m_Text.append(lineEnd);
     }
 
-    void EndSection() { m_Output.Take(Copied(m_Output.Room(lineEnd.size()), lineEnd)); }
+    void EndSection() { m_Text.append(lineEnd); }
 
 private:
     static constexpr std::string_view lineEnd = "\r\n";
-    // Blanks are written so many at once, which needs no call.
-    static constexpr std::size_t blanksAtOnce = 16;
-    static constexpr std::size_t mostMarks = blanksAtOnce + 8;
 
-    [[nodiscard]] static char* Copied(char* at, std::string_view text) noexcept {
-        return std::copy_n(text.data(), text.size(), at);
-    }
-
-    [[nodiscard]] static char* Padded(char* at, std::size_t size, std::size_t width) noexcept {
-        for (std::size_t written = size; written < width; written += blanksAtOnce) {
-            std::memset(at + (written - size), ' ', blanksAtOnce);
-        }
-        return at + (width - std::min(width, size));
-    }
-
-    BlockOutput& m_Output;
+    std::string& m_Text;
     std::size_t m_NameWidth = 0;
     std::size_t m_ValueWidth = 0;
 };
 
-}  // namespace MARLINSUITE
+}  // namespace MARLINSUITE::detail

@@ -12,6 +12,7 @@ void DropObject::FromString(const CString& text) {
     *this = DropObject();
     const int type = atoi(std::string(text.View()));
     const int comma = text.Find(',');
+    // The text may have commas of its own; the first one ends the number.
     if (type >= OBJECT_1 && type <= OBJECT_3 && comma >= 0 && comma + 1 < text.GetLength()) {
         *this = DropObject(static_cast<TYPE>(type), text.Mid(comma + 1));
     }

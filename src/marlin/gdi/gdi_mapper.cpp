@@ -33,6 +33,7 @@ void GDIMapper::Create(const GTL::Extents2D<double>& area, const CRect& device) 
     m_DeviceHeight = Span(device.top, device.bottom);
     const double yRatio = area.ExtentY() / m_DeviceHeight;
     const double xRatio = area.ExtentX() / Span(device.left, device.right);
+    // The larger one, at which the other side fits too.
     m_Scale = yRatio > xRatio ? yRatio : xRatio;
     const GTL::Point2D<double> center = area.Center();
     m_WorldCenterX = center.x;

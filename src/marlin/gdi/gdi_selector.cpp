@@ -18,6 +18,7 @@ GDISelector::GDISelector(CDC* dc, void* handle)
 
 GDISelector::GDISelector(CDC* dc, int stockIndex) : m_DC(dc) {
     if (dc) {
+        // Through the virtual call, which a host's context may have made its own.
         dc->SelectStockObject(stockIndex);
     }
 }

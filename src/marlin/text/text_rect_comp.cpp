@@ -15,6 +15,7 @@ namespace {
 
 using namespace MARLINSUITE::detail;
 
+// All overloads end a text at its first null character, as the platform does.
 std::string_view ViewOf(const char* text) noexcept {
     return text ? std::string_view(text) : std::string_view();
 }
@@ -42,11 +43,6 @@ Share JustifiedPoint(TextInfo::JUSTIFICATION justification) noexcept {
     return index < points.size() ? points[index] : Share{0, 0};
 }
 
-bool IsOnBaseline(const TextInfo& ti) noexcept {
-    return ti.Justification() >= TextInfo::BASELINE_LEFT &&
-           ti.Justification() <= TextInfo::BASELINE_RIGHT;
-}
-
 // The height that a box on the baseline lacks of the font's cell.
 long long HiddenHeight(const TextInfo& ti, const TextMeasure& measure) {
     const OUTLINETEXTMETRICA& metrics = measure.Metrics();
@@ -59,9 +55,10 @@ long long HiddenHeight(const TextInfo& ti, const TextMeasure& measure) {
     return hidden * measure.Height() / tm.tmHeight;
 }
 
+// Texts are measured in the absolute size: a style that was read from a text may have a sign.
 TextInfo Sized(const TextInfo& ti, double share) {
     TextInfo sized = ti;
-    sized.SetSize(static_cast<float>(ti.Size() * share));  // without a sign
+    sized.SetSize(static_cast<float>(ti.Size() * share));
     return sized;
 }
 
@@ -137,7 +134,7 @@ TextRectComp::Extents TextRectComp::GetLineExtents(const TextInfo& ti, std::stri
         m_Lines.clear();
         return {};
     }
-    m_Lines.resize(1);
+    m_Lines.resize(1);  // which keeps the line's memory for the next text
     m_Lines.front() = text;
     // A font may come out at another height than was asked for; the result is of the one asked for.
     const double ratio = static_cast<double>(measure.Height()) / size.cy;
@@ -155,6 +152,7 @@ TextRectComp::Extents TextRectComp::GetMTextExtents(const TextInfo& ti, std::str
     const double scale = GDIScaleFactor::Get();
     TextWrapper wrapper(measure, ti.RectWidth() * scale, m_Lines);
     wrapper.Wrap(text);
+    // Unlike a single line: neither in the ratio of heights, nor lowered to the baseline.
     m_LineHeight = wrapper.LineHeight() / scale;
     return {wrapper.MaxWidth() / scale, m_LineHeight * static_cast<double>(m_Lines.size())};
 }

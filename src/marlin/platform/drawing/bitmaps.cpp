@@ -11,7 +11,7 @@ namespace {
 using namespace PLATFORM::detail;
 
 constexpr int MaxSide = 32767;
-constexpr int MaxPixels = 1 << 26;
+constexpr int MaxPixels = 1 << 26;  // 256 MiB
 
 // The pixel at a logical position; null where the context paints none.
 std::uint32_t* PixelAt(HDC dc, int x, int y) noexcept {
@@ -32,6 +32,7 @@ std::uint32_t* PixelAt(HDC dc, int x, int y) noexcept {
 }  // namespace
 
 HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height) {
+    // Two sides within the limit multiply without overflow.
     const bool sized = width > 0 && width <= MaxSide && height > 0 && height <= MaxSide &&
                        width * height <= MaxPixels;
     if (!Contexts().Find(dc) || !sized) {

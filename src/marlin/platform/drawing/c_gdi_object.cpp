@@ -39,11 +39,13 @@ HGDIOBJ CGdiObject::Detach() noexcept {
     return std::exchange(m_hObject, nullptr);
 }
 
+// Detached first: the table forgets the wrapper before its object goes.
 bool CGdiObject::DeleteObject() noexcept {
     return m_hObject && ::DeleteObject(Detach()) != 0;
 }
 
 bool CGdiObject::CreateStockObject(int index) noexcept {
+    // Not attached: several wrappers may hold a stock object.
     m_hObject = ::GetStockObject(index);
     return m_hObject != nullptr;
 }

@@ -57,6 +57,7 @@ HDC CreateCompatibleDC(HDC dc) {
     }
     ContextRecord context;
     context.Memory = true;
+    // So that selecting a first bitmap returns something to go back to.
     context.Bitmap = EmptyBitmap();
     return static_cast<HDC>(Contexts().Add(std::move(context)));
 }
@@ -77,6 +78,7 @@ int GetDeviceCaps(HDC dc, int index) noexcept {
     switch (index) {
         case TECHNOLOGY:
             return DT_RASDISPLAY;
+        // 1920 and 1080 pixels at 96 dots an inch, in whole millimetres.
         case HORZSIZE:
             return 508;
         case VERTSIZE:
@@ -89,6 +91,7 @@ int GetDeviceCaps(HDC dc, int index) noexcept {
             return 32;
         case PLANES:
             return 1;
+        // -1 means more than 256.
         case NUMCOLORS:
             return -1;
         case LOGPIXELSX:

@@ -21,7 +21,7 @@ HGDIOBJ MakeStockFont(int height, const char* face) {
     return Fonts().Add(std::move(font));
 }
 
-// Numbers without an object stay null.
+// Numbers without an object, pens and palettes among them, stay null.
 StockObjects MakeStockObjects() {
     StockObjects objects{};
     const auto set = [&](int index, HGDIOBJ object) {
@@ -44,6 +44,7 @@ StockObjects MakeStockObjects() {
 template <typename Table>
 BOOL Delete(Table& table, HGDIOBJ handle) noexcept {
     const auto* record = table.Find(handle);
+    // Deleting a stock object succeeds, because wrappers delete whatever they hold.
     return record && (record->Stock || table.Remove(handle));
 }
 

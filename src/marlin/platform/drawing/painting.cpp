@@ -56,6 +56,7 @@ int FrameRect(HDC dc, const RECT* rect, HBRUSH brush) noexcept {
     return Paint(dc, rect, brush, [&](const ContextRecord& context, COLORREF color) {
         const auto [left, right] = std::minmax(rect->left, rect->right);
         const auto [top, bottom] = std::minmax(rect->top, rect->bottom);
+        // An empty rectangle has no inside for its edge.
         if (left == right || top == bottom) {
             return;
         }

@@ -14,6 +14,7 @@ namespace {
 using namespace PLATFORM;
 using namespace PLATFORM::detail;
 
+// The flags of each direction share bits; these two have all of theirs.
 constexpr unsigned int HorizontalBits = TA_CENTER;
 constexpr unsigned int VerticalBits = TA_BASELINE;
 
@@ -25,7 +26,7 @@ struct Piece {
     Placement At;
 };
 
-// Design units from the text's start to its reference point.
+// Design units from the start of the text to its reference point.
 double ReferenceX(unsigned int alignment, double advance) noexcept {
     const unsigned int horizontal = alignment & HorizontalBits;
     if (horizontal == TA_CENTER) {

@@ -42,6 +42,7 @@ bool Describe(const InstalledFont& font, LOGFONTA& logical, TEXTMETRICA& metrics
     logical.lfWeight = metrics.tmWeight = font.Weight;
     logical.lfItalic = metrics.tmItalic = font.Italic;
     logical.lfOutPrecision = OUT_TT_ONLY_PRECIS;
+    // The same bit means a fixed pitch in one and a variable one in the other.
     logical.lfPitchAndFamily = font.FixedPitch ? 1 : 2;
     metrics.tmPitchAndFamily = font.FixedPitch ? 6 : 7;
     face.copy(logical.lfFaceName, face.size());

@@ -33,12 +33,11 @@ bool IsLowered(const DepthLabelInfo& dli) noexcept {
 // The rectangle's way up by the font's descent, which puts the label's baseline on its position.
 // None for the baseline justifications: their boxes have no descent.
 Vector DescentShift(const DepthLabelInfo& dli, const Rect& integers) {
-    const Vector up = integers.Point(2) - integers.Point(1);
-    const double length = std::hypot(up.x, up.y);
-    if (dli.Justification() >= TextInfo::BASELINE_LEFT &&
-        dli.Justification() <= TextInfo::BASELINE_RIGHT) {
+    if (IsOnBaseline(dli)) {
         return {};
     }
+    const Vector up = integers.Point(2) - integers.Point(1);
+    const double length = std::hypot(up.x, up.y);
     const TextMeasure measure = TextMeasure::Of(dli);
     const TEXTMETRICA& tm = measure.Metrics().otmTextMetrics;
     if (length == 0 || tm.tmHeight == 0) {
@@ -49,6 +48,8 @@ Vector DescentShift(const DepthLabelInfo& dli, const Rect& integers) {
                   static_cast<double>(dli.Size()) * tm.tmDescent * factor / tm.tmHeight / length);
 }
 
+// The parts' outer corners are the ends of a diagonal of the label; which ones they are depends on
+// where the decimals are.
 Vector CentreOfLabel(const DepthLabelInfo& dli, const Rect& integers, const Rect& decimals) {
     const Point& origin = integers.Point(0);
     if (IsMerged(dli)) {
@@ -103,6 +104,7 @@ bool KeepsPoint(const DepthLabelInfo& dli) noexcept {
 
 std::size_t SplitPoint(const DepthLabelInfo& dli, const std::string& number) noexcept {
     const bool inOnePiece = IsMerged(dli) && dli.Placement() == DepthLabelInfo::PLACEMENT_2;
+    // A centred number needs no point where its decimals begin.
     return inOnePiece ? std::string::npos : number.find('.');
 }
 
@@ -115,6 +117,7 @@ LabelRect DecimalsSetApart(const DepthLabelInfo& dli, const LabelRect& integers,
                            const LabelVector& size) noexcept {
     const Vector up = integers.Point(2) - integers.Point(1);
     const double thirds = (IsRaised(dli) ? 1.0 : 0.0) - (IsLowered(dli) ? 1.0 : 0.0);
+    // The contract turns the gap the other way round than the text.
     const double gap = 0.15 * dli.Size();
     const Vector along(gap * dli.Rotation().Cos(), gap * dli.Rotation().Sin());
     return Placed(integers.Point(1) + Sum(Scaled(up, thirds / 3.0), along), size, dli.Rotation());

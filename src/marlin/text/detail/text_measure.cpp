@@ -34,6 +34,11 @@ SizedFont FontOf(const TextInfo& ti, int height) {
 
 }  // namespace
 
+bool IsOnBaseline(const TextInfo& ti) noexcept {
+    return ti.Justification() >= TextInfo::BASELINE_LEFT &&
+           ti.Justification() <= TextInfo::BASELINE_RIGHT;
+}
+
 TextMeasure::TextMeasure(const TextInfo& ti)
     : m_Factor(TextHeightFactComp::Get()(ti)),
       m_Metrics(&TextHeightFactComp::Get().GetMetrics(ti)),
@@ -56,6 +61,7 @@ TextMeasure TextMeasure::Of(const TextInfo& ti) {
     if (const auto known = measures.find(ti); known != measures.end()) {
         return known->second;
     }
+    // A font that is not there yet may come, so a failure is not kept.
     const TextMeasure measure(ti);
     if (measure.m_Font) {
         measures.emplace(ti, measure);

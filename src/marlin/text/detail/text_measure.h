@@ -10,6 +10,9 @@
 
 namespace MARLINSUITE::detail {
 
+/// True for the justifications whose box has its lower edge on the baseline.
+[[nodiscard]] bool IsOnBaseline(const TextInfo& ti) noexcept;
+
 /// Measures lines of text in one style, in logical units: the width of the text and the height of
 /// the font's cell. Empty, with sizes of 0, for a style that cannot be measured. No device context
 /// takes part, because a font of a given height measures the same in all of them.

@@ -27,6 +27,7 @@ int UnitsPerInch(int mode) noexcept {
 }
 
 int Map(int value, int fromOrigin, int fromExtent, int toOrigin, int toExtent) noexcept {
+    // In double precision, which 32-bit coordinates neither overflow nor lose digits in.
     const double offset = static_cast<double>(value) - fromOrigin;
     return RoundToInt(offset * toExtent / fromExtent + toOrigin);
 }
@@ -38,6 +39,8 @@ bool Mapping::SetMode(int mode) noexcept {
         return false;
     }
     Mode = mode;
+    // The free mode of square units starts with tenths of a millimetre; the other keeps what is
+    // set.
     if (mode == MM_TEXT) {
         WindowExtent = ViewportExtent = {1, 1};
     } else if (mode != MM_ANISOTROPIC) {
@@ -62,6 +65,7 @@ bool Mapping::SetExtent(SIZE Mapping::*extent, SIZE value) noexcept {
     return true;
 }
 
+// Shrinks the axis of larger units, so that the picture stays within the viewport that was asked.
 void Mapping::MakeSquare() noexcept {
     const double scaleX = ScaleX();
     const double scaleY = ScaleY();

@@ -69,6 +69,7 @@ struct Ink {
     std::uint32_t Pixel;
 };
 
+// Each component by itself, rounded to the nearest.
 std::uint32_t Mix(std::uint32_t below, std::uint32_t above, std::uint32_t coverage) noexcept {
     std::uint32_t mixed = 0;
     for (unsigned int shift = 0; shift < 24; shift += 8) {
@@ -82,7 +83,7 @@ std::uint32_t Mix(std::uint32_t below, std::uint32_t above, std::uint32_t covera
 void PaintSpans(int y, int count, const FT_Span* spans, void* user) {
     const Ink& ink = *static_cast<const Ink*>(user);
     BitmapRecord& surface = *ink.Surface;
-    const int row = -1 - y;
+    const int row = -1 - y;  // upwards to downwards
     if (row < 0 || row >= surface.Height) {
         return;
     }
@@ -116,6 +117,7 @@ void PaintShape(const std::vector<OutlineStep>& steps, const Placement& placemen
     parameters.user = &ink;
     parameters.clip_box = {0, -surface.Height, surface.Width, 0};
     FT_Outline outline = contours.Outline();
+    // An instance of FreeType serves one thread at a time.
     const std::scoped_lock lock(FontStore::Lock());
     if (FreeType()) {
         FT_Outline_Render(FreeType(), &outline, &parameters);

@@ -81,6 +81,7 @@ Pattern PatternOf(const FontWish& wish, const std::string& family) {
     FcPatternAddInteger(pattern.get(), FC_WEIGHT, FcWeightFromOpenType(wish.Weight));
     FcPatternAddInteger(pattern.get(), FC_SLANT, wish.Italic ? FC_SLANT_ITALIC : FC_SLANT_ROMAN);
     FcPatternAddString(pattern.get(), FC_LANG, reinterpret_cast<const FcChar8*>("en"));
+    // A variable font would have to be set to the weight before each use.
     FcPatternAddBool(pattern.get(), FC_VARIABLE, FcFalse);
     if (wish.OutlineFirst) {
         FcPatternAddBool(pattern.get(), FC_SCALABLE, FcTrue);
@@ -141,7 +142,7 @@ void FontQuery::UseSystem() {
 
 void FontQuery::Refresh() {
     if (m_OnlyFolders) {
-        m_Configuration.reset();
+        m_Configuration.reset();  // reads the folders again
     } else {
         FcInitBringUptoDate();
     }

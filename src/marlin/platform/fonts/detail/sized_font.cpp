@@ -53,6 +53,7 @@ TEXTMETRICA SizedFont::CellMetrics() const noexcept {
     TEXTMETRICA tm;
     tm.tmHeight = m_Cell;
     tm.tmAscent = Round(face.CellAscent);
+    // What is left of the cell, so that the two always add up to it.
     tm.tmDescent = m_Cell - tm.tmAscent;
     tm.tmInternalLeading = m_Cell - Round(face.UnitsPerEm);
     tm.tmExternalLeading = Round(face.ExternalLeading);
@@ -61,6 +62,7 @@ TEXTMETRICA SizedFont::CellMetrics() const noexcept {
     tm.tmWeight = face.Weight;
     tm.tmDigitizedAspectX = DotsPerInch;
     tm.tmDigitizedAspectY = DotsPerInch;
+    // Every byte of the code page can be measured, whatever the face has glyphs for.
     tm.tmFirstChar = 32;
     tm.tmLastChar = 255;
     tm.tmDefaultChar = 31;

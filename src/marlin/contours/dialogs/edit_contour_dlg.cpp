@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/help_provider.h>
-#include <marlin/contours/dialogs/detail/fixed_number.h>
+#include <marlin/contours/dialogs/detail/contour_rows.h>
 #include <marlin/contours/dialogs/edit_contour_dlg.h>
 #include <marlin/platform/windowing/c_data_exchange.h>
 #include <marlin/resources/dialogs.h>
 
-using MARLINSUITE::detail::FixedNumber;
-using MARLINSUITE::detail::LevelDecimals;
+using MARLINSUITE::detail::LevelText;
 using enum MARLINSUITE::DIALOG;
 using enum MARLINSUITE::CONTROL_ID;
 
@@ -28,7 +27,7 @@ void CEditContourDlg::ExchangeLevel(CDataExchange& exchange) {
     if (exchange.m_bSaveAndValidate) {
         DDX_Text(&exchange, CONTROL_LEVEL, m_Definition.Level);
     } else {
-        CString text = FixedNumber(m_Definition.Level, LevelDecimals);
+        CString text = LevelText(m_Definition.Level);
         DDX_Text(&exchange, CONTROL_LEVEL, text);
     }
 }

@@ -2,7 +2,7 @@
 #include <marlin/base/marlin_string.h>
 #include <marlin/contours/contour_definition_list.h>
 #include <marlin/contours/dialogs/detail/contour_rows.h>
-#include <marlin/contours/dialogs/detail/fixed_number.h>
+#include <marlin/core/number_text.h>
 #include <marlin/platform/drawing/c_bitmap.h>
 #include <marlin/platform/drawing/c_brush.h>
 #include <marlin/platform/drawing/c_dc.h>
@@ -19,6 +19,12 @@ enum COLUMN { LEVEL, ANNOTATION, WIDTH, TYPE };
 constexpr int swatchSize = 16;
 // The mask color, so that black definitions have no swatch.
 constexpr COLORREF black = 0;
+
+CString Fixed(double value, int decimals) {
+    std::string text;
+    AppendFixed(text, value, decimals);
+    return CString(text);
+}
 
 void InsertColumn(CListCtrl& list, COLUMN column, MESSAGE heading, int width) {
     list.InsertColumn(column, CString(Message(heading)), LVCFMT_LEFT, width);
@@ -46,14 +52,17 @@ void AppendRow(const ContourDefinitionList& definitions, int index, CListCtrl& l
     const auto width = static_cast<double>(shown.LineWidth);
     CString type;
     CMarlinString(CString(Message(MESSAGE::LINE_TYPES)), ',').GetItem(shown.LineType, type);
-    const int row =
-        list.InsertItem(list.GetItemCount(), FixedNumber(shown.Level, LevelDecimals), index);
+    const int row = list.InsertItem(list.GetItemCount(), LevelText(shown.Level), index);
     list.SetItemText(row, ANNOTATION, shown.Annotate ? "Yes" : "No");
-    list.SetItemText(row, WIDTH, FixedNumber(width, WidthDecimals));
+    list.SetItemText(row, WIDTH, Fixed(width, 1));
     list.SetItemText(row, TYPE, type);
 }
 
 }  // namespace
+
+CString LevelText(double level) {
+    return Fixed(level, 2);
+}
 
 void InsertContourColumns(CListCtrl& list) {
     InsertColumn(list, LEVEL, MESSAGE::COLUMN_LEVEL, 70);
@@ -72,7 +81,7 @@ void ShowContours(const ContourDefinitionList& definitions, CImageList& swatches
 }
 
 int RowOfLevel(const CListCtrl& list, double level) {
-    const CString text = FixedNumber(level, LevelDecimals);
+    const CString text = LevelText(level);
     const int count = list.GetItemCount();
     for (int row = 0; row < count; ++row) {
         if (list.GetItemText(row, LEVEL) == text) {

@@ -60,8 +60,11 @@ private:
     unsigned int m_Hash = 0;
 };
 
-/// For the standard containers that find names by their hash.
+// For the standard containers that find names by their hash. The reference leaves it out:
+// Doxygen takes a specialisation outside its namespace for an error.
+/// @cond
 template <>
 struct std::hash<HashedString> {
     std::size_t operator()(const HashedString& name) const noexcept { return name.HashValue(); }
 };
+/// @endcond

@@ -90,93 +90,85 @@ struct LineOptions {
 
 // The part that the three commands share: all is read and understood before anything changes.
 struct ChangeContours {
-    std::string Path;
-    std::vector<std::string> LevelTexts;
-    std::vector<double> Levels;
-    ContourFile File;
+    std::string File;
+    std::vector<std::string> Levels;
 
     void Declare(Options& options) {
-        options.Word("FILE", Path, "Contour definition file");
-        options.Words("LEVEL", LevelTexts, "Levels, to six decimals");
+        options.Word("FILE", File, "Contour definition file");
+        options.Words("LEVEL", Levels, "Levels, to six decimals");
     }
 
-    [[nodiscard]] Contour& FindOrRefuse(double level) {
-        Contour* const contour = File.Find(level);
+    [[noreturn]] void RefuseLevel(double level, const std::string& reason) const {
+        Refuse(File + ": level " + LevelText(level) + " " + reason + "; nothing written");
+    }
+    [[nodiscard]] Contour& FindIn(ContourFile& file, double level) const {
+        Contour* const contour = file.Find(level);
         if (!contour) {
             RefuseLevel(level, "is not there");
         }
         return *contour;
     }
-    [[noreturn]] void RefuseLevel(double level, const std::string& reason) const {
-        Refuse(Path + ": level " + LevelText(level) + " " + reason + "; nothing written");
-    }
-
-    [[nodiscard]] int Save(const std::string& done, Output& output) {
-        Require(File.Save());
+    [[nodiscard]] int Save(ContourFile& file, const std::string& done, Output& output) const {
+        file.Save();
         output.Text += CountText(Levels.size(), "level") + " " + done + "\n";
         return DONE;
     }
 };
 
-struct SetContours : ChangeContours {
+struct ChangeLines : ChangeContours {
     LineOptions Line;
 
     void Declare(Options& options) {
         ChangeContours::Declare(options);
         Line.Declare(options);
-    }
-
-    int Run(Output& output) {
-        Levels = ParseLevels(LevelTexts);
-        Line.Check();
-        Require(File.Open(Path, false));
-        if (Line.Empty()) {
-            Fail("nothing to set: --color, --line-type, --width or --label");
-        }
-        for (const double level : Levels) {
-            Line.ApplyTo(FindOrRefuse(level));
-        }
-        return Save("set", output);
     }
 };
 
-struct AddContourLevels : ChangeContours {
-    LineOptions Line;
-
-    void Declare(Options& options) {
-        ChangeContours::Declare(options);
-        Line.Declare(options);
-    }
-
-    int Run(Output& output) {
-        Levels = ParseLevels(LevelTexts);
+struct SetContours : ChangeLines {
+    int Run(Output& output) const {
+        const std::vector<double> levels = ParseLevels(Levels);
         Line.Check();
-        Require(File.Open(Path, true));
-        for (const double level : Levels) {
-            if (File.Find(level)) {
+        ContourFile file(File, ContourFile::FAILS);
+        if (Line.Empty()) {
+            Fail("nothing to set: --color, --line-type, --width or --label");
+        }
+        for (const double level : levels) {
+            Line.ApplyTo(FindIn(file, level));
+        }
+        return Save(file, "set", output);
+    }
+};
+
+struct AddLevels : ChangeLines {
+    int Run(Output& output) const {
+        const std::vector<double> levels = ParseLevels(Levels);
+        Line.Check();
+        ContourFile file(File, ContourFile::IS_EMPTY);
+        for (const double level : levels) {
+            if (file.Find(level)) {
                 RefuseLevel(level, "exists");
             }
             Contour contour;
             contour.Level = level;
             Line.ApplyTo(contour);
-            File.Add(contour);
+            file.Add(contour);
         }
-        return Save(File.IsNew() ? "added to a new file" : "added", output);
+        return Save(file, file.IsNew() ? "added to a new file" : "added", output);
     }
 };
 
-struct RemoveContours : ChangeContours {
-    int Run(Output& output) {
-        Levels = ParseLevels(LevelTexts);
-        Require(File.Open(Path, false));
-        for (const double level : Levels) {
-            static_cast<void>(FindOrRefuse(level));
-            File.Remove(level);
+struct RemoveLevels : ChangeContours {
+    int Run(Output& output) const {
+        const std::vector<double> levels = ParseLevels(Levels);
+        ContourFile file(File, ContourFile::FAILS);
+        for (const double level : levels) {
+            static_cast<void>(FindIn(file, level));
+            file.Remove(level);
         }
-        if (File.Empty()) {
-            Refuse(Path + ": a contour file keeps one level at least; nothing written");
+        if (file.Empty()) {
+            Refuse(File + ": a contour file keeps one level at least; nothing written");
         }
-        return Save("removed", output);
+        return Save(file, "removed", output);
     }
 };
 
@@ -184,8 +176,8 @@ struct RemoveContours : ChangeContours {
 
 void AddChangeContours(Family& contours) {
     contours.Add<SetContours>("set", "Change the lines of levels");
-    contours.Add<AddContourLevels>("add", "Add levels; makes the file when it is missing");
-    contours.Add<RemoveContours>("remove", "Remove levels");
+    contours.Add<AddLevels>("add", "Add levels; makes the file when it is missing");
+    contours.Add<RemoveLevels>("remove", "Remove levels");
 }
 
 }  // namespace HOST

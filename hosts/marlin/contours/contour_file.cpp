@@ -1,176 +1,133 @@
 // SPDX-License-Identifier: MIT
 #include "contour_file.h"
 
+#include "input/ignoring_case.h"
 #include "input/level.h"
+#include "output/failure.h"
 #include <marlin/base/files/file_replacement.h>
-#include <marlin/base/math.h>
-#include <marlin/color/dxf_color.h>
 #include <marlin/core/ascii.h>
-#include <marlin/core/number_text.h>
 
 #include <algorithm>
-#include <cmath>
 #include <filesystem>
 #include <iterator>
 #include <string_view>
+#include <system_error>
 #include <utility>
 
 namespace HOST {
 
 namespace {
 
-constexpr std::string_view contourStart = "Contour(";
-
-std::string ContourName(int number) {
-    std::string name(contourStart);
-    MARLINSUITE::AppendNumber(name, number);
-    return name + ")";
-}
-
 bool IsContourName(std::string_view name) {
-    return PLATFORM::EqualIgnoringCase(name.substr(0, contourStart.size()), contourStart);
+    constexpr std::string_view start = "Contour(";
+    return PLATFORM::EqualIgnoringCase(name.substr(0, start.size()), start);
 }
 
-// The list reads a file by its path, a second time; what can be read once only is refused.
-ErrorString OpenSource(const std::string& path, SettingsSource& source) {
-    std::error_code error;
-    const std::filesystem::file_status status = std::filesystem::status(path, error);
-    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status) &&
-        !std::filesystem::is_directory(status)) {
-        return ErrorString(path + ": not a regular file");
-    }
-    return source.OpenWithSections(path);
-}
-
-ErrorString LoadList(const SettingsSource& source, ContourDefinitionList& contours) {
-    const std::string& path = source.Path();
-    if (!contours.Load(path.c_str())) {
-        return ErrorString(path + ": no section [Contour(0)]: not a contour definition file");
-    }
-    const auto numContourSections = std::ranges::count_if(
-        source.File().Sections(),
-        [](const Section& section) { return IsContourName(*section.GetName()); });
-    if (numContourSections != contours.NumContours()) {
-        return ErrorString(path + ": no section [" + ContourName(contours.NumContours()) +
-                           "], but others of higher numbers, which are not read");
-    }
-    return {};
-}
-
-// A value that the key does not hold already goes in, so that keys that say the same are left
-// alone, a section's seal with them.
-template <class T>
-void Put(Section& section, const char* name, T value) {
-    SectionKey& key = section[name];
-    T stored{};
-    if (!MARLINSUITE::ParseNumber(key.GetValue(), stored) || stored != value) {
-        key << value;
-    }
-}
-
-void PutColor(Section& section, unsigned long color) {
-    unsigned long stored = 0;
-    const bool isExact =
-        MARLINSUITE::ParseNumber(std::as_const(section)["TrueColor"].GetValue(), stored);
-    int index = -1;
-    MARLINSUITE::ParseNumber(std::as_const(section)["Color"].GetValue(), index);
-    const bool isSame = isExact
-                            ? stored == color
-                            : index >= 0 && static_cast<unsigned long>(DXFColor(index)) == color;
-    if (!isSame) {
-        section["Color"] << DXFColor(color).Index();
-        section["TrueColor"] << color;
-    }
-}
-
-int LineTypeOf(std::string_view text) {
-    const auto* const end = std::end(ContourDefinitionList::LINESTYLES);
-    const auto* const found = std::find_if(
-        std::begin(ContourDefinitionList::LINESTYLES), end,
-        [text](const std::string& name) { return PLATFORM::EqualIgnoringCase(name, text); });
-    return found == end ? 0 : static_cast<int>(found - ContourDefinitionList::LINESTYLES);
-}
-
-// Keys that a section lacks take the values of the section before it when they are read; it may
-// get another neighbor, so they are written. The line type alone has a value of its own.
-void PutContour(Section& section, const Contour& contour) {
-    Put(section, "Level", contour.Level);
-    PutColor(section, contour.Color);
-    if (LineTypeOf(std::as_const(section)["LineType"].GetValue()) != contour.LineType) {
-        section["LineType"] << ContourDefinitionList::LINESTYLES[contour.LineType];
-    }
-    Put(section, "LineWidth", contour.LineWidth);
-    Put(section, "Annotate", contour.Annotate);
-}
-
-// A section that is new has its keys in the order in which lists write them.
-Section BlankSection() {
-    Section section("Contour");
-    section["Level"] << 0.0;
-    section["Color"] << 0;
-    section["TrueColor"] << 0UL;
-    section["LineType"] << ContourDefinitionList::LINESTYLES[0];
-    section["LineWidth"] << 0.0F;
-    section["Annotate"] << false;
-    return section;
-}
-
-// By number. The list found all of them, so the numbers have no gap.
-std::vector<int> PositionsOf(const IniFile& file, int count) {
-    std::vector<int> positions(static_cast<std::size_t>(count));
-    for (int i = 0; i < file.NumSections(); ++i) {
-        const std::string_view name = *file[i].GetName();
-        unsigned int number = 0;
-        if (IsContourName(name) &&
-            MARLINSUITE::ParseNumber(name.substr(contourStart.size()), number)) {
-            positions[number] = i;
+// By number, without a gap.
+std::vector<int> PositionsOf(const SettingsSource& source) {
+    ByName<int> sections;
+    for (int i = 0; i < source.File().NumSections(); ++i) {
+        if (const std::string& name = *source.File()[i].GetName(); IsContourName(name)) {
+            sections.emplace(name, i);
         }
+    }
+    std::vector<int> positions;
+    std::string name = ContourDefinitionList::SectionName(0);
+    for (auto found = sections.find(name); found != sections.end(); found = sections.find(name)) {
+        positions.push_back(found->second);
+        name = ContourDefinitionList::SectionName(static_cast<int>(positions.size()));
+    }
+    if (positions.empty()) {
+        Fail(source.Path() + ": no section [" + name + "]: not a contour definition file");
+    }
+    if (positions.size() != sections.size()) {
+        Fail(source.Path() + ": no section [" + name +
+             "], but others of higher numbers, which are not read");
     }
     return positions;
 }
 
+// A key that a section lacks has its value from the section before, so they are read in a row.
+class Reading {
+public:
+    const Contour& Next(const Section& section) {
+        m_Contour.Read(section, m_PaletteIndex);
+        return m_Contour;
+    }
+
+private:
+    Contour m_Contour;
+    int m_PaletteIndex = 0;
+};
+
+std::vector<Contour> ContoursAt(const std::vector<int>& positions, const IniFile& file) {
+    Reading reading;
+    std::vector<Contour> contours;
+    contours.reserve(positions.size());
+    for (const int position : positions) {
+        contours.push_back(reading.Next(file[position]));
+    }
+    return contours;
+}
+
+bool AreSame(const Contour& a, const Contour& b) {
+    return a.Level == b.Level && a.Color == b.Color && a.LineType == b.LineType &&
+           a.LineWidth == b.LineWidth && a.Annotate == b.Annotate;
+}
+
+// Numbers are compared to six decimals, with which they would be written.
+bool IsSameValue(const std::string& text, const std::string& other) {
+    double number = 0.0;
+    double otherNumber = 0.0;
+    return PLATFORM::EqualIgnoringCase(text, other) ||
+           (ParseLevel(text, number) && ParseLevel(other, otherNumber) && number == otherNumber);
+}
+
+// Values that the section has already keep the text that somebody gave them.
+void Write(const Contour& contour, Section& section) {
+    Section wanted("");
+    contour.Write(wanted);
+    for (const SectionKey& key : wanted.Keys()) {
+        SectionKey& old = section[*key.GetName()];
+        if (!IsSameValue(old.GetValue(), key.GetValue())) {
+            old << key.GetValue();
+        }
+    }
+}
+
 }  // namespace
 
-ErrorString ReadContours(const std::string& path, ContourDefinitionList& contours) {
+std::vector<Contour> ReadContours(const std::string& path) {
     SettingsSource source;
-    if (ErrorString error = OpenSource(path, source); !error.Empty()) {
-        return error;
-    }
-    return LoadList(source, contours);
+    Require(source.OpenWithSections(path));
+    return ContoursAt(PositionsOf(source), source.File());
 }
 
-ErrorString ContourFile::Open(const std::string& path, bool canBeNew) {
-    m_Path = path;
-    std::error_code error;
-    m_IsNew = canBeNew && !std::filesystem::exists(path, error) && !error;
-    if (m_IsNew) {
-        return {};
+ContourFile::ContourFile(std::string path, MISSING missing) : m_Path(std::move(path)) {
+    const ErrorString outcome = m_Source.OpenWithSections(m_Path);
+    std::error_code unknown;
+    m_IsNew = missing == IS_EMPTY && !outcome.Empty() && m_Source.Path().empty() &&
+              !std::filesystem::exists(m_Path, unknown) && !unknown;
+    if (!m_IsNew) {
+        Require(outcome);
+        Require(m_Source.CanBeSaved());
+        TakeItems();
     }
-    ContourDefinitionList contours;
-    ErrorString failure = OpenSource(path, m_Source);
-    if (failure.Empty()) {
-        failure = m_Source.CanBeSaved();
-    }
-    if (failure.Empty()) {
-        failure = LoadList(m_Source, contours);
-    }
-    return failure.Empty() ? TakeItems(contours) : failure;
 }
 
-ErrorString ContourFile::TakeItems(const ContourDefinitionList& contours) {
-    m_Positions = PositionsOf(m_Source.File(), contours.NumContours());
-    for (int i = 0; i < contours.NumContours(); ++i) {
-        const Section& section = m_Source.File()[m_Positions[static_cast<std::size_t>(i)]];
-        m_Items.push_back({StoredLevel(contours[i].Level), contours[i], section});
+void ContourFile::TakeItems() {
+    m_Positions = PositionsOf(m_Source);
+    const std::vector<Contour> contours = ContoursAt(m_Positions, m_Source.File());
+    for (std::size_t i = 0; i < contours.size(); ++i) {
+        m_Items.push_back(
+            {StoredLevel(contours[i].Level), contours[i], m_Source.File()[m_Positions[i]]});
     }
     std::ranges::stable_sort(m_Items, {}, &Item::Level);
     const auto twice = std::ranges::adjacent_find(m_Items, {}, &Item::Level);
     if (twice != m_Items.end()) {
-        return ErrorString(m_Path + ": level " + LevelText(twice->Level) + " stands twice, in [" +
-                           *twice->Keys.GetName() + "] and [" + *std::next(twice)->Keys.GetName() +
-                           "]");
+        Fail(m_Path + ": level " + LevelText(twice->Level) + " stands twice, in [" +
+             *twice->Keys.GetName() + "] and [" + *std::next(twice)->Keys.GetName() + "]");
     }
-    return {};
 }
 
 std::vector<ContourFile::Item>::iterator ContourFile::LowerBound(double level) {
@@ -183,30 +140,35 @@ Contour* ContourFile::Find(double level) {
 }
 
 void ContourFile::Add(const Contour& contour) {
-    m_Items.insert(LowerBound(contour.Level), {contour.Level, contour, BlankSection()});
+    m_Items.insert(LowerBound(contour.Level), {contour.Level, contour, Section("")});
 }
 
 void ContourFile::Remove(double level) {
     m_Items.erase(LowerBound(level));
 }
 
-ErrorString ContourFile::Save() {
+// Only a section that would be read otherwise is written anew, so that seals stay where nothing
+// has changed; one that lacks a key may have got another section before it.
+void ContourFile::Save() {
     IniFile& file = m_Source.File();
+    Reading reading;
     for (std::size_t i = 0; i < m_Items.size(); ++i) {
-        const std::string name = ContourName(static_cast<int>(i));
-        if (i == m_Positions.size()) {
-            m_Positions.push_back(file.NumSections());
-            static_cast<void>(file[name]);
-        }
         Section& section = m_Items[i].Keys;
-        section.SetName(name);
-        PutContour(section, m_Items[i].Definition);
-        file[m_Positions[i]] = std::move(section);
+        section.SetName(ContourDefinitionList::SectionName(static_cast<int>(i)));
+        if (section.NumKeys() == 0 || !AreSame(reading.Next(section), m_Items[i].Definition)) {
+            Write(m_Items[i].Definition, section);
+            reading.Next(section);
+        }
+        if (i < m_Positions.size()) {
+            file[m_Positions[i]] = std::move(section);
+        } else {
+            file.AddSection(section);
+        }
     }
     for (std::size_t i = m_Items.size(); i < m_Positions.size(); ++i) {
-        file.RemoveSection(ContourName(static_cast<int>(i)));
+        file.RemoveSection(ContourDefinitionList::SectionName(static_cast<int>(i)));
     }
-    return MARLINSUITE::ReplaceFile(m_Path, m_Source.Text());
+    Require(MARLINSUITE::ReplaceFile(m_Path, m_Source.Text()));
 }
 
 }  // namespace HOST

@@ -5,26 +5,28 @@
 #include <marlin/contours/contour_definition_list.h>
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace HOST {
 
 using Contour = ContourDefinitionList::ContourDefInfo;
 
-/// Reads a contour definition file into an empty list. A failure names file and cause, with the
-/// line where one is known; a file that holds no definition, or a definition that no list would
-/// reach, is one.
-[[nodiscard]] ErrorString ReadContours(const std::string& path, ContourDefinitionList& contours);
+/// Reads the definitions of a contour file, in the order of their numbers. Fails for a file that
+/// holds none, or one that readers would not reach because a number before it is missing.
+[[nodiscard]] std::vector<Contour> ReadContours(const std::string& path);
 
 /// A contour definition file that is changed definition by definition. Comments, other keys and
 /// other sections stay. Definitions are kept in ascending order of level, no level twice.
 class ContourFile {
 public:
-    /// `canBeNew`: a file that does not exist is one without definitions.
-    [[nodiscard]] ErrorString Open(const std::string& path, bool canBeNew);
-    [[nodiscard]] ErrorString Save();
+    enum MISSING { FAILS, IS_EMPTY };
 
+    /// Fails as `ReadContours` does, for a level that the file has twice, and for text that
+    /// saving would drop. `missing` says what a path without a file does.
+    ContourFile(std::string path, MISSING missing);
+    void Save();
+
+    /// Whether there was no file.
     [[nodiscard]] bool IsNew() const noexcept { return m_IsNew; }
     [[nodiscard]] bool Empty() const noexcept { return m_Items.empty(); }
     /// Null for a level that has no definition.
@@ -41,11 +43,11 @@ private:
         Section Keys;  // as read
     };
 
-    [[nodiscard]] ErrorString TakeItems(const ContourDefinitionList& contours);
+    void TakeItems();
     [[nodiscard]] std::vector<Item>::iterator LowerBound(double level);
 
-    SettingsSource m_Source;
     std::string m_Path;
+    SettingsSource m_Source;
     bool m_IsNew = false;
     std::vector<int> m_Positions;  // in the file, of the sections by their numbers
     std::vector<Item> m_Items;     // in order of level

@@ -11,11 +11,10 @@ namespace HOST {
 
 namespace {
 
-void AppendTable(const ContourDefinitionList& contours, Output& output) {
+void AppendTable(const std::vector<Contour>& contours, Output& output) {
     Table table{{"Level", Table::RIGHT}, {"Color"}, {"DXF", Table::RIGHT}, {"Line type"},
                 {"Width", Table::RIGHT}, {"Labels"}};
-    for (int i = 0; i < contours.NumContours(); ++i) {
-        const Contour& contour = contours[i];
+    for (const Contour& contour : contours) {
         table << LevelText(contour.Level) << RGBColor(contour.Color)
               << DXFColor(contour.Color).Index()
               << ContourDefinitionList::LINESTYLES[contour.LineType]
@@ -24,10 +23,9 @@ void AppendTable(const ContourDefinitionList& contours, Output& output) {
     table.AppendTo(output);
 }
 
-Json JsonOf(const ContourDefinitionList& contours) {
+Json JsonOf(const std::vector<Contour>& contours) {
     Json list = Json::array();
-    for (int i = 0; i < contours.NumContours(); ++i) {
-        const Contour& contour = contours[i];
+    for (const Contour& contour : contours) {
         list.push_back({{"level", JsonNumber(contour.Level)},
                         {"color", ColorText(RGBColor(contour.Color))},
                         {"dxf", DXFColor(contour.Color).Index()},
@@ -48,8 +46,7 @@ struct ListContours {
     }
 
     int Run(Output& output) const {
-        ContourDefinitionList contours;
-        Require(ReadContours(File, contours));
+        const std::vector<Contour> contours = ReadContours(File);
         if (IsJson) {
             AppendJson({{"file", AsUtf8(File)}, {"contours", JsonOf(contours)}}, output);
         } else {

@@ -5,6 +5,7 @@
 #include <marlin/platform/fonts/text_outline.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -135,33 +136,24 @@ TEST(FontFaults, ABitmapFontIsNotMeasured) {
     EXPECT_TRUE(FontCatalog::Families().empty());
 }
 
-// Appends the number as four bytes, the high one first.
-void AppendLong(std::string& bytes, std::size_t number) {
-    for (const unsigned int shift : {24U, 16U, 8U, 0U}) {
-        bytes += static_cast<char>(number >> shift & 0xFFU);
-    }
+// A number as the four bytes of a font file, and back.
+std::string Long(std::size_t number) {
+    const auto word = __builtin_bswap32(static_cast<std::uint32_t>(number));
+    return {reinterpret_cast<const char*>(&word), sizeof word};
 }
-
 std::size_t LongAt(const std::string& bytes, std::size_t at) {
-    std::size_t number = 0;
-    for (std::size_t i = at; i < at + 4; ++i) {
-        number = number << 8U | static_cast<unsigned char>(bytes[i]);
-    }
-    return number;
+    std::uint32_t word = 0;
+    bytes.copy(reinterpret_cast<char*>(&word), sizeof word, at);
+    return __builtin_bswap32(word);
 }
 
 // One file of two fonts: a header, then the fonts, whose tables are further on by as much.
 std::string CollectionOf(const std::string& first, const std::string& second) {
-    std::string file("ttcf\0\1\0\0", 8);
-    AppendLong(file, 2);
-    AppendLong(file, 20);
-    AppendLong(file, 20 + first.size());
+    std::string file = "ttcf" + Long(0x10000) + Long(2) + Long(20) + Long(20 + first.size());
     for (std::string font : {first, second}) {
-        const auto tables = static_cast<std::size_t>(static_cast<unsigned char>(font[5]));
-        for (std::size_t place = 12 + 8; place < 12 + 16 * tables; place += 16) {
-            std::string moved;
-            AppendLong(moved, LongAt(font, place) + file.size());
-            font.replace(place, 4, moved);
+        const auto tables = static_cast<std::size_t>(font[5]);
+        for (std::size_t place = 20; place < 12 + 16 * tables; place += 16) {
+            font.replace(place, 4, Long(LongAt(font, place) + file.size()));
         }
         file += font;
     }

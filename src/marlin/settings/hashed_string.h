@@ -43,7 +43,8 @@ public:
 
     /// Equality with the name `text`, whose hash is known, for look-ups: no name need be made.
     [[nodiscard]] bool Is(std::string_view text, unsigned int hash) const noexcept {
-        return m_Hash == hash && IsSameText(text);
+        // Nearly all names of one hash have the same letters in the same case.
+        return m_Hash == hash && (m_Text == text || IsSameButForCase(text));
     }
 
     bool operator==(const HashedString& other) const noexcept {
@@ -54,7 +55,7 @@ public:
     bool operator>(const HashedString& other) const noexcept;
 
 private:
-    [[nodiscard]] bool IsSameText(std::string_view text) const noexcept;
+    [[nodiscard]] bool IsSameButForCase(std::string_view text) const noexcept;
 
     std::string m_Text;
     unsigned int m_Hash = 0;

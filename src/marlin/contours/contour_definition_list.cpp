@@ -185,6 +185,7 @@ bool ContourDefinitionList::Load(const char* path) {
     }
     // Look-ups in the file itself would take the square of the time for twice the sections.
     std::unordered_map<HashedString, const Section*> sections;
+    sections.reserve(file.Sections().size());
     for (const Section& section : file.Sections()) {
         sections.emplace(section.GetName(), &section);
     }

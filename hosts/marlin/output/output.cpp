@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "output.h"
 
+#include <marlin/base/error_string.h>
+
 #include <cerrno>
 #include <cstdio>
-#include <system_error>
 
 namespace HOST {
 
@@ -20,7 +21,7 @@ int Finish(const Output& output, int code) {
     if (std::fflush(stdout) == 0 && isWhole) {
         return code;
     }
-    Report("standard output: " + std::generic_category().message(errno));
+    Report(MARLINSUITE::SystemReason("standard output", errno));
     return UNUSABLE;
 }
 

@@ -7,6 +7,12 @@
 
 /// A 32-bit checksum accumulator: CRC-32 over the bytes fed. Integers feed four bytes, low
 /// byte first; a string feeds its bytes and no end mark. Its value is 0 before any byte.
+/// @code
+/// CRCChecksum checksum;
+/// checksum += "12345";
+/// checksum += "6789";
+/// assert(checksum.Value() == 0xCBF43926);
+/// @endcode
 class CRCChecksum {
 public:
     constexpr CRCChecksum() noexcept = default;

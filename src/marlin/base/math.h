@@ -12,8 +12,8 @@ namespace MATH {
 /// Degrees to radians.
 inline constexpr double DTR = std::numbers::pi / 180.0;
 
-/// a == b, or both finite and |a - b| <= 1e-9 + 1e-12 * max(|a|, |b|). Never true for a
-/// value that is not a number.
+/// Equality within a tolerance: a == b, or both finite and |a - b| <= 1e-9 + 1e-12 * max(|a|, |b|).
+/// Never true for a value that is not a number.
 [[nodiscard]] inline bool Equal(double a, double b) noexcept {
     if (a == b) {
         return true;

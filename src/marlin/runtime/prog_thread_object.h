@@ -11,6 +11,18 @@
 /// Work that shows its progress: a value, in whatever scale it and its owner agree on, and a text
 /// about the current step. The work sets both on its worker, its owner reads them on one
 /// other thread. At first 0 and empty.
+/// @code
+/// struct Work : ProgThreadObject {
+///     int Execute(const bool&) override {
+///         ProgText = "halfway";
+///         Progress = 0.5F;
+///         return 0;
+///     }
+/// } work;
+/// const bool keepRunning = true;
+/// work.Execute(keepRunning);
+/// assert(work.GetProgress() == 0.5F && work.GetProgText() == "halfway");
+/// @endcode
 class MARLIN_API ProgThreadObject : public ThreadObject {
 public:
     ProgThreadObject() = default;

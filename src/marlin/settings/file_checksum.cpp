@@ -18,7 +18,6 @@ void AddWords(CRCChecksum& checksum, std::string_view bytes) noexcept {
     checksum += bytes.substr(0, bytes.size() - bytes.size() % 4);
 }
 
-// A block that is not full is the last one: the file is a regular one, so no read is short before.
 // An error ends the words as the end of the file does.
 void AddContents(CRCChecksum& checksum, const File& file, unsigned int wordLimit) {
     constexpr std::size_t blockSize = 64 * 1024;
@@ -30,7 +29,7 @@ void AddContents(CRCChecksum& checksum, const File& file, unsigned int wordLimit
     do {
         wanted = static_cast<std::size_t>(std::min<std::uint64_t>(left, blockSize));
         got = 0;
-        static_cast<void>(file.Read(block.get(), wanted, got));
+        static_cast<void>(file.ReadAll(block.get(), wanted, got));
         AddWords(checksum, std::string_view(block.get(), got));
         left -= got;
     } while (got == wanted && left > 0);

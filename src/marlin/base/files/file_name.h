@@ -4,7 +4,13 @@
 #include <marlin/core/export.h>
 #include <marlin/platform/text/c_string.h>
 
-/// The path of a file, whose extension can be replaced.
+/// The path of a file, whose extension can be replaced. A value, empty at first.
+/// @code
+/// FileName name(CString("charts/depths.txt"));
+/// name.SetExtension("cdf");
+/// assert(CString(name.c_str()) == "charts/depths.cdf");
+/// assert(GetTitleFromPath(name.c_str()) == "depths");
+/// @endcode
 class MARLIN_API FileName {
 public:
     FileName() = default;

@@ -9,11 +9,7 @@
 
 namespace {
 
-std::string LowerCase(std::string_view name) {
-    std::string lower(name);
-    std::ranges::transform(lower, lower.begin(), PLATFORM::ToLower);
-    return lower;
-}
+using PLATFORM::LowerCase;
 
 CString TextOf(const std::string& text) {
     return CString(std::string_view(text));

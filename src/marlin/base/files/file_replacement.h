@@ -16,6 +16,12 @@ namespace MARLINSUITE {
 /// names, with the mode bits of the file that was there. Where the folder takes no new file
 /// the target is rewritten in place, after its new size has been reserved. A failure names the
 /// file and the system's reason and leaves the old file as it was.
+/// @code
+/// assert(MARLINSUITE::ReplaceFile("notes.txt", "first\n").Empty());
+/// std::string bytes;
+/// assert(MARLINSUITE::ReadFile("notes.txt", bytes).Empty() && bytes == "first\n");
+/// assert(MARLINSUITE::ReadFile("none", bytes).Text() == "none: No such file or directory");
+/// @endcode
 ErrorString MARLIN_API ReplaceFile(const std::string& path, std::string_view bytes);
 
 /// Reads a file whole. A failure names the file and the reason: the system's, or that the file has

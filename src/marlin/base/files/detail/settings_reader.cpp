@@ -3,13 +3,10 @@
 #include <marlin/core/number_text.h>
 #include <marlin/resources/texts.h>
 
-#include <system_error>
-
 namespace MARLINSUITE::detail {
 
 ErrorString SettingsOutcome::Result(const std::string& path) const {
     std::string message;
-    std::string cause = path + ":";
     switch (Kind) {
         case DONE:
             return {};
@@ -27,12 +24,11 @@ ErrorString SettingsOutcome::Result(const std::string& path) const {
             break;
     }
     if (Kind == READ_ERROR) {
-        cause += " " + std::generic_category().message(Error);
-    } else {
-        AppendNumber(cause, Line);
-        cause += ": " + message;
+        return ErrorString(message).SetCause(SystemReason(path, Error));
     }
-    return ErrorString(message).SetCause(cause);
+    std::string cause = path + ":";
+    AppendNumber(cause, Line);
+    return ErrorString(message).SetCause(cause + ": " + message);
 }
 
 }  // namespace MARLINSUITE::detail

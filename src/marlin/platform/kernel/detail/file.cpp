@@ -91,6 +91,19 @@ int File::Read(char* buffer, std::size_t size, std::size_t& count) const noexcep
     return 0;
 }
 
+int File::ReadAll(char* buffer, std::size_t size, std::size_t& count) const noexcept {
+    std::size_t read = 0;
+    std::size_t piece = 1;
+    while (read < size && piece != 0) {
+        if (const int error = Read(buffer + read, size - read, piece); error != 0) {
+            return error;
+        }
+        read += piece;
+    }
+    count = read;
+    return 0;
+}
+
 int File::WriteAll(std::string_view bytes) const noexcept {
     while (!bytes.empty()) {
         const ssize_t written = ::write(m_Descriptor, bytes.data(), bytes.size());

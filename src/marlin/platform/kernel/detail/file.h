@@ -53,6 +53,8 @@ public:
 
     /// Reads up to `size` bytes; `count` is how many, 0 at the end of the file.
     [[nodiscard]] int Read(char* buffer, std::size_t size, std::size_t& count) const noexcept;
+    /// Reads `size` bytes, in as many pieces as the file gives them; fewer are the last ones.
+    [[nodiscard]] int ReadAll(char* buffer, std::size_t size, std::size_t& count) const noexcept;
     /// Writes all bytes at the position. On failure some of them may have been written.
     [[nodiscard]] int WriteAll(std::string_view bytes) const noexcept;
 

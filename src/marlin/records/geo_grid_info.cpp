@@ -69,11 +69,9 @@ void GeoGridInfo::ForEachKey(const Keys& keys) {
           hemisphereLetter},
          m_TrailingHemisphereIndicator);
     keys({"DegMinSecSymbols", 6, "symbols of degrees and minutes"}, m_DegMinSecSymbols);
-    keys({.Name = "GridStyle", .Field = 7, .Meaning = "style code of the lines", .IsCommon = true},
-         m_GridStyle);
-    keys({.Name = "GridColor", .Field = 8, .Meaning = "color", .IsCommon = true},
-         PaletteIndex(m_GridColor));
-    keys({.Name = "GridTrueColor", .Field = 8, .Meaning = "color", .IsCommon = true}, m_GridColor);
+    keys(Common({"GridStyle", 7, "style code of the lines"}), m_GridStyle);
+    keys(Common({"GridColor", 8, "color"}), PaletteIndex(m_GridColor));
+    keys(Common({"GridTrueColor", 8, "color"}), m_GridColor);
 }
 
 bool GeoGridInfo::Read(const Section& section) {

@@ -72,12 +72,11 @@ void LineInfo::FromString(const std::string& text) {
 template <class Keys>
 void LineInfo::ForEachKey(const Keys& keys) {
     keys({"LineColor", 3, "color"}, PaletteIndex(m_Color));
-    keys({.Name = "LineWidth", .Field = 2, .Meaning = "width", .IsCommon = true}, m_Width);
+    keys(Common({"LineWidth", 2, "width"}), m_Width);
     keys({.Name = "LineStyle", .Field = 4, .Meaning = "dash pattern", .Values = styles},
          StyleText{*this});
     keys({"LineTrueColor", 3, "color"}, m_Color);
-    keys({.Name = "Enable", .Field = 1, .Meaning = "the line is drawn", .IsCommon = true},
-         m_Enable);
+    keys(Common({"Enable", 1, "the line is drawn"}), m_Enable);
 }
 
 bool LineInfo::Read(const Section& section) {

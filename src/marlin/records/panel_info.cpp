@@ -52,18 +52,8 @@ bool PanelInfo::operator==(const PanelInfo& other) const noexcept {
 
 template <class Keys>
 void PanelInfo::ForEachKey(const Keys& keys) {
-    keys({.Name = "Width",
-          .Field = 3,
-          .Meaning = "width on the paper",
-          .Unit = RecordKey::Paper,
-          .IsCommon = true},
-         Width);
-    keys({.Name = "Height",
-          .Field = 4,
-          .Meaning = "height on the paper",
-          .Unit = RecordKey::Paper,
-          .IsCommon = true},
-         Height);
+    keys(Common({"Width", 3, "width on the paper", RecordKey::Paper}), Width);
+    keys(Common({"Height", 4, "height on the paper", RecordKey::Paper}), Height);
     keys({.Name = "PosX",
           .Field = 1,
           .Meaning = "x on the paper",

@@ -69,7 +69,7 @@ template <class Keys>
 void PaperGrid::ForEachKey(const Keys& keys) {
     keys({"XStep", 1, "distance of the points in x", RecordKey::Paper}, Step{m_XStep});
     keys({"YStep", 2, "distance of the points in y", RecordKey::Paper}, Step{m_YStep});
-    keys({.Name = "Visible", .Field = 5, .Meaning = "shown", .IsCommon = true}, m_Visible);
+    keys(Common({"Visible", 5, "shown"}), m_Visible);
     keys({"SnapOn", 6, "positions snap to the points"}, m_SnapOn);
     keys({"OringinX", 3, "x of one of the points", RecordKey::Paper}, m_Origin.x);
     keys({"OringinY", 4, "y of one of the points", RecordKey::Paper}, m_Origin.y);

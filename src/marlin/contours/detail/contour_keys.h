@@ -35,19 +35,11 @@ private:
 template <class Keys>
 void ForEachContourKey(ContourDefinitionList::ContourDefInfo& contour, const Keys& keys) {
     keys({"Level", 1, "depth of the contour"}, contour.Level);
-    keys({.Name = "Color", .Field = 2, .Meaning = "color", .IsCommon = true},
-         PaletteIndex(contour.Color));
-    keys({.Name = "TrueColor", .Field = 2, .Meaning = "color", .IsCommon = true}, contour.Color);
-    keys({.Name = "LineType",
-          .Field = 3,
-          .Meaning = "line type",
-          .Values = LineTypes,
-          .IsCommon = true},
-         LineTypeText{contour.LineType});
-    keys({.Name = "LineWidth", .Field = 4, .Meaning = "line width", .IsCommon = true},
-         contour.LineWidth);
-    keys({.Name = "Annotate", .Field = 5, .Meaning = "carries labels", .IsCommon = true},
-         contour.Annotate);
+    keys(Common({"Color", 2, "color"}), PaletteIndex(contour.Color));
+    keys(Common({"TrueColor", 2, "color"}), contour.Color);
+    keys(Common({"LineType", 3, "line type", "", LineTypes}), LineTypeText{contour.LineType});
+    keys(Common({"LineWidth", 4, "line width"}), contour.LineWidth);
+    keys(Common({"Annotate", 5, "carries labels"}), contour.Annotate);
 }
 
 }  // namespace MARLINSUITE::detail

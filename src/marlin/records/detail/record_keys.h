@@ -18,6 +18,12 @@
 /// is kept: with `Read(const SectionKey&)`, `Write(SectionKey&) const` and `Value() const`.
 namespace MARLINSUITE::detail {
 
+/// A key whose name other records have as well.
+constexpr RecordKey Common(RecordKey key) {
+    key.IsCommon = true;
+    return key;
+}
+
 template <class Field>
 concept PlainField = SettingsValue<std::remove_cvref_t<Field>>;
 

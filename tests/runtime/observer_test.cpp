@@ -83,7 +83,6 @@ TEST_F(ObserverTest, TheNewestSubscriberIsCalledFirstAndOnce) {
 }
 
 TEST_F(ObserverTest, ContextsThatDifferInCaseOrLettersOrderAreApart) {
-    // The first pairs share a chain of the hash table.
     const std::vector<std::string> names = {"AB",   "Ab", "BA", "ba", std::string("A\0B", 3),
                                             "\xE4", ""};
     for (const std::string& name : names) {
@@ -210,6 +209,29 @@ TEST_F(ObserverTest, ManyContextsAndManySubscribersOfOne) {
     EXPECT_EQ(lateToGo.Calls, Contexts + 2);
     observer.Clear();
     observer.Subscribe(&lateToGo, "at the end of the program");
+}
+
+TEST_F(ObserverTest, TheOrderStaysWhoeverComesAndGoes) {
+    std::vector<std::unique_ptr<Recorder>> all;
+    for (int number = 0; number < 12; ++number) {
+        all.push_back(std::make_unique<Recorder>(*this, std::to_string(number)));
+    }
+    std::vector<std::size_t> newestFirst;
+    // Steps of 5 visit all of the twelve; every third visit is a leaving.
+    for (std::size_t step = 0; step < 120; ++step) {
+        const std::size_t number = step * 5 % all.size();
+        std::erase(newestFirst, number);
+        observer.UnSubscribe(all[number].get(), "X");
+        if (step % 3 != 0) {
+            newestFirst.insert(newestFirst.begin(), number);
+            observer.Subscribe(all[number].get(), "X");
+        }
+        std::string expected;
+        for (const std::size_t subscribed : newestFirst) {
+            expected += std::to_string(subscribed) + ":1 ";
+        }
+        ASSERT_EQ(Heard("X"), expected) << step;
+    }
 }
 
 TEST_F(ObserverTest, HandlersMayChangeWhoIsNotified) {

@@ -1,23 +1,178 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/runtime/detail/subscriptions.h>
 #include <marlin/runtime/observer.h>
-#include <marlin/runtime/subscriber.h>
 
+#include <algorithm>
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <unordered_map>
 #include <utility>
+#include <vector>
 
 namespace UTL {
 
-Observer::Observer() : m_Subscriptions(std::make_unique<Subscriptions>()) {}
+/// The contexts by name, and for each subscriber its places in them, so that leaving searches
+/// neither the subscribers of a context nor all contexts.
+class Observer::Table {
+public:
+    Table() = default;
+    Table(const Table& other) { Add(other); }
+    Table& operator=(const Table&) = delete;
+    ~Table() = default;
+
+    [[nodiscard]] Context& operator[](const std::string& name) {
+        // Unlike an insertion, the search of a small table compares names without hashing them.
+        const auto found = m_Contexts.find(name);
+        return found == m_Contexts.end() ? m_Contexts[name] : found->second;
+    }
+
+    void Join(Subscriber& subscriber, Context& context);
+    void Leave(const Subscriber& subscriber, const std::string& name);
+    void LeaveAll(const Subscriber& subscriber);
+    void Move(const std::string& from, Context& to);
+    void Clear(const std::string& name);
+    void Clear();
+    /// Adds the contexts of another table, none of whose subscribers is here.
+    void Add(const Table& other);
+    void CloseGaps(Context& context);
+
+private:
+    using Contexts = std::unordered_map<std::string, Context>;
+    using Places = std::map<Context*, std::size_t>;
+
+    /// Takes the context from the subscriber's places; the place that it had there.
+    std::optional<std::size_t> Forget(const Subscriber& subscriber, Context& context);
+    void Vacate(Context& context, std::size_t place);
+    void Remove(Contexts::iterator found);
+
+    Contexts m_Contexts;
+    std::unordered_map<const Subscriber*, Places> m_Places;
+};
+
+void Observer::Table::Join(Subscriber& subscriber, Context& context) {
+    if (m_Places[&subscriber].try_emplace(&context, context.OldestFirst.size()).second) {
+        context.OldestFirst.push_back(&subscriber);
+    }
+}
+
+std::optional<std::size_t> Observer::Table::Forget(const Subscriber& subscriber, Context& context) {
+    const auto places = m_Places.find(&subscriber);
+    if (places == m_Places.end()) {
+        return std::nullopt;
+    }
+    const auto forgotten = places->second.extract(&context);
+    if (places->second.empty()) {
+        m_Places.erase(places);
+    }
+    return forgotten ? std::optional(forgotten.mapped()) : std::nullopt;
+}
+
+void Observer::Table::Leave(const Subscriber& subscriber, const std::string& name) {
+    if (const auto found = m_Contexts.find(name); found != m_Contexts.end()) {
+        if (const auto place = Forget(subscriber, found->second)) {
+            Vacate(found->second, *place);
+        }
+    }
+}
+
+void Observer::Table::LeaveAll(const Subscriber& subscriber) {
+    if (const auto left = m_Places.extract(&subscriber)) {
+        for (const auto& [context, place] : left.mapped()) {
+            Vacate(*context, place);
+        }
+    }
+}
+
+void Observer::Table::Vacate(Context& context, std::size_t place) {
+    context.OldestFirst[place] = nullptr;
+    ++context.Gaps;
+    CloseGaps(context);
+}
+
+// Only when half of the places are empty, so that whoever leaves pays for one move at most. A walk
+// goes by places, so none may move under it.
+void Observer::Table::CloseGaps(Context& context) {
+    if (context.Walks > 0 || 2 * context.Gaps < context.OldestFirst.size()) {
+        return;
+    }
+    std::erase(context.OldestFirst, nullptr);
+    context.Gaps = 0;
+    for (std::size_t place = 0; place < context.OldestFirst.size(); ++place) {
+        m_Places[context.OldestFirst[place]][&context] = place;
+    }
+}
+
+void Observer::Table::Move(const std::string& from, Context& to) {
+    const auto found = m_Contexts.find(from);
+    if (found == m_Contexts.end()) {
+        return;
+    }
+    const std::vector<Subscriber*>& moved = found->second.OldestFirst;
+    for (auto newest = moved.rbegin(); newest != moved.rend(); ++newest) {
+        if (*newest) {
+            Places& places = m_Places[*newest];
+            places.erase(&found->second);
+            if (places.try_emplace(&to, to.OldestFirst.size()).second) {
+                to.OldestFirst.push_back(*newest);
+            }
+        }
+    }
+    Remove(found);
+}
+
+void Observer::Table::Clear(const std::string& name) {
+    const auto found = m_Contexts.find(name);
+    if (found == m_Contexts.end()) {
+        return;
+    }
+    for (const Subscriber* const subscriber : found->second.OldestFirst) {
+        if (subscriber) {
+            Forget(*subscriber, found->second);
+        }
+    }
+    Remove(found);
+}
+
+void Observer::Table::Clear() {
+    m_Places.clear();
+    for (auto next = m_Contexts.begin(); next != m_Contexts.end();) {
+        Remove(next++);
+    }
+}
+
+// A walk still needs its context, so that one stays in the table without subscribers.
+void Observer::Table::Remove(Contexts::iterator found) {
+    Context& context = found->second;
+    if (context.Walks == 0) {
+        m_Contexts.erase(found);
+    } else {
+        std::ranges::fill(context.OldestFirst, nullptr);
+        context.Gaps = context.OldestFirst.size();
+    }
+}
+
+void Observer::Table::Add(const Table& other) {
+    for (const auto& [name, context] : other.m_Contexts) {
+        Context& copy = m_Contexts[name];
+        for (Subscriber* const subscriber : context.OldestFirst) {
+            if (subscriber) {
+                Join(*subscriber, copy);
+            }
+        }
+    }
+}
+
+Observer::Observer() : m_Table(std::make_unique<Table>()) {}
 
 Observer::Observer(const Observer& other)
-    : m_Subscriptions(std::make_unique<Subscriptions>(*other.m_Subscriptions)),
+    : m_Table(std::make_unique<Table>(*other.m_Table)),
       m_CurrentContext(other.m_CurrentContext),
       m_PreviousContext(other.m_PreviousContext) {}
 
 Observer& Observer::operator=(const Observer& other) {
     if (this != &other) {
-        Clear();
-        m_Subscriptions->Add(*other.m_Subscriptions);
+        m_Table->Clear();
+        m_Table->Add(*other.m_Table);
         m_CurrentContext = other.m_CurrentContext;
         m_PreviousContext = other.m_PreviousContext;
     }
@@ -33,60 +188,49 @@ Observer& Observer::Get() {
 
 void Observer::Subscribe(Subscriber* subscriber, const std::string& context) {
     if (subscriber) {
-        m_Subscriptions->Join(*subscriber, m_Subscriptions->FindOrAdd(context));
+        m_Table->Join(*subscriber, (*m_Table)[context]);
     }
 }
 
 void Observer::UnSubscribe(Subscriber* subscriber, const std::string& context) {
     if (subscriber) {
-        m_Subscriptions->Leave(*subscriber, m_Subscriptions->FindOrAdd(context));
+        m_Table->Leave(*subscriber, context);
     }
 }
 
 void Observer::UnSubscribe(Subscriber* subscriber) {
     if (subscriber) {
-        m_Subscriptions->LeaveAll(*subscriber);
+        m_Table->LeaveAll(*subscriber);
     }
 }
 
-void Observer::MakeCurrent(const std::string& context) {
-    Context& found = m_Subscriptions->FindOrAdd(context);
-    m_Current = nullptr;
+Observer::Context& Observer::MakeCurrent(const std::string& context) {
+    Context& found = (*m_Table)[context];
     m_CurrentContext = context;
-    m_Current = &found;
+    return found;
 }
 
-void Observer::Notify(const std::string& context, int message) {
-    // Most notifications follow one of the same context.
-    if (!IsCurrent(context)) {
-        MakeCurrent(context);
-    }
-    m_Subscriptions->Notify(*m_Current, message);
+void Observer::CloseGaps(Context& context) {
+    m_Table->CloseGaps(context);
 }
 
 void Observer::RenameSubscribers(const std::string& oldContext, const std::string& newContext) {
     // The arguments may be the stored names themselves.
     std::string oldName = oldContext;
-    const bool renamed = oldName != newContext;
-    if (renamed) {
-        m_Current = nullptr;
-        m_Subscriptions->Move(oldName, newContext);
-    }
-    MakeCurrent(newContext);
+    Context& renamed = MakeCurrent(newContext);
     m_PreviousContext = std::move(oldName);
-    if (renamed) {
-        m_Subscriptions->Notify(*m_Current, ContextRenamed);
+    if (m_PreviousContext != m_CurrentContext) {
+        m_Table->Move(m_PreviousContext, renamed);
+        Call(renamed, ContextRenamed);
     }
 }
 
 void Observer::Clear() {
-    m_Current = nullptr;
-    m_Subscriptions->Clear();
+    m_Table->Clear();
 }
 
 void Observer::Clear(const std::string& context) {
-    m_Current = nullptr;
-    m_Subscriptions->Remove(context);
+    m_Table->Clear(context);
 }
 
 }  // namespace UTL

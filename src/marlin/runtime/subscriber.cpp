@@ -4,7 +4,7 @@
 
 namespace UTL {
 
-// The observer must be there before the first subscriber is, so that it is destroyed later.
+// Made before the first subscriber, the observer is destroyed after the last static one.
 Subscriber::Subscriber() {
     Observer::Get();
 }

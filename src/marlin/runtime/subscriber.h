@@ -5,10 +5,10 @@
 
 namespace UTL {
 
-/// Whoever wants to hear about something derives from this class and subscribes to contexts of
-/// an `Observer`. A subscriber that is destroyed leaves every context of the process-wide
-/// observer; it leaves copies of that observer by itself. Subscriptions are not copied with it.
-/// The process-wide observer lives at least as long as every subscriber, static ones included.
+/// The base of everyone who wants to hear of contexts of an `Observer`; `observer.h` shows the use.
+/// When destroyed it leaves every context of the process-wide observer; it must leave copies of
+/// that observer itself. Subscriptions are not copied with it. The process-wide observer lives at
+/// least as long as every subscriber, static ones included.
 class MARLIN_API Subscriber {
 public:
     Subscriber();

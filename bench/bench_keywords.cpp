@@ -69,9 +69,8 @@ Counts ByRe2(const std::string& text) {
     return counts;
 }
 
-Counts ByLoop(const std::string& text) {
+void CollectByLoop(const std::string& text, Counts& counts) {
     constexpr std::size_t none = std::string::npos;
-    Counts counts;
     std::size_t start = none;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
@@ -84,6 +83,11 @@ Counts ByLoop(const std::string& text) {
             start = none;
         }
     }
+}
+
+Counts ByLoop(const std::string& text) {
+    Counts counts;
+    CollectByLoop(text, counts);
     return counts;
 }
 
@@ -123,6 +127,34 @@ CKeywords TableOf(int first, int count) {
     return ByMarlin(text);
 }
 
+// As a host with many texts, of which each has a few keywords of its own.
+std::vector<std::string> ShortTexts() {
+    std::vector<std::string> texts(4'000);
+    for (std::size_t text = 0; text < texts.size(); ++text) {
+        for (std::size_t i = 0; i < 9; ++i) {
+            texts[text] += "%line " + std::to_string(9 * text + i) + "% ";
+        }
+    }
+    return texts;
+}
+
+void EnterGrowingTable() {
+    BENCH::Contest("keywords_growing_table/marlin", ShortTexts, [](const auto& texts) {
+        CKeywords table;
+        for (const std::string& text : texts) {
+            table.AddKeywordsInString(text);
+        }
+        BENCH::Require(table.GetSize() == 36'000, "the keywords of all texts");
+    });
+    BENCH::Contest("keywords_growing_table/loop", ShortTexts, [](const auto& texts) {
+        Counts counts;
+        for (const std::string& text : texts) {
+            CollectByLoop(text, counts);
+        }
+        BENCH::Require(counts.Entries().size() == 36'000, "the names of all texts");
+    });
+}
+
 struct Tables {
     CKeywords Target;
     CKeywords Other;
@@ -134,7 +166,7 @@ void EnterMerging(int count) {
         table.AddKeywords(tables.Other);
         return table;
     };
-    BENCH::Contest(
+    BENCH::ContestInFreshMemory(
         "growth_keywords_merge_" + std::to_string(count) + "/marlin",
         [=] {
             Tables tables{TableOf(0, count), TableOf(count / 2, count)};
@@ -153,7 +185,8 @@ int main(int argc, char** argv) {
     EnterCollecting("marlin", ByMarlin);
     EnterCollecting("re2", ByRe2);
     EnterCollecting("loop", ByLoop);
-    for (const int count : {1'000, 10'000, 100'000}) {
+    EnterGrowingTable();
+    for (const int count : {1'000, 10'000, 200'000, 2'000'000}) {
         EnterMerging(count);
     }
     return BENCH::Run(argc, argv);

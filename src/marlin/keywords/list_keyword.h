@@ -23,7 +23,7 @@ public:
     [[nodiscard]] std::string GetValue(int i) const;
 
     void SetName(const std::string& name) { m_Name = name; }
-    /// Appends a choice that is not in the list yet, be it an empty one.
+    /// Appends a choice that is not in the list yet, also an empty one.
     void AddValue(const std::string& value);
     /// Removes the choices; the name stays.
     void Clear() noexcept;
@@ -31,5 +31,5 @@ public:
 private:
     std::string m_Name;
     std::vector<std::string> m_Values;
-    std::unordered_set<std::string> m_Known;  // the same values, to be found in lists of any size
+    std::unordered_set<std::string> m_Known;  // the same values, so that long lists grow quickly
 };

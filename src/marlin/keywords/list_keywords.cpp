@@ -49,7 +49,7 @@ void CListKeywords::CheckInit() {
     }
     CString path("Keywords");
     DataSearch::GetDataSearch().GetFullPath(keywordFiles, path);
-    // What a broken file holds before its fault counts, so its result changes nothing.
+    // A broken file counts up to its fault, so the result changes nothing.
     IniFile file;
     static_cast<void>(file.Open(path.GetString()));
     for (const Section& section : file.Sections()) {

@@ -9,8 +9,13 @@
 
 /// The keywords whose choices the data file "Keywords" lists, in the order of the file. A table
 /// reads the file at its first look-up, wherever `DataSearch` then finds it, and never again; a
-/// copy of a table that has read it does not either. No file, or one that cannot be read, makes an
-/// empty table; nothing reports it. The file is described in docs/formats/keywords.md.
+/// copy of a table that has read it does not either. A file that is missing or cannot be read
+/// makes an empty table; nothing reports it. docs/formats/keywords.md describes the file.
+///
+/// @code
+/// CListKeyword* const clients = CListKeywords::Get().GetListKeyword("project client");
+/// const std::string first = clients ? clients->GetValue(0) : "";
+/// @endcode
 class MARLIN_API CListKeywords {
 public:
     CListKeywords() = default;
@@ -22,7 +27,8 @@ public:
     /// time, the first one included.
     [[nodiscard]] static CListKeywords& Get();
 
-    /// The keyword of that name, case and all, or null. Pointers stay good as long as the table.
+    /// The keyword of that name, case and all, or null. The table keeps the keyword as long as it
+    /// lives.
     [[nodiscard]] CListKeyword* GetListKeyword(const std::string& name);
     /// Null for a position that the table does not have.
     [[nodiscard]] CListKeyword* GetListKeyword(int i);

@@ -5,9 +5,9 @@
 
 #include <string>
 
-// The names of the keywords that every host gives values to; whose values they are, the host
-// knows. May be read from every static constructor.
+// The names of the keywords to which every host gives values. They may be read from any static
+// constructor.
 
 extern MARLIN_API const std::string PredefinedKeywordKeys[9];
-/// Those that only a plot has.
+/// The names that only a plot has.
 extern MARLIN_API const std::string PredefinedPlotKeywordKeys[1];

@@ -15,6 +15,11 @@
 ///
 /// `==` is tolerant (`MATH::Equal` on the degrees); the other comparisons, `!=` too, are exact.
 /// So two angles close to each other are equal and unequal at once.
+///
+/// @code
+/// assert(Angle(-90).Get() == 270);
+/// assert(Angle(350).Difference(Angle(10)) == Angle(20));
+/// @endcode
 class MARLIN_API Angle {
 public:
     constexpr Angle() noexcept = default;
@@ -23,7 +28,7 @@ public:
     /// In degrees.
     [[nodiscard]] constexpr double Get() const noexcept { return m_Degrees; }
     [[nodiscard]] constexpr double Rad() const noexcept { return m_Degrees * MATH::DTR; }
-    // Most texts and boxes are not turned, and these are the exact values.
+    // Most texts and boxes are not turned; the exact values save them the calls.
     [[nodiscard]] double Sin() const noexcept { return m_Degrees == 0 ? 0 : std::sin(Rad()); }
     [[nodiscard]] double Cos() const noexcept { return m_Degrees == 0 ? 1 : std::cos(Rad()); }
     [[nodiscard]] double Tan() const noexcept { return std::tan(Rad()); }
@@ -66,7 +71,7 @@ public:
     }
 
 private:
-    /// The remainder leaves what is in range as it is, so only the rest pays for it.
+    /// Degrees in range are their own remainder, so only others pay for it.
     static constexpr double Reduce(double degrees) noexcept {
         return degrees > 0 && degrees < 360 ? degrees : Remainder(degrees);
     }

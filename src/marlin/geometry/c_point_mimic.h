@@ -5,11 +5,11 @@
 #include <marlin/geometry/point_2d.h>
 #include <marlin/platform/drawing/point.h>
 
-/// A point in device units, laid out as the framework's `CPoint` and standing in for it.
+/// A point in device units, laid out as the framework's `CPoint` and used in its place.
 /// Default (0, 0).
 ///
 /// Coordinates that are not whole become floor(v + 0.5), so halves go up: 2.5 to 3, -2.5 to -2.
-/// Values beyond 32 bits become the nearest 32-bit integer, what is not a number becomes 0.
+/// Values beyond 32 bits become the nearest 32-bit integer; a value that is not a number becomes 0.
 class MARLIN_API CPointMimic {
 public:
     constexpr CPointMimic() noexcept = default;

@@ -11,6 +11,13 @@
 ///
 /// The range must be positive and the last position a 32-bit integer; steps may be any `int`. A
 /// range that is not positive keeps the position at the start.
+///
+/// @code
+/// CircIterator corner(0, 4, 3);
+/// ++corner;
+/// assert(*corner == 0);
+/// assert(*(corner - 1) == 3);
+/// @endcode
 class MARLIN_API CircIterator {
 public:
     constexpr CircIterator(int start, int range) noexcept
@@ -68,7 +75,7 @@ public:
         return before;
     }
 
-    /// Whether the position is the given one, wrapped into the ring.
+    /// True when the given position, wrapped into the ring, is the current one.
     [[nodiscard]] constexpr bool operator==(int position) const noexcept {
         return m_Current == Wrap(position);
     }

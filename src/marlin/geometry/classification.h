@@ -3,12 +3,13 @@
 
 namespace GTL::CLS {
 
-/// Where a point or a box lies against a box or a shape. The numbers are part of the interface.
+/// The position of a point or a box relative to a box or a shape. The numbers are part of the
+/// interface.
 enum CLASSIFICATION : int {
     NONE = 0,      ///< one of the two is empty
     INSIDE = 1,    ///< wholly within, the boundary included
     OUTSIDE = 2,   ///< wholly outside
-    OVERLAP = 10,  ///< the boxes meet, and the one asked about reaches beyond
+    OVERLAP = 10,  ///< the boxes meet, and the one given reaches beyond
 };
 
 }  // namespace GTL::CLS

@@ -7,14 +7,39 @@
 #include <marlin/geometry/point_2d.h>
 #include <marlin/geometry/transformation.h>
 
+#include <algorithm>
 #include <array>
 
 namespace GTL {
 
+namespace detail {
+
+template <RealCoordinate T>
+constexpr T Middle(T low, T high) noexcept {
+    return low + static_cast<T>(0.5) * (high - low);
+}
+
+/// Widens one axis of a box to a coordinate; one that is not a number changes nothing.
+template <RealCoordinate T>
+constexpr void Widen(T& low, T& high, T coordinate) noexcept {
+    low = std::min(low, coordinate);
+    high = std::max(high, coordinate);
+}
+
+}  // namespace detail
+
 /// A box along the axes that grows with the points given to it; both corners belong to it.
 ///
-/// A box is valid when max >= min on both axes. Any other one is empty; a new or reset box is,
-/// with min (1, 1) and max (0, 0). The stored corners can be read and set in either state.
+/// A box is valid when max >= min on both axes, else empty. A new or reset box is empty, with
+/// min (1, 1) and max (0, 0). The stored corners can be read and set in either state.
+///
+/// @code
+/// GTL::Extents2D<double> box;
+/// box.Update(0, 0);
+/// box.Update(10, 5);
+/// assert(box.ExtentX() == 10);
+/// assert(box.Classify(GTL::Point2D<double>(10, 5)) == GTL::CLS::INSIDE);
+/// @endcode
 template <RealCoordinate T>
 class MARLIN_API Extents2D {
 public:
@@ -37,8 +62,7 @@ public:
     [[nodiscard]] constexpr T ExtentY() const noexcept { return IsValid() ? max.y - min.y : T{}; }
     /// min + (max - min) / 2, of the stored corners whether valid or not.
     [[nodiscard]] constexpr Point2D<T> Center() const noexcept {
-        constexpr T half = static_cast<T>(0.5);
-        return {min.x + half * (max.x - min.x), min.y + half * (max.y - min.y)};
+        return {detail::Middle(min.x, max.x), detail::Middle(min.y, max.y)};
     }
     /// NONE when one of the boxes is empty. Boxes that only touch OVERLAP.
     [[nodiscard]] constexpr CLS::CLASSIFICATION Classify(const Extents2D& box) const noexcept;
@@ -97,10 +121,8 @@ constexpr void Extents2D<T>::Update(const Point2D<T>& point) noexcept {
         min = max = Point2D<T>(point);
         return;
     }
-    min.x = point.x < min.x ? point.x : min.x;
-    max.x = point.x > max.x ? point.x : max.x;
-    min.y = point.y < min.y ? point.y : min.y;
-    max.y = point.y > max.y ? point.y : max.y;
+    detail::Widen(min.x, max.x, point.x);
+    detail::Widen(min.y, max.y, point.y);
 }
 
 template <RealCoordinate T>

@@ -15,9 +15,9 @@ namespace GTL {
 /// A box along the axes of space that grows with the points given to it; both corners belong
 /// to it.
 ///
-/// A box is valid when max >= min in x and in y; z takes no part in that. Any other one is
-/// empty; a new or reset box is, with min (1, 1, 0) and max (0, 0, 0). The stored corners can be
-/// read and set in either state.
+/// A box is valid when max >= min in x and in y, else empty; z takes no part in that. A new or
+/// reset box is empty, with min (1, 1, 0) and max (0, 0, 0). The stored corners can be read and
+/// set in either state.
 template <RealCoordinate T>
 class MARLIN_API Extents3D {
 public:
@@ -42,7 +42,10 @@ public:
     [[nodiscard]] constexpr T ExtentY() const noexcept { return IsValid() ? max.y - min.y : T{}; }
     [[nodiscard]] constexpr T ExtentZ() const noexcept { return IsValid() ? max.z - min.z : T{}; }
     /// min + (max - min) / 2, of the stored corners whether valid or not.
-    [[nodiscard]] constexpr Point3D<T> Center() const noexcept;
+    [[nodiscard]] constexpr Point3D<T> Center() const noexcept {
+        return {detail::Middle(min.x, max.x), detail::Middle(min.y, max.y),
+                detail::Middle(min.z, max.z)};
+    }
     /// NONE when one of the boxes is empty. Boxes that only touch OVERLAP.
     [[nodiscard]] constexpr CLS::CLASSIFICATION Classify(const Extents3D& box) const noexcept;
     /// NONE when this box is empty.
@@ -59,7 +62,7 @@ public:
     void Transform(const Transformation<Point3D<T>>& transformation);
 
     /// The box without z; an empty one becomes the empty box of the plane.
-    constexpr operator Extents2D<T>() const noexcept;
+    constexpr operator Extents2D<T>() const noexcept { return Plane(); }
     constexpr Extents3D& operator+=(const Extents3D& box) noexcept {
         Update(box);
         return *this;
@@ -69,37 +72,37 @@ public:
     }
     /// Compares the stored corners exactly, in empty boxes too.
     [[nodiscard]] constexpr bool operator==(const Extents3D& other) const noexcept = default;
+
+private:
+    [[nodiscard]] constexpr Extents2D<T> Plane() const noexcept {
+        Extents2D<T> box;
+        if (IsValid()) {
+            box.min = min;
+            box.max = max;
+        }
+        return box;
+    }
 };
 
 template <RealCoordinate T>
-constexpr Point3D<T> Extents3D<T>::Center() const noexcept {
-    constexpr T half = static_cast<T>(0.5);
-    return {min.x + half * (max.x - min.x), min.y + half * (max.y - min.y),
-            min.z + half * (max.z - min.z)};
-}
-
-template <RealCoordinate T>
 constexpr CLS::CLASSIFICATION Extents3D<T>::Classify(const Extents3D& box) const noexcept {
-    if (!IsValid() || !box.IsValid()) {
-        return CLS::NONE;
+    const CLS::CLASSIFICATION inPlane = Plane().Classify(box.Plane());
+    if (inPlane == CLS::INSIDE || inPlane == CLS::OVERLAP) {
+        if (box.min.z > max.z || box.max.z < min.z) {
+            return CLS::OUTSIDE;
+        }
+        return box.min.z >= min.z && box.max.z <= max.z ? inPlane : CLS::OVERLAP;
     }
-    if (box.min.x > max.x || box.min.y > max.y || box.min.z > max.z || box.max.x < min.x ||
-        box.max.y < min.y || box.max.z < min.z) {
-        return CLS::OUTSIDE;
-    }
-    const bool within = box.min.x >= min.x && box.min.y >= min.y && box.min.z >= min.z &&
-                        box.max.x <= max.x && box.max.y <= max.y && box.max.z <= max.z;
-    return within ? CLS::INSIDE : CLS::OVERLAP;
+    return inPlane;
 }
 
 template <RealCoordinate T>
 constexpr CLS::CLASSIFICATION Extents3D<T>::Classify(const Point3D<T>& point) const noexcept {
-    if (!IsValid()) {
-        return CLS::NONE;
+    const CLS::CLASSIFICATION inPlane = Plane().Classify(point);
+    if (inPlane == CLS::INSIDE) {
+        return min.z <= point.z && point.z <= max.z ? CLS::INSIDE : CLS::OUTSIDE;
     }
-    const bool within = min.x <= point.x && point.x <= max.x && min.y <= point.y &&
-                        point.y <= max.y && min.z <= point.z && point.z <= max.z;
-    return within ? CLS::INSIDE : CLS::OUTSIDE;
+    return inPlane;
 }
 
 template <RealCoordinate T>
@@ -108,12 +111,9 @@ constexpr void Extents3D<T>::Update(const Point3D<T>& point) noexcept {
         min = max = Point3D<T>(point);
         return;
     }
-    min.x = point.x < min.x ? point.x : min.x;
-    max.x = point.x > max.x ? point.x : max.x;
-    min.y = point.y < min.y ? point.y : min.y;
-    max.y = point.y > max.y ? point.y : max.y;
-    min.z = point.z < min.z ? point.z : min.z;
-    max.z = point.z > max.z ? point.z : max.z;
+    detail::Widen(min.x, max.x, point.x);
+    detail::Widen(min.y, max.y, point.y);
+    detail::Widen(min.z, max.z, point.z);
 }
 
 template <RealCoordinate T>
@@ -139,16 +139,6 @@ void Extents3D<T>::Transform(const Transformation<Point3D<T>>& transformation) {
         transformation.Apply(corner);
         Update(corner);
     }
-}
-
-template <RealCoordinate T>
-constexpr Extents3D<T>::operator Extents2D<T>() const noexcept {
-    Extents2D<T> box;
-    if (IsValid()) {
-        box.min = min;
-        box.max = max;
-    }
-    return box;
 }
 
 extern template class Extents3D<float>;

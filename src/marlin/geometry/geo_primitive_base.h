@@ -17,10 +17,10 @@ public:
 
     /// The point of an index in [0, NumPoints()).
     [[nodiscard]] virtual P& Point(int index) = 0;
-    /// Copies the point into place and returns what is there now.
+    /// Copies the point into place and returns the point there.
     virtual P& SetPoint(int index, const P& point) = 0;
     [[nodiscard]] virtual int NumPoints() const = 0;
-    /// Where the point lies against the shape.
+    /// The position of the point relative to the shape.
     [[nodiscard]] virtual CLS::CLASSIFICATION Classify(const P& point) const = 0;
     /// Applies the transformation to every point in the order of their indices.
     virtual void Transform(const Transformation<P>& transformation) = 0;

@@ -19,6 +19,13 @@ namespace GTL {
 /// Equality is tolerant (`MATH::Equal` on each coordinate), the order is exact: x first, then
 /// y where x is exactly equal. So two points may be equal and yet ordered; containers keyed by
 /// points go by the exact order.
+///
+/// @code
+/// const GTL::Point2D<double> here(3, 4);
+/// const GTL::Vector2D<double> way = here - GTL::Point2D<double>();
+/// assert(here + way == GTL::Point2D<double>(6, 8));
+/// assert(here.Dist2D({0, 0}, false) == 5.0);
+/// @endcode
 template <Coordinate T>
 class MARLIN_API Point2D {
 public:

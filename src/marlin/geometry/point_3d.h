@@ -13,7 +13,7 @@ namespace GTL {
 
 /// A position in space. Default (0, 0, 0); no value is checked or clamped.
 ///
-/// Its x and y are a whole `Point2D`, its base: a reference to that base views and changes the
+/// Its base is a whole `Point2D` of its x and y: a reference to that base views and changes the
 /// same object and leaves z alone. X, Y, `Dist2D` (z takes no part) and the conversion to
 /// `Vector2D` (z is dropped) come from there. Unlike in the plane, equality is exact; the order
 /// is exact too: x first, then y, then z.

@@ -14,15 +14,29 @@ namespace GTL {
 /// An affine transformation of the plane: a 3 x 3 matrix acting on columns (x, y, 1). Default the
 /// identity. What is composed last is applied last: `Translate(-c.x, -c.y)`, `Rotate(a)`,
 /// `Translate(c.x, c.y)` rotates about c.
+///
+/// @code
+/// GTL::Transformation2D<GTL::Point2D<double>> turn;
+/// turn.Translate(1, 0);
+/// turn.Rotate(90);
+/// GTL::Point2D<double> point;
+/// turn.Apply(point);
+/// assert(point == GTL::Point2D<double>(0, -1));
+/// @endcode
 template <PlanePoint P>
 class MARLIN_API Transformation2D final : public Transformation<P> {
 public:
-    void Apply(P& point) const noexcept override { Move(point, ByColumns()); }
-    void ApplyToAll(std::span<P> points) const noexcept {
-        // A copy, which no point can be a part of, stays in registers.
-        const Columns columns = ByColumns();
+    void Apply(P& point) const noexcept override { Apply(std::span<P, 1>(&point, 1)); }
+    void Apply(std::span<P> points) const noexcept {
+        // Copies, of which no point can be a part, stay in registers.
+        const double xx = m_Matrix[0][0];
+        const double xy = m_Matrix[0][1];
+        const double xOffset = m_Matrix[0][2];
+        const double yx = m_Matrix[1][0];
+        const double yy = m_Matrix[1][1];
+        const double yOffset = m_Matrix[1][2];
         for (P& point : points) {
-            Move(point, columns);
+            point = {xx * point.x + xy * point.y + xOffset, yx * point.x + yy * point.y + yOffset};
         }
     }
 
@@ -34,22 +48,7 @@ public:
     void Rotate(const Angle& angle) noexcept;
 
 private:
-    // So that x and y are computed side by side.
-    using Columns = std::array<std::array<double, 2>, 3>;
-
-    [[nodiscard]] Columns ByColumns() const noexcept {
-        return {{{m_Matrix[0][0], m_Matrix[1][0]},
-                 {m_Matrix[0][1], m_Matrix[1][1]},
-                 {m_Matrix[0][2], m_Matrix[1][2]}}};
-    }
-    static void Move(P& point, const Columns& columns) noexcept {
-        const double x = point.x;
-        const double y = point.y;
-        point.x = columns[0][0] * x + columns[1][0] * y + columns[2][0];
-        point.y = columns[0][1] * x + columns[1][1] * y + columns[2][1];
-    }
-
-    // The last row stays (0, 0, 1), which every composition relies on.
+    // The last row is always (0, 0, 1), on which every composition relies.
     std::array<std::array<double, 3>, 3> m_Matrix{{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}};
 };
 

@@ -6,7 +6,12 @@
 
 namespace GTL {
 
-/// A displacement in the plane. Default (0, 0). `Point2D` gives the arithmetic.
+/// A displacement in the plane. Default (0, 0). `Point2D` has the arithmetic.
+///
+/// @code
+/// const GTL::Vector2D<int> way(2, -1);
+/// assert(GTL::Point2D<int>(1, 1) + way == GTL::Point2D<int>(3, 0));
+/// @endcode
 template <Coordinate T>
 class MARLIN_API Vector2D {
 public:

@@ -6,7 +6,7 @@
 
 namespace GTL {
 
-/// A displacement in space. Default (0, 0, 0). `Point3D` gives the arithmetic.
+/// A displacement in space. Default (0, 0, 0). `Point3D` has the arithmetic.
 template <RealCoordinate T>
 class MARLIN_API Vector3D {
 public:

@@ -4,13 +4,19 @@
 #include <marlin/color/rgb_color.h>
 #include <marlin/core/export.h>
 
-/// One index, 0 to 255, into the palette of DXF drawings. Made from nothing it is 0 (black).
-/// Equality is that of indices: 0 and 7 differ though both stand for black.
+/// One index, 0 to 255, into the palette of DXF drawings. Default 0 (black). Equality is that of
+/// indices: 0 and 7 differ though both are black.
 ///
 /// A color becomes the index of the nearest of 24 hues, in steps of 15 degrees, in one of five
 /// brightnesses and two saturations (10 to 249); a gray that of the nearest palette gray (250 to
 /// 254); black becomes 0 and white, with what is nearest to it, 7. The indices 1 to 6, 8 and 9
 /// are never chosen.
+///
+/// @code
+/// assert(DXFColor(RGBColor(255, 0, 0)).Index() == 10);
+/// assert(DXFColor(RGBColor(250, 250, 250)) == DXFColor::_WHITE);
+/// assert(RGBColor(DXFColor(170)) == RGBColor(0, 0, 255));
+/// @endcode
 class MARLIN_API DXFColor {
 public:
     static const DXFColor _BLACK;

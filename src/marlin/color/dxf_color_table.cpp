@@ -6,12 +6,6 @@
 #include <cassert>
 #include <cstddef>
 
-namespace {
-
-// The platform's flags: read and deny others writing; create, write and deny others all.
-
-}  // namespace
-
 DXFColorTable::~DXFColorTable() = default;
 
 DXFColor DXFColorTable::DxfColorOrDefault(std::size_t entry) const noexcept {
@@ -32,9 +26,9 @@ DXFColor DXFColorTable::GetDXFColor(double value) const noexcept {
 
 DXFColor DXFColorTable::FindDXFColor(double value, int lo, int hi) const noexcept {
     assert(0 <= lo && lo <= hi && hi < NumEntries());
-    const auto behind =
+    const auto above =
         std::upper_bound(m_Values.begin() + lo + 1, m_Values.begin() + hi + 1, value);
-    return DxfColorOrDefault(static_cast<std::size_t>(behind - m_Values.begin()) - 1);
+    return DxfColorOrDefault(static_cast<std::size_t>(above - m_Values.begin()) - 1);
 }
 
 void DXFColorTable::Unique() {

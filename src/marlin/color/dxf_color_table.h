@@ -12,7 +12,15 @@
 /// A color table that knows the DXF color of every entry, so that a depth becomes a DXF color.
 /// `Unique` and `MakeDXFTable` put the DXF colors in step with the entries; changes of the
 /// entries, a `FileOpen` among them, do not. Until they are in step again, an entry without a
-/// DXF color of its own answers with the default. Made empty, with a default DXF color of 0.
+/// DXF color of its own gives the default. A new table is empty; its default DXF color is 0.
+///
+/// @code
+/// DXFColorTable depths;
+/// depths.AddEntry(0.0, RGBColor(255, 0, 0));
+/// depths.AddEntry(20.0, RGBColor(0, 0, 255));
+/// depths.MakeDXFTable();
+/// assert(depths[15.0] == DXFColor(10));
+/// @endcode
 class MARLIN_API DXFColorTable : public ColorTable {
 public:
     using ColorTable::FileOpen;

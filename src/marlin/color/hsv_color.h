@@ -6,8 +6,14 @@
 
 /// A color as hue in degrees, saturation and value, in the hexcone model. Colors that come from
 /// `RGBColor` have a hue in [0, 360), or `UNDEFINED_HUE` for a gray, and saturation and value in
-/// [0, 1]; colors given as numbers are kept as they are. Made from nothing it is (0, 0, 0).
-/// All arithmetic is single precision.
+/// [0, 1]; colors given as numbers are kept as they are. Default (0, 0, 0). All arithmetic is
+/// single precision.
+///
+/// @code
+/// const HSVColor blue(RGBColor(0, 0, 255));
+/// assert(blue.Hue() == 240.0F);
+/// assert(RGBColor(HSVColor(120, 1, 1)) == RGBColor(0, 255, 0));
+/// @endcode
 class MARLIN_API HSVColor {
 public:
     /// The hue of grays.

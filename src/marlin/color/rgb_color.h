@@ -3,10 +3,15 @@
 
 #include <marlin/core/export.h>
 
-/// A color of three 8-bit components, 0 to 255, which are the whole object. Made from nothing it
-/// is black. It converts to and from the color word of the drawing calls: red in bits 0 to 7,
-/// green in bits 8 to 15, blue in bits 16 to 23; higher bits are 0 when a word is made and
-/// ignored when one is read.
+/// A color of three 8-bit components, 0 to 255, which are the whole object. Default black. It
+/// converts to and from the color word of the drawing calls: red in bits 0 to 7, green in bits 8 to
+/// 15, blue in bits 16 to 23; higher bits are 0 when a word is made and ignored when one is read.
+///
+/// @code
+/// const RGBColor color(64, 128, 255);
+/// assert(static_cast<unsigned long>(color) == 0x00FF8040UL);
+/// assert(color.GrayScale().Red() == 122);
+/// @endcode
 class MARLIN_API RGBColor {
 public:
     constexpr RGBColor() noexcept = default;
@@ -39,7 +44,7 @@ public:
         return {gray, gray, gray};
     }
 
-    /// These keep the low 8 bits.
+    /// The setters keep the low 8 bits.
     constexpr void SetRed(int red) noexcept { m_Red = Low8(red); }
     constexpr void SetGreen(int green) noexcept { m_Green = Low8(green); }
     constexpr void SetBlue(int blue) noexcept { m_Blue = Low8(blue); }

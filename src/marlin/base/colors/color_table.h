@@ -7,8 +7,15 @@
 #include <vector>
 
 /// A table of (value, color word) entries in ascending order of value, with a color for the
-/// values below the first entry. Made empty, with black below. A color word has red in bits 0
-/// to 7, green in bits 8 to 15 and blue in bits 16 to 23.
+/// values below the first entry. A new table is empty, with black below. A color word has red in
+/// bits 0 to 7, green in bits 8 to 15 and blue in bits 16 to 23.
+///
+/// @code
+/// ColorTable depths;
+/// depths.AddEntry(20.0, 0xFF0000UL);
+/// depths.AddEntry(0.0, 0x0000FFUL);
+/// assert(depths.EntryValue(0) == 0.0 && depths.EntryColor(0) == 0x0000FFUL);
+/// @endcode
 class MARLIN_API ColorTable {
 public:
     ColorTable() = default;
@@ -25,7 +32,7 @@ public:
     /// The color of values below the first entry.
     [[nodiscard]] unsigned long BelowColor() const noexcept { return m_BelowColor; }
 
-    /// Inserts an entry behind those of smaller or equal value. False, and the table unchanged,
+    /// Inserts an entry after those of smaller or equal value. False, and the table unchanged,
     /// for a value that is not finite.
     bool AddEntry(double value, unsigned long color);
     void SetBelowColor(unsigned long color) noexcept { m_BelowColor = color; }

@@ -9,9 +9,9 @@
 
 namespace {
 
-using MARLINSUITE::Palette;
-using MARLINSUITE::PaletteColor;
-using MARLINSUITE::PaletteSlice;
+using MARLINSUITE::detail::Palette;
+using MARLINSUITE::detail::PaletteColor;
+using MARLINSUITE::detail::PaletteSlice;
 
 ErrorString ReadPaletteText(const std::string& path, std::string& text) {
     constexpr std::size_t largestFile = 4 * 1024 * 1024;
@@ -47,13 +47,14 @@ bool ApplyRange(Palette& palette) noexcept {
     return true;
 }
 
-void AddSlice(const PaletteSlice& slice, MARLINSUITE::PALETTE_MODEL model, ColorTable& table) {
+void AddSlice(const PaletteSlice& slice, MARLINSUITE::detail::PALETTE_MODEL model,
+              ColorTable& table) {
     const int steps = slice.LowColor == slice.HighColor ? 1 : 8;
     for (int i = 0; i < steps; ++i) {
         const PaletteColor color =
-            MARLINSUITE::MixedColor(slice.LowColor, slice.HighColor, (i + 0.5) / steps);
+            MARLINSUITE::detail::MixedColor(slice.LowColor, slice.HighColor, (i + 0.5) / steps);
         table.AddEntry(std::lerp(slice.Low, slice.High, static_cast<double>(i) / steps),
-                       MARLINSUITE::ColorWordOf(color, model));
+                       MARLINSUITE::detail::ColorWordOf(color, model));
     }
 }
 
@@ -66,8 +67,8 @@ ColorTable TableOf(const Palette& palette) {
     const PaletteSlice& last = palette.Slices.back();
     const PaletteColor above = palette.Foreground.value_or(last.HighColor);
     const PaletteColor below = palette.Background.value_or(first.LowColor);
-    table.AddEntry(last.High, MARLINSUITE::ColorWordOf(above, palette.Model));
-    table.SetBelowColor(MARLINSUITE::ColorWordOf(below, palette.Model));
+    table.AddEntry(last.High, MARLINSUITE::detail::ColorWordOf(above, palette.Model));
+    table.SetBelowColor(MARLINSUITE::detail::ColorWordOf(below, palette.Model));
     return table;
 }
 
@@ -85,7 +86,7 @@ ErrorString ImportPalette(const std::string& path, ColorTable& table) {
     if (!failure.Empty()) {
         return failure;
     }
-    MARLINSUITE::PaletteReader reader;
+    MARLINSUITE::detail::PaletteReader reader;
     if (!reader.Read(text)) {
         return FailureAt(path, reader.Line(), reader.Cause());
     }

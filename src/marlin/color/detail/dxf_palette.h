@@ -6,7 +6,7 @@
 /// The palette of DXF drawings as 0xRRGGBB: 0 black; 1 to 6 red, yellow, green, cyan, blue and
 /// magenta; 7 black; 8 and 9 grays; 10 to 249 groups of ten, one for each 15 degrees of hue
 /// (even offsets of full, odd ones of half saturation, from bright to dark); 250 to 255 grays.
-namespace MARLINSUITE {
+namespace MARLINSUITE::detail {
 
 inline constexpr int firstPaletteGray = 250;
 inline constexpr int lastPaletteGray = 255;
@@ -68,4 +68,4 @@ inline constexpr std::array<unsigned int, 256> dxfPalette{
 };
 // clang-format on
 
-}  // namespace MARLINSUITE
+}  // namespace MARLINSUITE::detail

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-namespace MARLINSUITE {
+namespace MARLINSUITE::detail {
 
 struct NamedColor {
     std::string_view Name;
@@ -477,4 +477,4 @@ inline constexpr NamedColor namedColors[] = {{"aliceblue", 0xF0F8FF},
                                              {"yellow4", 0x8B8B00},
                                              {"yellowgreen", 0x9ACD32}};
 
-}  // namespace MARLINSUITE
+}  // namespace MARLINSUITE::detail

@@ -8,7 +8,7 @@
 #include <iterator>
 #include <string>
 
-namespace MARLINSUITE {
+namespace MARLINSUITE::detail {
 
 namespace {
 
@@ -37,4 +37,4 @@ std::optional<unsigned int> NamedColorOf(std::string_view name) {
     return NumberedGray(lower);
 }
 
-}  // namespace MARLINSUITE
+}  // namespace MARLINSUITE::detail

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/colors/detail/color_names.h>
+#include <marlin/base/colors/detail/hexcone.h>
 #include <marlin/base/colors/detail/palette_color.h>
 #include <marlin/core/number_text.h>
 
@@ -7,48 +8,20 @@
 #include <cmath>
 #include <string>
 
-namespace MARLINSUITE {
+namespace MARLINSUITE::detail {
 
 namespace {
 
 PaletteColor RgbFromHsv(const PaletteColor& hsv) noexcept {
-    const double sextant = std::fmod(hsv[0] / 60.0, 6.0);
-    const double high = hsv[2] * 255.0;
-    const double low = high * (1.0 - hsv[1]);
-    const double part = sextant - std::floor(sextant);
-    const double falling = high - (high - low) * part;
-    const double rising = low + (high - low) * part;
-    switch (static_cast<int>(sextant)) {
-        case 0:
-            return {high, rising, low};
-        case 1:
-            return {falling, high, low};
-        case 2:
-            return {low, high, rising};
-        case 3:
-            return {low, falling, high};
-        case 4:
-            return {rising, low, high};
-        default:
-            return {high, low, falling};
-    }
+    const double sextants = std::fmod(hsv[0] / 60.0, 6.0);
+    const int sextant = static_cast<int>(sextants);
+    return FromHexcone(sextant, sextants - sextant, hsv[1], hsv[2] * 255.0);
 }
 
 // A gray has no hue; it counts as 0.
 PaletteColor HsvFromRgb(const PaletteColor& rgb) noexcept {
-    const auto [red, green, blue] = rgb;
-    const double high = std::max({red, green, blue});
-    const double span = high - std::min({red, green, blue});
-    if (span == 0.0) {
-        return {0.0, 0.0, high / 255.0};
-    }
-    double sextant = 4.0 + (red - green) / span;
-    if (high == red) {
-        sextant = (green - blue) / span + (green < blue ? 6.0 : 0.0);
-    } else if (high == green) {
-        sextant = 2.0 + (blue - red) / span;
-    }
-    return {sextant * 60.0, span / high, high / 255.0};
+    const auto [hue, saturation, value] = ToHexcone(rgb[0] / 255.0, rgb[1] / 255.0, rgb[2] / 255.0);
+    return {hue, saturation, value};
 }
 
 bool IsIn(const PaletteColor& color, PALETTE_MODEL model) noexcept {
@@ -150,4 +123,4 @@ unsigned long ColorWordOf(const PaletteColor& color, PALETTE_MODEL model) noexce
     return word;
 }
 
-}  // namespace MARLINSUITE
+}  // namespace MARLINSUITE::detail

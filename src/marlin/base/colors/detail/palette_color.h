@@ -6,7 +6,7 @@
 #include <span>
 #include <string_view>
 
-namespace MARLINSUITE {
+namespace MARLINSUITE::detail {
 
 /// In what a palette's colors are held and interpolated.
 enum class PALETTE_MODEL {
@@ -32,4 +32,4 @@ using PaletteColor = std::array<double, 3>;
 /// The color word, each of red, green and blue rounded to the nearest whole number.
 [[nodiscard]] unsigned long ColorWordOf(const PaletteColor& color, PALETTE_MODEL model) noexcept;
 
-}  // namespace MARLINSUITE
+}  // namespace MARLINSUITE::detail

@@ -5,7 +5,7 @@
 #include <marlin/base/text_functions.h>
 #include <marlin/core/number_text.h>
 
-namespace MARLINSUITE {
+namespace MARLINSUITE::detail {
 
 namespace {
 
@@ -218,4 +218,4 @@ bool PaletteReader::Fail(std::string cause) {
     return false;
 }
 
-}  // namespace MARLINSUITE
+}  // namespace MARLINSUITE::detail

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-namespace MARLINSUITE {
+namespace MARLINSUITE::detail {
 
 /// The values from `Low` up to `High` and the colors at both.
 struct PaletteSlice {
@@ -62,4 +62,4 @@ private:
     std::string m_Cause;
 };
 
-}  // namespace MARLINSUITE
+}  // namespace MARLINSUITE::detail

@@ -29,8 +29,8 @@ double Scaled(double value, const std::pair<double, double>& range, bool hasHing
     return value < 0.0 ? range.first * -value : range.second * value;
 }
 
-// Slices that run over the unit interval are fractions of the range, those that run over both
-// sides of a hinge fractions of each side. False for a range that has but one side.
+// Slices over the unit interval are fractions of the range, slices over both sides of a hinge
+// fractions of each side. False when a range lacks one of the sides.
 bool ApplyRange(Palette& palette) noexcept {
     const double low = palette.Slices.front().Low;
     const bool isHinged = palette.HasHinge && low == -1.0;

@@ -6,16 +6,16 @@
 
 namespace MARLINSUITE::detail {
 
-/// A color of the hexcone model, of which hue, saturation and value are read off a hexagon with
-/// the pure colors at its corners. `Real` sets the precision of every step.
+/// A color of the hexcone model, whose hues run round a hexagon with the pure colors at its
+/// corners. `Real` sets the precision of every step.
 template <class Real>
 struct Hexcone {
     Real Hue{};         ///< In degrees from red, [0, 360); 0 for a gray.
     Real Saturation{};  ///< 0 to 1; 0 for a gray.
-    Real Value{};       ///< 0 to 1.
+    Real Value{};       ///< On the scale of red, green and blue.
 };
 
-/// From red, green and blue, each 0 to 1.
+/// From red, green and blue on any one scale from 0.
 template <class Real>
 [[nodiscard]] constexpr Hexcone<Real> ToHexcone(Real red, Real green, Real blue) noexcept {
     const Real largest = std::max({red, green, blue});

@@ -20,8 +20,8 @@ PaletteColor RgbFromHsv(const PaletteColor& hsv) noexcept {
 
 // A gray has no hue; it counts as 0.
 PaletteColor HsvFromRgb(const PaletteColor& rgb) noexcept {
-    const auto [hue, saturation, value] = ToHexcone(rgb[0] / 255.0, rgb[1] / 255.0, rgb[2] / 255.0);
-    return {hue, saturation, value};
+    const auto [hue, saturation, value] = ToHexcone(rgb[0], rgb[1], rgb[2]);
+    return {hue, saturation, value / 255.0};
 }
 
 bool IsIn(const PaletteColor& color, PALETTE_MODEL model) noexcept {
@@ -58,7 +58,7 @@ PaletteColor Unpacked(unsigned int redGreenBlue) noexcept {
             static_cast<double>(redGreenBlue & 0xFFU)};
 }
 
-// Two digits a channel, or one that stands for two alike.
+// Two digits a channel, or one for two equal ones.
 std::optional<PaletteColor> ParseHex(std::string_view digits) {
     if (digits.size() != 3 && digits.size() != 6) {
         return std::nullopt;

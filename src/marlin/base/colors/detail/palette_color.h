@@ -8,7 +8,7 @@
 
 namespace MARLINSUITE::detail {
 
-/// In what a palette's colors are held and interpolated.
+/// The model in which a palette holds and interpolates its colors.
 enum class PALETTE_MODEL {
     RGB,  ///< Red, green, blue, each 0 to 255.
     HSV,  ///< Hue 0 to 360, saturation 0 to 1, value 0 to 1.
@@ -24,8 +24,8 @@ using PaletteColor = std::array<double, 3>;
 [[nodiscard]] std::optional<PaletteColor> ParseColorColumns(
     std::span<const std::string_view, 3> items, PALETTE_MODEL model);
 
-/// The color at a fraction of the way, number by number; hue takes the road that the numbers
-/// say and does not wrap at 360.
+/// The color at a fraction of the way, number by number; hue goes through the numbers
+/// between and does not wrap at 360.
 [[nodiscard]] PaletteColor MixedColor(const PaletteColor& from, const PaletteColor& to,
                                       double fraction) noexcept;
 

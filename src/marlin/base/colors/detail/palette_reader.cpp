@@ -22,7 +22,7 @@ std::vector<std::string_view> ItemsOf(std::string_view line) {
     return items;
 }
 
-// Behind two items or more, "#" begins a comment unless it begins a color.
+// After two items or more, "#" begins a comment unless it begins a color.
 void DropComment(std::vector<std::string_view>& items) {
     for (std::size_t i = 2; i < items.size(); ++i) {
         if (items[i].front() == '#' && !ParseColor(items[i], PALETTE_MODEL::RGB)) {
@@ -31,7 +31,7 @@ void DropComment(std::vector<std::string_view>& items) {
     }
 }
 
-// Whether the slice's two bounds are to be written beside a drawing of the palette.
+// The mark says which bounds of the slice a legend shows, which a table of colors does not.
 void DropAnnotation(std::vector<std::string_view>& items) {
     const bool hasOne = items.size() == 5 || items.size() == 9;
     if (hasOne && (items.back() == "L" || items.back() == "U" || items.back() == "B")) {

@@ -20,7 +20,7 @@ struct PaletteSlice {
     PaletteColor HighColor{};
 };
 
-/// What a palette file holds. Slices ascend and do not overlap; there may be gaps.
+/// The contents of a palette file. Slices ascend and do not overlap; there may be gaps.
 struct Palette {
     PALETTE_MODEL Model = PALETTE_MODEL::RGB;
     bool HasHinge = false;
@@ -31,10 +31,10 @@ struct Palette {
     std::optional<PaletteColor> Foreground;  ///< Above the last slice.
 };
 
-/// Reads the text of a palette file. The format is described in docs/formats/palette.md.
+/// Reads the text of a palette file. docs/formats/palette.md describes the format.
 class PaletteReader {
 public:
-    /// False at the first line that does not read; `Line` and `Cause` then say where and why.
+    /// False at the first line that is not understood; `Line` and `Cause` then say where and why.
     bool Read(std::string_view text);
 
     [[nodiscard]] const Palette& Result() const noexcept { return m_Palette; }

@@ -58,7 +58,9 @@ check_names() {
     done < <(find . -type f ! -path './qt/*' -printf '%f\n' | LC_ALL=C sort | uniq -d)
     while IFS= read -r file; do
         [ -f "${file%.cpp}.h" ] || fault "src/marlin/$file: no header of its name is beside it"
-    done < <(find . -name '*.cpp' -printf '%P\n' | LC_ALL=C sort)
+    # The instantiations of all templates of geometry/ are in one source, which declares nothing.
+    done < <(find . -name '*.cpp' ! -path ./geometry/instantiations.cpp -printf '%P\n' |
+        LC_ALL=C sort)
 }
 
 check_internals() {

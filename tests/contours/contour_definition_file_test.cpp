@@ -145,12 +145,16 @@ TEST(ContourDefinitionFile, IsReadInEveryFormThatSettingsFilesMayHave) {
 }
 
 TEST(ContourDefinitionFile, LeavesTheListWhenThereIsNothingToRead) {
-    for (const char* bytes :
-         {"", "Level=5\n", "[Contour(0)\nLevel=5\n", "[]\n[Contour(0)]\n", "[Contour(0)]\n[]\n"}) {
-        const TemporaryFile file{std::string(bytes)};
+    // A line of more than 64 MiB is not read, nor is what follows it.
+    const std::string unreadable =
+        "[Contour(0)]\n[Contour(1)]\n" + std::string(64 * 1024 * 1024 + 1, 'x');
+    for (const std::string& bytes :
+         {std::string(), std::string("Level=5\n"), std::string("[Contour(0)\nLevel=5\n"),
+          std::string("[]\n[Contour(0)]\n"), std::string("[Contour(0)]\n[]\n"), unreadable}) {
+        const TemporaryFile file{bytes};
         ContourDefinitionList list = FiveAndTen();
-        EXPECT_FALSE(list.Load(file.Path())) << bytes;
-        EXPECT_EQ(TextOf(list), TextOf(FiveAndTen())) << bytes;
+        EXPECT_FALSE(list.Load(file.Path())) << bytes.substr(0, 40);
+        EXPECT_EQ(TextOf(list), TextOf(FiveAndTen())) << bytes.substr(0, 40);
     }
     for (const char* path : {static_cast<const char*>(nullptr), "", "/", "/nowhere/at/all.cdf"}) {
         ContourDefinitionList list = FiveAndTen();

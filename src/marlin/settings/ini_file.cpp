@@ -115,11 +115,10 @@ ErrorString IniFile::OpenText(std::string_view text) {
 }
 
 ErrorString IniFile::Finish(const SettingsOutcome& outcome, const std::string& path) {
-    if (outcome.Kind == SettingsOutcome::READ_ERROR) {
-        // Part of a file must not pass for the whole: saved, it would lose the rest.
-        Clear();
-    } else if (outcome.Kind == SettingsOutcome::BAD_HEADER && !Empty()) {
-        m_Sections.pop_back();  // cut short by the header, it may lack keys
+    const bool isCutShort =
+        outcome.Kind == SettingsOutcome::BAD_HEADER || outcome.Kind == SettingsOutcome::READ_ERROR;
+    if (isCutShort && !Empty()) {
+        m_Sections.pop_back();  // it may lack keys
     }
     return outcome.Result(path);
 }

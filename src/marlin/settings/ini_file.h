@@ -40,9 +40,9 @@ public:
     IniFile(const IniFile&) = delete;
     IniFile& operator=(const IniFile&) = delete;
 
-    /// Replaces the contents by the sections of the file. Without sections when the path is
-    /// empty or the file cannot be read to its end. A header "[]" and a second section of one
-    /// name are errors too, but the sections completed before them stay.
+    /// Replaces the contents by the sections of the file. Fails when the path is empty, when the
+    /// file cannot be read to its end, at a header "[]" and at a second section of one name; the
+    /// sections completed before stay.
     ErrorString Open(const std::string& path);
     ErrorString Open(const FileName& path);
     /// The same from a text in memory.

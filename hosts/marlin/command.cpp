@@ -16,6 +16,11 @@ CLI::Option* Add(CLI::App& app, const char* name, T& target, const char* descrip
     return app.add_option(name, target, description)->type_name(type);
 }
 
+// An empty value would pass for an option that was not given.
+std::string EmptyReason(const std::string& value) {
+    return value.empty() ? "the value is empty" : "";
+}
+
 }  // namespace
 
 void Options::Word(const char* name, std::string& word, const char* description) {
@@ -33,12 +38,12 @@ void Options::OptionalWords(const char* name, std::vector<std::string>& words,
 
 void Options::Option(const char* name, std::string& value, const char* description,
                      const char* type) {
-    Add(m_App, name, value, description, type);
+    Add(m_App, name, value, description, type)->check(EmptyReason);
 }
 
 void Options::RequiredOption(const char* name, std::string& value, const char* description,
                              const char* type) {
-    Add(m_App, name, value, description, type)->required();
+    Add(m_App, name, value, description, type)->required()->check(EmptyReason);
 }
 
 void Options::Triple(const char* name, std::vector<std::string>& values, const char* description,

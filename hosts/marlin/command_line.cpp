@@ -2,8 +2,10 @@
 #include "command_line.h"
 
 #include "families.h"
+#include "nearest_word.h"
 #include <marlin/platform/kernel/process.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
@@ -14,6 +16,17 @@ namespace HOST {
 
 namespace {
 
+struct WrongWord {
+    std::string Message;
+    std::string Chosen;
+};
+
+int RefuseUsage(const std::string& reason, const std::string& chosen) {
+    Report(reason);
+    Report("\"" + chosen + " --help\" tells more");
+    return UNUSABLE;
+}
+
 class CommandLine {
 public:
     CommandLine();
@@ -21,6 +34,7 @@ public:
 
 private:
     [[nodiscard]] std::string ChosenWords() const;
+    void RequireCommands(const std::vector<std::string>& words) const;
 
     Family::Runner m_Chosen;
     CLI::App m_App{
@@ -53,8 +67,31 @@ std::string CommandLine::ChosenWords() const {
     return words;
 }
 
+// The parser would take a wrong word for an argument, and say only that something is missing.
+void CommandLine::RequireCommands(const std::vector<std::string>& words) const {
+    const CLI::App* app = &m_App;
+    std::string chosen = m_App.get_name();
+    for (const std::string& word : words) {
+        std::vector<std::string> names;
+        for (const CLI::App* command : app->get_subcommands({})) {
+            names.push_back(command->get_name());
+        }
+        if (names.empty() || word.starts_with('-')) {
+            return;
+        }
+        if (std::ranges::find(names, word) == names.end()) {
+            throw WrongWord{"\"" + word + "\" is no command of \"" + chosen +
+                                "\"; the nearest is \"" + NearestWord(word, names) + "\"",
+                            chosen};
+        }
+        app = app->get_subcommand(word);
+        chosen += " " + word;
+    }
+}
+
 int CommandLine::Run(const std::vector<std::string>& words, Output& output) {
     try {
+        RequireCommands(words);
         // The parser takes its words from the end.
         m_App.parse(std::vector<std::string>(words.rbegin(), words.rend()));
     } catch (const CLI::CallForHelp&) {
@@ -64,9 +101,9 @@ int CommandLine::Run(const std::vector<std::string>& words, Output& output) {
         output.Text = std::string(version.what()) + "\n";
         return DONE;
     } catch (const CLI::ParseError& error) {
-        Report(error.what());
-        Report("\"" + ChosenWords() + " --help\" tells more");
-        return UNUSABLE;
+        return RefuseUsage(error.what(), ChosenWords());
+    } catch (const WrongWord& wrong) {
+        return RefuseUsage(wrong.Message, wrong.Chosen);
     }
     return m_Chosen(output);
 }
@@ -90,11 +127,17 @@ std::vector<std::string> WordsOf(int argc, char** argv) {
     return words;
 }
 
+bool IsColorWanted() {
+    const char* const unwanted = std::getenv("NO_COLOR");
+    const char* const terminal = std::getenv("TERM");
+    return (!unwanted || !*unwanted) && (!terminal || std::string_view(terminal) != "dumb");
+}
+
 }  // namespace
 
 int RunCommandLine(int argc, char** argv) {
     Output output;
-    output.HasColors = PLATFORM::IsTerminal(stdout) && std::getenv("NO_COLOR") == nullptr;
+    output.HasColors = PLATFORM::IsTerminal(stdout) && IsColorWanted();
     try {
         const int code = CommandLine().Run(WordsOf(argc, argv), output);
         return Finish(output, code);

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <tuple>
+
 #include <hosts/program.h>
 
 namespace {
@@ -22,13 +24,20 @@ std::string OnTerminal(const Words& arguments) {
 }
 
 TEST(Terminal, HasSwatchesUnlessColorIsUnwanted) {
+    const std::string plain = "Color    DXF  Palette\r\n#010203  158  #000b26\r\n";
+    const std::string swatches =
+        "Color       DXF  Palette\r\n"
+        "\x1B[48;2;1;2;3m  \x1B[0m #010203  158  \x1B[48;2;0;11;38m  \x1B[0m #000b26\r\n";
+    const std::vector<std::tuple<const char*, const char*, std::string>> cases = {
+        {"xterm", "", swatches}, {"xterm", "1", plain}, {"dumb", "", plain}, {"", "", swatches}};
+    for (const auto& [terminal, noColor, text] : cases) {
+        ::setenv("TERM", terminal, 1);
+        ::setenv("NO_COLOR", noColor, 1);
+        EXPECT_EQ(OnTerminal("colors dxf 1,2,3"), text) << terminal << " " << noColor;
+    }
     ::unsetenv("NO_COLOR");
-    EXPECT_EQ(OnTerminal("colors dxf 1,2,3"),
-              "Color       DXF  Palette\r\n"
-              "\x1B[48;2;1;2;3m  \x1B[0m #010203  158  \x1B[48;2;0;11;38m  \x1B[0m #000b26\r\n");
-    ::setenv("NO_COLOR", "1", 1);
-    EXPECT_EQ(OnTerminal("colors dxf 1,2,3"), "Color    DXF  Palette\r\n#010203  158  #000b26\r\n");
-    ::unsetenv("NO_COLOR");
+    ::unsetenv("TERM");
+    EXPECT_EQ(OnTerminal("colors dxf 1,2,3"), swatches);
 }
 
 }  // namespace

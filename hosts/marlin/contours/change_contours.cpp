@@ -58,6 +58,14 @@ std::vector<double> ParseLevels(const std::vector<std::string>& texts) {
     return levels;
 }
 
+// A level that was named twice is meant once.
+std::vector<double> ParseDifferentLevels(const std::vector<std::string>& texts) {
+    std::vector<double> levels = ParseLevels(texts);
+    std::ranges::sort(levels);
+    levels.erase(std::ranges::unique(levels).begin(), levels.end());
+    return levels;
+}
+
 // The options that change a line; those that were not given are empty and change nothing.
 struct LineOptions {
     std::string Color;
@@ -108,9 +116,10 @@ struct ChangeContours {
         }
         return *contour;
     }
-    [[nodiscard]] int Save(ContourFile& file, const std::string& done, Output& output) const {
+    [[nodiscard]] static int Save(ContourFile& file, std::size_t numLevels, const std::string& done,
+                                  Output& output) {
         file.Save();
-        output.Text += CountText(Levels.size(), "level") + " " + done + "\n";
+        output.Text += CountText(numLevels, "level") + " " + done + "\n";
         return DONE;
     }
 };
@@ -126,7 +135,7 @@ struct ChangeLines : ChangeContours {
 
 struct SetContours : ChangeLines {
     int Run(Output& output) const {
-        const std::vector<double> levels = ParseLevels(Levels);
+        const std::vector<double> levels = ParseDifferentLevels(Levels);
         Line.Check();
         ContourFile file(File, ContourFile::FAILS);
         if (Line.Empty()) {
@@ -135,7 +144,7 @@ struct SetContours : ChangeLines {
         for (const double level : levels) {
             Line.ApplyTo(FindIn(file, level));
         }
-        return Save(file, "set", output);
+        return Save(file, levels.size(), "set", output);
     }
 };
 
@@ -153,13 +162,13 @@ struct AddLevels : ChangeLines {
             Line.ApplyTo(contour);
             file.Add(contour);
         }
-        return Save(file, file.IsNew() ? "added to a new file" : "added", output);
+        return Save(file, levels.size(), file.IsNew() ? "added to a new file" : "added", output);
     }
 };
 
 struct RemoveLevels : ChangeContours {
     int Run(Output& output) const {
-        const std::vector<double> levels = ParseLevels(Levels);
+        const std::vector<double> levels = ParseDifferentLevels(Levels);
         ContourFile file(File, ContourFile::FAILS);
         for (const double level : levels) {
             static_cast<void>(FindIn(file, level));
@@ -168,7 +177,7 @@ struct RemoveLevels : ChangeContours {
         if (file.Empty()) {
             Refuse(File + ": a contour file keeps one level at least; nothing written");
         }
-        return Save(file, "removed", output);
+        return Save(file, levels.size(), "removed", output);
     }
 };
 

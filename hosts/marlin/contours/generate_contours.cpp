@@ -3,26 +3,19 @@
 #include "contours.h"
 #include "input/color_source.h"
 #include "input/level.h"
+#include "level_range.h"
 #include <marlin/color/dxf_color_table.h>
-#include <marlin/core/number_text.h>
-
-#include <array>
 
 namespace HOST {
 
 namespace {
 
 ContourDefinitionList GenerateFromRange(const std::vector<std::string>& range) {
-    std::array<double, 3> numbers{};
-    for (std::size_t i = 0; i < numbers.size(); ++i) {
-        if (!MARLINSUITE::ParseWhole(range[i], numbers[i])) {
-            Fail("--range: \"" + range[i] + "\" is no number");
-        }
-    }
     ContourDefinitionList contours;
-    if (!contours.Generate(numbers[0], numbers[1], numbers[2])) {
-        Fail("--range: LOW must be below HIGH and INTERVAL above 0, for at most " +
-             NumberText(ContourDefinitionList::MaxGeneratedLevels) + " levels");
+    Contour contour;
+    for (const double level : LevelsInRange(range)) {
+        contour.Level = level;
+        contours.Add(contour);
     }
     return contours;
 }

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "support/temporary_folder.h"
 #include <marlin/base/files/file_replacement.h>
+#include <marlin/platform/kernel/detail/test_levers.h>
 
+#include <array>
 #include <csignal>
 #include <filesystem>
 #include <string>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -106,32 +109,53 @@ TEST(ReplaceFile, AFailureNamesFileAndCauseAndLeavesTheOldFile) {
     EXPECT_EQ(bytes, "kept");
 }
 
-TEST(ReplaceFile, RewritesInPlaceWhereTheFolderTakesNoNewFile) {
-    if (::geteuid() == 0 && ::seteuid(65534) != 0) {
-        GTEST_SKIP() << "cannot take on a user whom permissions bind";
-    }
+TEST(ReplaceFile, MakesFilesUnderNamesWhereThereAreNoUnnamedOnes) {
     const TemporaryFolder folder;
-    const std::string path = folder.Write("a", std::string(1000, 'o'));
-    fs::permissions(folder.File(""), fs::perms(0555));
-    const bool shorter = ReplaceFile(path, "new").Empty();
-    const std::string afterShorter = TemporaryFolder::Read(path);
-    bool refused = false;
+    PLATFORM::detail::AllowUnnamedFiles(false);
+    const std::string path = folder.Write("a", "old");
+    fs::permissions(path, fs::perms(0604));
+    EXPECT_TRUE(ReplaceFile(path, "new").Empty());
+    EXPECT_TRUE(ReplaceFile(folder.File("b"), "new").Empty());
     {
         const FullDisk full(5000);
-        refused = !ReplaceFile(path, std::string(100'000, 'n')).Empty();
+        EXPECT_FALSE(ReplaceFile(path, std::string(100'000, 'n')).Empty());
     }
-    const std::string afterRefusal = TemporaryFolder::Read(path);
-    const std::string newFile = ReplaceFile(folder.File("b"), "x").Text();
-    fs::permissions(folder.File(""), fs::perms(0755));
-    fs::permissions(path, fs::perms(0444));
-    const std::string readOnly = ReplaceFile(path, "x").Text();
-    static_cast<void>(::seteuid(::getuid()));
-    EXPECT_TRUE(shorter);
-    EXPECT_EQ(afterShorter, "new");
-    EXPECT_TRUE(refused);
-    EXPECT_EQ(afterRefusal, "new");
-    EXPECT_EQ(newFile, folder.File("b") + ": Permission denied");
-    EXPECT_EQ(readOnly, path + ": Permission denied");
+    PLATFORM::detail::AllowUnnamedFiles(true);
+    EXPECT_EQ(TemporaryFolder::Read(path) + TemporaryFolder::Read(folder.File("b")), "newnew");
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms(0604));
+    EXPECT_EQ(folder.NumFiles(), 2);
+}
+
+// As the shell sends output to a file of others' lines.
+TEST(ReplaceFile, WritesToWhatIsOpenAndToPipesAndReplacesNeither) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("a", "before\n");
+    fs::create_hard_link(path, folder.File("b"));
+    const int open = ::open(path.c_str(), O_WRONLY | O_APPEND);
+    fs::create_symlink("/proc/self/fd/" + std::to_string(open), folder.File("link"));
+    EXPECT_TRUE(ReplaceFile("/dev/fd/" + std::to_string(open), "1").Empty());
+    EXPECT_TRUE(ReplaceFile(folder.File("link"), "2").Empty());
+    ::close(open);
+    EXPECT_EQ(TemporaryFolder::Read(folder.File("b")), "before\n12");
+    EXPECT_EQ(ReplaceFile("/dev/fd/" + std::to_string(open), "3").Text(),
+              "/dev/fd/" + std::to_string(open) + ": Bad file descriptor");
+    const std::string pipe = folder.File("pipe");
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    const int reading = ::open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
+    EXPECT_TRUE(ReplaceFile(pipe, "through").Empty());
+    std::array<char, 10> bytes{};
+    EXPECT_EQ(::read(reading, bytes.data(), bytes.size()), 7);
+    ::close(reading);
+    EXPECT_TRUE(fs::is_fifo(pipe));
+}
+
+TEST(ReplaceFile, SplitsHardLinks) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("a", "old");
+    fs::create_hard_link(path, folder.File("b"));
+    EXPECT_TRUE(ReplaceFile(path, "new").Empty());
+    EXPECT_EQ(TemporaryFolder::Read(path), "new");
+    EXPECT_EQ(TemporaryFolder::Read(folder.File("b")), "old");
 }
 
 }  // namespace

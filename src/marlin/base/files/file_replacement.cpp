@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/files/file_replacement.h>
 #include <marlin/core/number_text.h>
+#include <marlin/platform/kernel/detail/file_attributes.h>
 #include <marlin/platform/kernel/detail/new_file.h>
+#include <marlin/platform/kernel/detail/path_links.h>
 
 #include <cerrno>
 
@@ -19,28 +21,21 @@ bool FolderRefused(int error) {
     return error == EACCES || error == EPERM || error == EROFS || error == EBUSY || error == EXDEV;
 }
 
-int WriteNewFile(NewFile& file, std::string_view bytes, const FileStatus* old) {
-    // Until it has the old file's mode, nobody else may read what that one may hide.
-    constexpr unsigned int ownerAlone = 0600;
-    constexpr unsigned int asMasked = 0666;
-    int error = file.Create(old ? ownerAlone : asMasked);
+// Before the rename the file is on the disk, so that a crash leaves either file whole.
+int WriteNewFile(NewFile& file, std::string_view bytes, unsigned int mode) {
+    int error = file.Create(mode);
     if (error == 0) {
         error = file.Contents().WriteAll(bytes);
     }
-    if (error == 0) {
-        // Before the rename, so that a crash leaves either file whole.
-        error = file.Contents().Sync();
-    }
-    if (error == 0 && old) {
-        error = file.Contents().TakeAttributes(*old);
-    }
-    return error == 0 ? file.TakePlace() : error;
+    return error == 0 ? file.Contents().Sync() : error;
 }
 
-// A device or a pipe takes bytes, and has no size.
+// A device or a pipe takes bytes, and has no size. What is open, standard output above all, is
+// written from its own position on: a second one would overwrite what others wrote.
 int WriteOther(const std::string& path, std::string_view bytes) {
     File file;
-    int error = file.OpenForWriting(path);
+    const int descriptor = PLATFORM::detail::DescriptorOf(path);
+    int error = descriptor >= 0 ? file.OpenDescriptor(descriptor) : file.OpenForWriting(path);
     if (error == 0) {
         error = file.WriteAll(bytes);
     }
@@ -54,18 +49,36 @@ int RewriteInPlace(const std::string& path, std::string_view bytes, const FileSt
     if (const int error = file.OpenForWriting(path); error != 0) {
         return error;
     }
-    if (const int error = file.Reserve(bytes.size()); error != 0) {
+    if (const int error = file.Reserve(old.Size, bytes.size()); error != 0) {
         const int resized = file.Resize(old.Size);
-        return resized != 0 ? resized : error;
+        const int kept = PLATFORM::detail::KeepSetIdBits(file, old);
+        return resized != 0 ? resized : kept != 0 ? kept : error;
     }
     int error = file.WriteAll(bytes);
     if (error == 0) {
         error = file.Resize(bytes.size());
     }
     if (error == 0) {
+        error = PLATFORM::detail::KeepSetIdBits(file, old);
+    }
+    if (error == 0) {
         error = file.Sync();
     }
     return error == 0 ? file.Close() : error;
+}
+
+// Nobody else may read the new file until it is complete, since the old one may hide its contents.
+int ReplaceRegular(const std::string& target, std::string_view bytes, const FileStatus& old) {
+    constexpr unsigned int ownerAlone = 0600;
+    NewFile file(target);
+    int error = WriteNewFile(file, bytes, ownerAlone);
+    if (error == 0) {
+        if (PLATFORM::detail::TakeAttributes(file.Contents(), target, old) != 0) {
+            return RewriteInPlace(target, bytes, old);
+        }
+        error = file.TakePlace();
+    }
+    return FolderRefused(error) ? RewriteInPlace(target, bytes, old) : error;
 }
 
 int ReplaceOld(const std::string& target, std::string_view bytes, const FileStatus& old) {
@@ -77,23 +90,28 @@ int ReplaceOld(const std::string& target, std::string_view bytes, const FileStat
     if (const int error = PLATFORM::detail::CheckWritable(target); error != 0) {
         return error;
     }
-    if (old.Kind == FILE_KIND::OTHER) {
-        return WriteOther(target, bytes);
-    }
+    return old.Kind == FILE_KIND::OTHER ? WriteOther(target, bytes)
+                                        : ReplaceRegular(target, bytes, old);
+}
+
+int MakeFile(const std::string& target, std::string_view bytes) {
+    constexpr unsigned int asMasked = 0666;
     NewFile file(target);
-    const int error = WriteNewFile(file, bytes, &old);
-    return FolderRefused(error) ? RewriteInPlace(target, bytes, old) : error;
+    const int error = WriteNewFile(file, bytes, asMasked);
+    return error == 0 ? file.TakePlace() : error;
 }
 
 int Replace(std::string target, std::string_view bytes) {
     if (const int error = PLATFORM::detail::FollowLinks(target); error != 0) {
         return error;
     }
+    if (PLATFORM::detail::DescriptorOf(target) >= 0) {
+        return WriteOther(target, bytes);
+    }
     FileStatus old;
     const int error = PLATFORM::detail::StatusOf(target, old);
     if (error == ENOENT) {
-        NewFile file(target);
-        return WriteNewFile(file, bytes, nullptr);
+        return MakeFile(target, bytes);
     }
     return error == 0 ? ReplaceOld(target, bytes, old) : error;
 }

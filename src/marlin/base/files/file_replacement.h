@@ -11,11 +11,18 @@
 
 namespace MARLINSUITE {
 
-/// Gives a file new contents, as a whole or not at all: the bytes are written beside the
-/// target, flushed to disk and renamed over it, through a symbolic link to the file that it
-/// names, with the mode bits of the file that was there. Where the folder takes no new file
-/// the target is rewritten in place, after its new size has been reserved. A failure names the
-/// file and the system's reason and leaves the old file as it was.
+/// Gives a file new contents, as a whole or not at all: the bytes are written to a new file beside
+/// the target, flushed to disk and renamed over it, through symbolic links to the file that they
+/// name. Owner, group, mode and extended attributes (access lists among them) stay; set-user and
+/// set-group bits go unless the owner or root saves. Of a file with several hard links this one
+/// name gets the new contents, the others keep the old. A save cut short, by a signal too, leaves
+/// the old file and nothing else, but for one file ".marlin-….tmp" in the moment of the rename or
+/// on file systems that have no unnamed files.
+///
+/// Where the folder takes no new file or the new file cannot have those attributes, the target is
+/// rewritten in place, after its new size has been reserved. Pipes, devices and open descriptors
+/// ("/dev/stdout") are written to. A failure names the file and the system's reason and leaves
+/// the old file as it was.
 /// @code
 /// assert(MARLINSUITE::ReplaceFile("notes.txt", "first\n").Empty());
 /// std::string bytes;

@@ -2,9 +2,12 @@
 #include <marlin/platform/kernel/detail/file.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <cstdio>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -27,6 +30,34 @@ FileStatus Converted(const struct stat& status) noexcept {
             status.st_mode & 07777U,
             status.st_uid,
             status.st_gid};
+}
+
+// The name that the system gives an open file of this process.
+std::array<char, 32> NameOf(int descriptor) noexcept {
+    std::array<char, 32> name{};
+    static_cast<void>(std::snprintf(name.data(), name.size(), "/proc/self/fd/%d", descriptor));
+    return name;
+}
+
+int WriteZeros(int descriptor, std::uint64_t from, std::uint64_t to) noexcept {
+    constexpr std::array<char, 4096> zeros{};
+    while (from < to) {
+        const auto size =
+            static_cast<std::size_t>(std::min<std::uint64_t>(zeros.size(), to - from));
+        const ssize_t written = ::pwrite(descriptor, zeros.data(), size, static_cast<off_t>(from));
+        if (written >= 0) {
+            from += static_cast<std::uint64_t>(written);
+        } else if (errno != EINTR) {
+            return errno;
+        }
+    }
+    return 0;
+}
+
+// For a pipe or terminal that another program set not to wait.
+void AwaitSpace(int descriptor) noexcept {
+    pollfd request{descriptor, POLLOUT, 0};
+    static_cast<void>(::poll(&request, 1, -1));  // the next write has the error
 }
 
 }  // namespace
@@ -73,6 +104,28 @@ int File::Create(const std::string& path, unsigned int mode) noexcept {
     return Open(path, O_WRONLY | O_CREAT | O_EXCL, mode);
 }
 
+// The name under which the file would be linked has to be there, or a whole file were written
+// in vain.
+int File::CreateUnnamed(const std::string& folder, unsigned int mode) noexcept {
+    int error = Open(folder, O_WRONLY | O_TMPFILE, mode);
+    if (error == 0 && ::access(NameOf(m_Descriptor).data(), F_OK) != 0) {
+        error = errno;
+        static_cast<void>(Close());
+    }
+    return error;
+}
+
+int File::LinkTo(const std::string& path) const {
+    return ErrorOf(
+        ::linkat(AT_FDCWD, NameOf(m_Descriptor).data(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW));
+}
+
+int File::OpenDescriptor(int descriptor) noexcept {
+    static_cast<void>(Close());
+    m_Descriptor = ::fcntl(descriptor, F_DUPFD_CLOEXEC, 0);
+    return ErrorOf(m_Descriptor);
+}
+
 // After EINTR the system has closed the file; closing again could hit one opened since.
 int File::Close() noexcept {
     const int descriptor = std::exchange(m_Descriptor, -1);
@@ -109,6 +162,8 @@ int File::WriteAll(std::string_view bytes) const noexcept {
         const ssize_t written = ::write(m_Descriptor, bytes.data(), bytes.size());
         if (written >= 0) {
             bytes.remove_prefix(static_cast<std::size_t>(written));
+        } else if (errno == EAGAIN) {
+            AwaitSpace(m_Descriptor);
         } else if (errno != EINTR) {
             return errno;
         }
@@ -125,9 +180,14 @@ int File::Status(FileStatus& status) const noexcept {
     return error;
 }
 
-int File::Reserve(std::uint64_t size) const noexcept {
-    const int error = size == 0 ? 0 : ::posix_fallocate(m_Descriptor, 0, static_cast<off_t>(size));
-    return error == EINVAL || error == EOPNOTSUPP ? 0 : error;
+// Where the file system cannot reserve, the bytes by which the file grows are written. The
+// emulation of the system's library would read the file, which is open for writing alone.
+int File::Reserve(std::uint64_t present, std::uint64_t size) const noexcept {
+    if (size == 0) {
+        return 0;
+    }
+    const int error = ErrorOf(::fallocate(m_Descriptor, 0, 0, static_cast<off_t>(size)));
+    return error == EOPNOTSUPP || error == ENOSYS ? WriteZeros(m_Descriptor, present, size) : error;
 }
 
 int File::Resize(std::uint64_t size) const noexcept {
@@ -136,14 +196,6 @@ int File::Resize(std::uint64_t size) const noexcept {
 
 int File::Sync() const noexcept {
     return ErrorOf(::fsync(m_Descriptor));
-}
-
-// The owner first: giving a file away clears some of its mode bits.
-int File::TakeAttributes(const FileStatus& other) const noexcept {
-    if (::fchown(m_Descriptor, other.Owner, other.Group) != 0 && errno != EPERM) {
-        return errno;
-    }
-    return ErrorOf(::fchmod(m_Descriptor, other.Mode));
 }
 
 int StatusOf(const std::string& path, FileStatus& status) noexcept {
@@ -158,30 +210,6 @@ int StatusOf(const std::string& path, FileStatus& status) noexcept {
 // The effective user counts, as when the file is opened.
 int CheckWritable(const std::string& path) noexcept {
     return ErrorOf(::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS));
-}
-
-std::string FolderOf(const std::string& path) {
-    const auto slash = path.rfind('/');
-    return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
-}
-
-int FollowLinks(std::string& path) {
-    constexpr int mostLinks = 40;  // the system's own limit
-    std::string followed = path;
-    std::string target(4096, '\0');  // no path is longer
-    for (int i = 0; i < mostLinks; ++i) {
-        const ssize_t length = ::readlink(followed.c_str(), target.data(), target.size());
-        if (length < 0 && errno != EINVAL && errno != ENOENT) {
-            return errno;
-        }
-        if (length < 0) {  // no link, or no file
-            path = followed;
-            return 0;
-        }
-        const std::string next = target.substr(0, static_cast<std::size_t>(length));
-        followed = (next.starts_with('/') ? std::string() : FolderOf(followed)).append(next);
-    }
-    return ELOOP;
 }
 
 // Reads until the end and not up to a size told before, which pipes and devices do not have.

@@ -47,7 +47,17 @@ public:
     /// the path has one.
     [[nodiscard]] int Create(const std::string& path, unsigned int mode) noexcept;
 
+    /// Makes a file without a name in a folder, which goes when it is closed unless it was linked.
+    /// An error, of any kind, where the file system cannot or links are not possible.
+    [[nodiscard]] int CreateUnnamed(const std::string& folder, unsigned int mode) noexcept;
+    /// Gives a file that was made without a name this one. EEXIST when it is taken.
+    [[nodiscard]] int LinkTo(const std::string& path) const;
+    /// Takes a second descriptor of one that the process holds; it shares the position.
+    [[nodiscard]] int OpenDescriptor(int descriptor) noexcept;
+
     [[nodiscard]] bool IsOpen() const noexcept { return m_Descriptor >= 0; }
+    /// -1 without an open file.
+    [[nodiscard]] int Descriptor() const noexcept { return m_Descriptor; }
     /// A failure may be that of an earlier write. The file is closed in any case.
     int Close() noexcept;
 
@@ -59,15 +69,12 @@ public:
     [[nodiscard]] int WriteAll(std::string_view bytes) const noexcept;
 
     [[nodiscard]] int Status(FileStatus& status) const noexcept;
-    /// Takes space on the disk for so many bytes, so that writing them cannot fill it. A file that
-    /// was shorter gets that size, after a failure too. Success on a disk that cannot reserve.
-    [[nodiscard]] int Reserve(std::uint64_t size) const noexcept;
+    /// Takes space on the disk for so many bytes, so that writing them cannot fill it. `present` is
+    /// the file's size; a file that was shorter grows, after a failure too.
+    [[nodiscard]] int Reserve(std::uint64_t present, std::uint64_t size) const noexcept;
     [[nodiscard]] int Resize(std::uint64_t size) const noexcept;
     /// Returns once the contents are on the disk.
     [[nodiscard]] int Sync() const noexcept;
-    /// Gives the file the mode, owner and group of another one. Only a privileged process may
-    /// give files away; without the privilege the owner stays, and that is no failure.
-    [[nodiscard]] int TakeAttributes(const FileStatus& other) const noexcept;
 
 private:
     [[nodiscard]] int Open(const std::string& path, int flags, unsigned int mode = 0) noexcept;
@@ -79,11 +86,6 @@ private:
 [[nodiscard]] int StatusOf(const std::string& path, FileStatus& status) noexcept;
 /// 0 when this process may write the file; EACCES, EROFS and the like when not.
 [[nodiscard]] int CheckWritable(const std::string& path) noexcept;
-/// Replaces a path by the one that its symbolic links lead to, where no file needs to exist.
-/// ELOOP for links in a circle.
-[[nodiscard]] int FollowLinks(std::string& path);
-/// The folder part of a path, with an ending "/"; "./" for a name alone.
-[[nodiscard]] std::string FolderOf(const std::string& path);
 
 /// Reads a file whole. EFBIG when it has more than `limit` bytes, of which no more are read.
 [[nodiscard]] int ReadWhole(const std::string& path, std::size_t limit, std::string& bytes,

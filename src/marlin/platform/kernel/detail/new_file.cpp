@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/core/number_text.h>
 #include <marlin/platform/kernel/detail/new_file.h>
+#include <marlin/platform/kernel/detail/path_links.h>
+#include <marlin/platform/kernel/detail/test_levers.h>
 
-#include <atomic>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 
@@ -13,14 +14,36 @@ namespace PLATFORM::detail {
 
 namespace {
 
-// Other processes cannot have the name by chance, and other threads not at all.
-std::string UnusedName() {
-    static std::atomic<unsigned int> counter = 0;
-    std::string name = ".marlin-";
-    MARLINSUITE::AppendNumber(name, static_cast<unsigned int>(::getpid()));
-    name += '-';
-    MARLINSUITE::AppendNumber(name, counter++);
-    return name + ".tmp";
+// Nobody can guess the name, to put a file or a link of the own there first.
+int MakeName(std::string& name) {
+    constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyz012345";
+    std::array<unsigned char, 16> random{};
+    if (::getentropy(random.data(), random.size()) != 0) {
+        return errno;
+    }
+    name = ".marlin-";
+    for (const unsigned char byte : random) {
+        name += letters[byte % letters.size()];
+    }
+    name += ".tmp";
+    return 0;
+}
+
+// Calls `make` with unused paths in the folder until one is made; `path` is that one.
+template <class Make>
+int MakeUnderNewName(const std::string& folder, std::string& path, const Make& make) {
+    std::string name;
+    int error = EEXIST;
+    for (int tries = 0; tries < 3 && error == EEXIST; ++tries) {
+        error = MakeName(name);
+        if (error == 0) {
+            error = make(folder + name);
+        }
+    }
+    if (error == 0) {
+        path = folder + name;
+    }
+    return error;
 }
 
 // A rename reaches the disk with its folder. Some file systems cannot sync a folder, and the
@@ -42,19 +65,28 @@ NewFile::~NewFile() {
 }
 
 int NewFile::Create(unsigned int mode) {
-    constexpr int tries = 100;  // a crashed process of the same number may have left files
-    int error = EEXIST;
-    for (int i = 0; i < tries && error == EEXIST; ++i) {
-        std::string path = FolderOf(m_Target) + UnusedName();
-        error = m_File.Create(path, mode);
-        if (error == 0) {
-            m_Path = std::move(path);
-        }
+    const std::string folder = FolderOf(m_Target);
+    if (AreUnnamedFilesAllowed() && m_File.CreateUnnamed(folder, mode) == 0) {
+        return 0;
     }
-    return error;
+    return MakeUnderNewName(folder, m_Path,
+                            [&](const std::string& path) { return m_File.Create(path, mode); });
+}
+
+// A link replaces nothing, so a file that takes the place of another one has a name of its own for
+// the moment before the rename.
+int NewFile::Name() {
+    if (!m_Path.empty()) {
+        return 0;
+    }
+    return MakeUnderNewName(FolderOf(m_Target), m_Path,
+                            [&](const std::string& path) { return m_File.LinkTo(path); });
 }
 
 int NewFile::TakePlace() {
+    if (const int error = Name(); error != 0) {
+        return error;
+    }
     if (const int error = m_File.Close(); error != 0) {
         return error;
     }

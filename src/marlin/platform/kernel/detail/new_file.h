@@ -5,8 +5,10 @@
 
 namespace PLATFORM::detail {
 
-/// A new file in the folder of another one, the target, whose name it takes in the end. Without
-/// that it is removed when it is destroyed. Results as for `File`.
+/// A new file in the folder of another one, the target, whose name it takes in the end. Until then
+/// it has no name where the file system can do so, and goes with the process, however that ends;
+/// elsewhere it has a name of random letters and is removed when it is destroyed. Results as for
+/// `File`.
 class NewFile {
 public:
     explicit NewFile(std::string target) : m_Target(std::move(target)) {}
@@ -14,7 +16,7 @@ public:
     NewFile& operator=(const NewFile&) = delete;
     ~NewFile();
 
-    /// Makes the file, under a name that no other file has, for `Contents` to be written.
+    /// Makes the file, for `Contents` to be written.
     [[nodiscard]] int Create(unsigned int mode);
     [[nodiscard]] File& Contents() noexcept { return m_File; }
 
@@ -23,6 +25,8 @@ public:
     [[nodiscard]] int TakePlace();
 
 private:
+    [[nodiscard]] int Name();
+
     std::string m_Target;
     std::string m_Path;  // empty while there is nothing to remove
     File m_File;

@@ -11,6 +11,7 @@ namespace {
 constinit std::atomic<unsigned int> workerLimit{NoWorkerLimit};
 constinit std::atomic<bool> workersHeld{false};
 constinit std::atomic<MillisecondClock> replacedClock{nullptr};
+constinit std::atomic<bool> unnamedFiles{true};
 constinit std::atomic<unsigned int> platformId{VER_PLATFORM_WIN32_NT};
 
 }  // namespace
@@ -38,6 +39,14 @@ void SetMillisecondClock(MillisecondClock clock) noexcept {
 
 MillisecondClock ReplacedClock() noexcept {
     return replacedClock;
+}
+
+void AllowUnnamedFiles(bool allow) noexcept {
+    unnamedFiles = allow;
+}
+
+bool AreUnnamedFilesAllowed() noexcept {
+    return unnamedFiles;
 }
 
 void SetPlatformId(unsigned int id) noexcept {

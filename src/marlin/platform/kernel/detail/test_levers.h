@@ -27,6 +27,10 @@ using MillisecondClock = unsigned long (*)();
 MARLIN_API void SetMillisecondClock(MillisecondClock clock) noexcept;
 [[nodiscard]] MillisecondClock ReplacedClock() noexcept;
 
+/// Off, new files have names from the start, as on a file system that has no unnamed ones.
+MARLIN_API void AllowUnnamedFiles(bool allow) noexcept;
+[[nodiscard]] bool AreUnnamedFilesAllowed() noexcept;
+
 /// The platform that `GetVersionExA` reports: 2 until it is set.
 MARLIN_API void SetPlatformId(unsigned int id) noexcept;
 [[nodiscard]] unsigned int PlatformId() noexcept;

@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: MIT
+// What saving keeps of a file, tried as other users in children of the test.
+#include "support/temporary_folder.h"
+#include <marlin/base/files/file_replacement.h>
+#include <marlin/platform/kernel/detail/test_levers.h>
+
+#include <array>
+#include <csignal>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+#include <fcntl.h>
+#include <grp.h>
+#include <gtest/gtest.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace {
+
+using MARLINSUITE::ReplaceFile;
+namespace fs = std::filesystem;
+
+constexpr uid_t owner = 65501;
+constexpr uid_t member = 65502;
+constexpr gid_t sharedGroup = 65510;
+constexpr gid_t ownGroup = 65511;
+
+// The wait status of a child that runs the action in the folder: paths from there need no right to
+// enter the folders above.
+template <class Action>
+int StatusOfChild(const TemporaryFolder& folder, const Action& action) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::_exit(::chdir(folder.File("").c_str()) == 0 ? action() : 99);
+    }
+    int status = -1;
+    ::waitpid(child, &status, 0);
+    return status;
+}
+
+// Saves "new" to "a" as that user, whose groups are his own and the shared one.
+bool SavedAs(uid_t user, const TemporaryFolder& folder) {
+    const int status = StatusOfChild(folder, [user] {
+        const bool changed =
+            ::setgroups(1, &sharedGroup) == 0 && ::setegid(ownGroup) == 0 && ::seteuid(user) == 0;
+        return changed && ReplaceFile("a", "new").Empty() ? 0 : 1;
+    });
+    return status == 0;
+}
+
+// A folder that all may write, and in it the file "a" with the shared group.
+struct SharedFile {
+    TemporaryFolder Folder;
+    std::string Path = Folder.Write("a", "a longer old text");
+
+    explicit SharedFile(unsigned int mode) {
+        fs::permissions(Folder.File(""), fs::perms(0777));
+        EXPECT_EQ(::chown(Path.c_str(), owner, sharedGroup), 0);
+        EXPECT_EQ(::chmod(Path.c_str(), mode), 0);
+    }
+    [[nodiscard]] struct stat Status() const {
+        struct stat status {};
+        EXPECT_EQ(::stat(Path.c_str(), &status), 0);
+        return status;
+    }
+};
+
+// An access list that lets one more user read: owner rw, that user r, group rw, others nothing.
+std::string AccessList() {
+    struct Entry {
+        std::uint16_t Tag;
+        std::uint16_t Rights;
+        std::uint32_t User;
+    };
+    constexpr std::uint32_t nobody = 0xFFFFFFFF;
+    std::string bytes{"\2\0\0\0", 4};
+    for (const Entry& entry : {Entry{1, 6, nobody}, Entry{2, 4, 65533}, Entry{4, 6, nobody},
+                               Entry{0x10, 6, nobody}, Entry{0x20, 0, nobody}}) {
+        bytes.append(reinterpret_cast<const char*>(&entry), sizeof entry);
+    }
+    return bytes;
+}
+
+std::string Attribute(const std::string& path, const char* name) {
+    std::array<char, 200> bytes{};
+    const ssize_t size = ::getxattr(path.c_str(), name, bytes.data(), bytes.size());
+    return size < 0 ? "none" : std::string(bytes.data(), static_cast<std::size_t>(size));
+}
+
+bool SetAttribute(const std::string& path, const char* name, const std::string& value) {
+    return ::setxattr(path.c_str(), name, value.data(), value.size(), 0) == 0;
+}
+
+// Set-user and set-group bits go where another than the owner or root saves.
+TEST(ReplaceFileAsUser, KeepsOwnerGroupAndMode) {
+    if (::geteuid() != 0) {
+        GTEST_SKIP() << "only root can take on other users";
+    }
+    struct Case {
+        uid_t User;
+        unsigned int Mode;
+        unsigned int Kept;
+        bool IsNewFile;
+    };
+    for (const Case& c : {Case{0, 0640, 0640, true}, Case{0, 06775, 06775, true},
+                          Case{owner, 0660, 0660, true}, Case{owner, 06770, 06770, true},
+                          Case{member, 0664, 0664, false}, Case{member, 06775, 0775, false}}) {
+        const SharedFile file(c.Mode);
+        const ino_t before = file.Status().st_ino;
+        ASSERT_TRUE(SavedAs(c.User, file.Folder)) << c.User;
+        const struct stat after = file.Status();
+        EXPECT_EQ(TemporaryFolder::Read(file.Path), "new") << c.User;
+        EXPECT_EQ(after.st_uid, owner) << c.User;
+        EXPECT_EQ(after.st_gid, sharedGroup) << c.User;
+        EXPECT_EQ(after.st_mode & 07777U, c.Kept) << c.User;
+        EXPECT_EQ(after.st_ino != before, c.IsNewFile) << c.User;
+        EXPECT_EQ(file.Folder.NumFiles(), 1) << c.User;
+    }
+}
+
+TEST(ReplaceFileAsUser, KeepsExtendedAttributesAndAccessListsAndTakesNoneOfTheFolder) {
+    if (::geteuid() != 0) {
+        GTEST_SKIP() << "only root can take on other users";
+    }
+    for (const uid_t user : {uid_t{0}, owner, member}) {
+        const SharedFile file(0660);
+        if (!SetAttribute(file.Path, "user.note", "kept") ||
+            !SetAttribute(file.Path, "system.posix_acl_access", AccessList())) {
+            GTEST_SKIP() << "the file system has no extended attributes";
+        }
+        ASSERT_TRUE(SavedAs(user, file.Folder)) << user;
+        EXPECT_EQ(Attribute(file.Path, "user.note"), "kept") << user;
+        EXPECT_EQ(Attribute(file.Path, "system.posix_acl_access"), AccessList()) << user;
+    }
+    const SharedFile plain(0664);
+    ASSERT_TRUE(SetAttribute(plain.Folder.File(""), "system.posix_acl_default", AccessList()));
+    ASSERT_TRUE(SavedAs(0, plain.Folder));
+    EXPECT_EQ(Attribute(plain.Path, "system.posix_acl_access"), "none");
+    EXPECT_EQ(plain.Status().st_mode & 0777U, 0664U);
+}
+
+TEST(ReplaceFileAsUser, RewritesInPlaceWhereTheFolderTakesNoNewFile) {
+    if (::geteuid() != 0) {
+        GTEST_SKIP() << "only root can take on other users";
+    }
+    const SharedFile file(04775);
+    fs::permissions(file.Folder.File(""), fs::perms(0555));
+    const auto refused = [&](const char* name, std::size_t size, const char* message) {
+        return StatusOfChild(file.Folder, [&] {
+            const rlimit limit{5000, 5000};
+            std::signal(SIGXFSZ, SIG_IGN);
+            const bool ready = ::setrlimit(RLIMIT_FSIZE, &limit) == 0 && ::seteuid(owner) == 0;
+            const ErrorString error = ReplaceFile(name, std::string(size, 'n'));
+            return ready && error.Text() == message ? 0 : 1;
+        });
+    };
+    EXPECT_EQ(refused("a", 100'000, "a: File too large"), 0);
+    EXPECT_EQ(TemporaryFolder::Read(file.Path), "a longer old text");
+    EXPECT_EQ(refused("b", 1, "b: Permission denied"), 0);
+    EXPECT_TRUE(SavedAs(owner, file.Folder));
+    EXPECT_EQ(TemporaryFolder::Read(file.Path), "new");
+    EXPECT_EQ(file.Status().st_mode & 07777U, 04775U);
+    fs::permissions(file.Path, fs::perms(0444));
+    EXPECT_EQ(refused("a", 1, "a: Permission denied"), 0);
+    EXPECT_EQ(TemporaryFolder::Read(file.Path), "new");
+}
+
+// A ramfs has neither extended attributes nor a way to reserve.
+TEST(ReplaceFileAsUser, RewritesInPlaceWhereNothingCanBeReserved) {
+    const TemporaryFolder folder;
+    const int status = StatusOfChild(folder, [] {
+        if (::unshare(CLONE_NEWNS) != 0 ||
+            ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            ::mount("none", ".", "ramfs", 0, nullptr) != 0 || ::chdir(fs::current_path().c_str())) {
+            return 2;
+        }
+        const auto write = [](const char* text) { std::ofstream("a") << text; };
+        write("old");
+        ::chmod("a", 0666);
+        ::chmod(".", 0555);
+        const std::string longer(100'000, 'n');
+        const rlimit limit{50'000, 200'000};
+        std::signal(SIGXFSZ, SIG_IGN);
+        if (::seteuid(member) != 0 || !ReplaceFile("a", longer).Empty() ||
+            TemporaryFolder::Read("a") != longer || !ReplaceFile("a", "short").Empty() ||
+            TemporaryFolder::Read("a") != "short") {
+            return 1;
+        }
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        const bool refused = !ReplaceFile("a", longer).Empty();
+        return refused && TemporaryFolder::Read("a") == "short" ? 0 : 1;
+    });
+    if (WEXITSTATUS(status) == 2) {
+        GTEST_SKIP() << "cannot mount a file system";
+    }
+    EXPECT_EQ(status, 0);
+}
+
+bool HasUnnamedFiles(const TemporaryFolder& folder) {
+    const int descriptor = ::open(folder.File("").c_str(), O_WRONLY | O_TMPFILE, 0600);
+    ::close(descriptor);
+    return descriptor >= 0;
+}
+
+// The signal of a limit on the size of files ends the child within the write.
+TEST(ReplaceFile, AnEndWithinTheWriteLeavesNothingOrAFileThatOthersCannotRead) {
+    const TemporaryFolder folder;
+    if (!HasUnnamedFiles(folder)) {
+        GTEST_SKIP() << "the file system has no unnamed files";
+    }
+    const std::string path = folder.Write("a", "old");
+    fs::permissions(path, fs::perms(0644));
+    const auto endedWithin = [&](bool unnamed) {
+        const int status = StatusOfChild(folder, [unnamed] {
+            const rlimit limits{1000, 1000};
+            const rlimit noCore{0, 0};
+            PLATFORM::detail::AllowUnnamedFiles(unnamed);
+            ::setrlimit(RLIMIT_CORE, &noCore);
+            ::setrlimit(RLIMIT_FSIZE, &limits);
+            return ReplaceFile("a", std::string(100'000, 'n')).Empty() ? 0 : 1;
+        });
+        return WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ;
+    };
+    EXPECT_TRUE(endedWithin(true));
+    EXPECT_EQ(folder.NumFiles(), 1);
+    EXPECT_TRUE(endedWithin(false));
+    EXPECT_EQ(folder.NumFiles(), 2);
+    for (const auto& entry : fs::directory_iterator(folder.File(""))) {
+        EXPECT_TRUE(entry.path() == path || entry.status().permissions() == fs::perms(0600));
+    }
+    EXPECT_EQ(TemporaryFolder::Read(path), "old");
+}
+
+TEST(ReplaceFile, ManyKillsLeaveOneFileAtMost) {
+    const TemporaryFolder folder;
+    if (!HasUnnamedFiles(folder)) {
+        GTEST_SKIP() << "the file system has no unnamed files";
+    }
+    const std::string path = folder.Write("a", "old");
+    for (int saves = 1; saves <= 40; ++saves) {
+        std::array<int, 2> pipe{};
+        ASSERT_EQ(::pipe(pipe.data()), 0);
+        const pid_t child = ::fork();
+        if (child == 0) {
+            while (ReplaceFile(path, std::string(10'000, 'n')).Empty() &&
+                   ::write(pipe[1], "s", 1) == 1) {
+            }
+            ::_exit(1);
+        }
+        char saved = 0;
+        EXPECT_EQ(::read(pipe[0], &saved, 1), 1);  // the next save has begun then, or is about to
+        ::kill(child, saves % 2 == 0 ? SIGKILL : SIGTERM);
+        ::waitpid(child, nullptr, 0);
+        ::close(pipe[0]);
+        ::close(pipe[1]);
+        EXPECT_EQ(TemporaryFolder::Read(path).size(), 10'000U);
+    }
+    EXPECT_LE(folder.NumFiles(), 2);
+}
+
+}  // namespace

@@ -106,13 +106,19 @@ TEST(PaletteImport, OuterColorsStandBelowAndAtTheEnd) {
 
 TEST(PaletteImport, AHingeScalesEachSideOnItsOwn) {
     const char* slices = "-1 red -0.5 red\n-0.5 lime 0 lime\n0 blue 1 blue\n";
-    for (const char* hinge : {"# HARD_HINGE\n", "# SOFT_HINGE\n", "#HARD_HINGE = 0\n"}) {
+    for (const char* hinge :
+         {"# HARD_HINGE\n", "# SOFT_HINGE\n", "#HARD_HINGE = 0\n", "\xEF\xBB\xBF# HINGE = 0\n"}) {
         const std::string text = std::string(hinge) + "# RANGE = -800/10\n" + slices;
         EXPECT_EQ(
             EntriesOf(Imported(text)),
             (Entries{{-800.0, 0xFF0000}, {-400.0, 0x00FF00}, {0.0, 0x0000FF}, {10.0, 0x0000FF}}));
     }
     EXPECT_EQ(Imported(std::string("# RANGE = -800/10\n") + slices).EntryValue(0), -1.0);
+    for (const char* hinge : {"# HINGE = 20\n", "# SOFT_HINGE=2e1\n"}) {
+        EXPECT_EQ(
+            EntriesOf(Imported(std::string(hinge) + "# RANGE = 10/100\n" + slices)),
+            (Entries{{10.0, 0xFF0000}, {15.0, 0x00FF00}, {20.0, 0x0000FF}, {100.0, 0x0000FF}}));
+    }
 }
 
 TEST(PaletteImport, OnlySlicesOfTheUnitIntervalAreScaled) {
@@ -171,9 +177,10 @@ const Refused refused[] = {
     {"# RANGE = 5\n", ":1: the range \"5\" is not low/high"},
     {"# RANGE = 5/x\n", ":1: the range \"5/x\" is not low/high"},
     {"# RANGE = 7/5\n", ":1: the range \"7/5\" is not low/high"},
-    {"# HARD_HINGE = 3\n", ":1: a hinge at \"3\" is not read, only one at 0"},
-    {"# HARD_HINGE\n# RANGE = 0/5\n-1 red 1 red\n",
-     ":2: the range does not enclose the hinge at 0"},
+    {"# HARD_HINGE = 3m\n", ":1: the hinge \"3m\" is not a number"},
+    {"# HINGE =\n", ":1: the hinge \"\" is not a number"},
+    {"# HARD_HINGE\n# RANGE = 0/5\n-1 red 1 red\n", ":2: the range does not enclose the hinge"},
+    {"# HINGE = 5\n# RANGE = 0/5\n-1 red 1 red\n", ":2: the range does not enclose the hinge"},
 };
 
 TEST(PaletteImport, WhatDoesNotReadIsNamedWithItsLineAndChangesNothing) {

@@ -32,7 +32,8 @@ TEST(SettingsGrammar, TakesEveryKindOfLineApart) {
         {" [ A ] tail ; note \r\n", "H| A || note|tail"},
         {"[a;b]c]", "H|a;b|||c]"},
         {"[]", "H||||"},
-        {"\xEF\xBB\xBF[A]\n", "P||||"},
+        {"\xEF\xBB\xBF[A]\n\xEF\xBB\xBF[B]", "H|A|||\nK|\xEF\xBB\xBF[B]|||"},
+        {"\xEF\xBB[A]\n", "P||||"},
         {"[A]\na = b = c ;d;e", "H|A|||\nK|a|b = c|d;e|"},
         {"[A]\nkey\nkey=\n=value\n=", "H|A|||\nK|key|||\nK|key|||\nK||value||\nK||||"},
         {"[A]\n ; note = 1\n;", "H|A|||\nC||| note = 1|\nC||||"},
@@ -43,9 +44,9 @@ TEST(SettingsGrammar, TakesEveryKindOfLineApart) {
     }
 }
 
-TEST(SettingsGrammar, LinesAreNumberedAndCoverTheTextWithoutAGap) {
-    const std::string text = "\n# \r\n[A]\r\nkey\x80\n\n last";
-    std::size_t offset = 0;
+TEST(SettingsGrammar, LinesAreNumberedAndCoverTheTextAfterAByteOrderMark) {
+    const std::string text = "\xEF\xBB\xBF\n# \r\n[A]\r\nkey\x80\n\n last";
+    std::size_t offset = 3;
     int number = 0;
     MARLINSUITE::ForEachSettingsLine(text, [&](const SettingsLine& line) {
         EXPECT_EQ(line.Number, ++number);

@@ -11,6 +11,12 @@ namespace {
 constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 constexpr float infinity = std::numeric_limits<float>::infinity();
 
+template <class Color>
+concept IsComparable = requires(Color a, Color b) {
+    a == b;
+};
+static_assert(!IsComparable<HSVColor> && IsComparable<RGBColor>);
+
 TEST(HSVColor, ConvertsFromColors) {
     const struct {
         RGBColor color;

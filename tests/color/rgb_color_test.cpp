@@ -35,11 +35,18 @@ TEST(RGBColor, TurnsIntoTheGrayOfItsBrightness) {
         RGBColor color;
         int gray;
     } cases[] = {
-        {{10, 10, 10}, 10},     {{255, 255, 255}, 255}, {{255, 0, 0}, 76},  // 76.5
-        {{0, 255, 0}, 150},                                                 // 150.45
-        {{0, 0, 255}, 28},                                                  // 28.05
-        {{100, 200, 50}, 153},                                              // 118 + 30 + 5.5
-        {{255, 255, 254}, 254},                                             // 254.89
+        {{10, 10, 10}, 10},
+        {{255, 255, 255}, 255},
+        {{255, 0, 0}, 76},       // 76.5
+        {{0, 255, 0}, 150},      // 150.45
+        {{0, 0, 255}, 28},       // 28.05
+        {{100, 200, 50}, 153},   // 118 + 30 + 5.5
+        {{255, 255, 254}, 254},  // 254.89
+        // Sums of whole numbers, which fall short of one by the order of their adding.
+        {{1, 5, 25}, 6},
+        {{1, 21, 21}, 15},
+        {{2, 5, 95}, 14},
+        {{1, 209, 49}, 128},
     };
     for (const auto& [color, gray] : cases) {
         EXPECT_EQ(color.GrayScale(), RGBColor(gray, gray, gray));

@@ -17,7 +17,7 @@ TEST(CString, IsMadeFromTextsAndCutsPartsToItsLength) {
     EXPECT_TRUE(CString(nullptr).IsEmpty());
     EXPECT_EQ(CString("a\0b", 3).GetLength(), 3);
     EXPECT_EQ(CString("abc", -1).GetLength(), 0);
-    EXPECT_EQ("<" + CString('x', 3) + CString("d") + ">" + '!', "<xxxd>!");
+    EXPECT_EQ('<' + CString('x', 3) + CString("d") + ">" + '!', "<xxxd>!");
     const CString text("abcdef");
     EXPECT_EQ(text.Left(2) + '|' + text.Left(-1) + '|' + text.Left(99), "ab||abcdef");
     EXPECT_EQ(text.Right(2) + '|' + text.Right(99), "ef|abcdef");
@@ -49,6 +49,13 @@ TEST(CString, ComparesBytesAndIgnoresTheCaseOfAsciiLetters) {
     EXPECT_EQ(text.MakeUpper(), "A\xE4Z");
     EXPECT_EQ(text.MakeLower(), "a\xE4z");
 }
+
+template <class... Arguments>
+concept Formats = requires(CString text, Arguments... arguments) {
+    text.Format("", arguments...);
+};
+static_assert(Formats<> && Formats<int, const char*, double>);
+static_assert(!Formats<CString> && !Formats<int, CString> && !Formats<std::string, int>);
 
 TEST(CString, FormatsEvenFromItselfAndAlikeInEveryLocale) {
     CString text("7");

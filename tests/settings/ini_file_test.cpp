@@ -33,6 +33,7 @@ TEST(IniFile, ReadsLinesAsTheFormatSays) {
         {"", {}},
         {"\n\nkey = 1\n; comment\n[open\n", {}},
         {"[ Name ]\n", {"[ Name |]"}},
+        {"\xEF\xBB\xBF[Name]\n\xEF\xBB\xBF=1", {"[Name|]", "\xEF\xBB\xBF|1|"}},
         {"  [Name] tail\r\n", {"[Name|]"}},
         {"[Name] ;comment\n", {"[Name|comment]"}},
         {"[A]]\n", {"[A|]"}},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/settings/section_key.h>
 
+#include <cstddef>
 #include <limits>
 #include <string>
 
@@ -23,11 +24,35 @@ std::string Written(const T& value) {
     return key.GetValue();
 }
 
+// What compiles: a key made of the arguments, a value put in.
+template <class... Arguments>
+concept MakesKey = requires(Arguments... arguments) {
+    SectionKey(arguments...);
+};
+template <class Value>
+concept IsValue = requires(SectionKey key, Value value) {
+    key << value;
+};
+template <class Text>
+concept IsComment = requires(SectionKey key, Text text) {
+    key.SetComments(text);
+};
+static_assert(MakesKey<const char*, long, const char*> && IsValue<long>);
+static_assert(IsValue<const char*> && IsComment<const char*>);
+static_assert(!MakesKey<std::nullptr_t> && !MakesKey<std::nullptr_t, int>);
+static_assert(!MakesKey<const char*, std::nullptr_t> &&
+              !MakesKey<const char*, std::nullptr_t, const char*>);
+static_assert(!MakesKey<const char*, int, std::nullptr_t> &&
+              !MakesKey<const char*, const char*, std::nullptr_t>);
+static_assert(!IsValue<std::nullptr_t> && !IsComment<std::nullptr_t>);
+
 TEST(SectionKey, WritesEachTypeInItsTextForm) {
     EXPECT_EQ(Written(-12), "-12");
     EXPECT_EQ(Written(std::numeric_limits<int>::min()), "-2147483648");
     EXPECT_EQ(Written(4294967295U), "4294967295");
     EXPECT_EQ(Written(4294967295UL), "4294967295");
+    EXPECT_EQ(Written(-2147483648L) + SectionKey("", 2147483647L).GetValue(),
+              "-21474836482147483647");
     EXPECT_EQ(Written(true), "1");
     EXPECT_EQ(Written(false), "0");
     EXPECT_EQ(Written(0.1F), "0.100000");
@@ -40,6 +65,14 @@ TEST(SectionKey, WritesEachTypeInItsTextForm) {
     EXPECT_EQ(Written(CString("text")), "text");
 }
 
+TEST(SectionKey, LeavesTheValueForALongBeyond32Bits) {
+    for (const long value : {2147483648L, -2147483649L, std::numeric_limits<long>::max()}) {
+        SectionKey key("Name", "before");
+        EXPECT_DEBUG_DEATH(key << value, "fits") << value;
+        EXPECT_EQ(key.GetValue(), "before");
+    }
+}
+
 TEST(SectionKey, ReadsTheLeadingNumberAndLeavesTheTargetWithoutOne) {
     struct Case {
         const char* Text;
@@ -50,6 +83,7 @@ TEST(SectionKey, ReadsTheLeadingNumberAndLeavesTheTargetWithoutOne) {
                           Case{"+-5", 99}, Case{"2147483647", 2147483647}, Case{"2147483648", 99},
                           Case{"-2147483649", 99}, Case{"0x10", 0}, Case{"- 5", 99}}) {
         EXPECT_EQ(ReadInto(c.Text, 99), c.AsInt) << c.Text;
+        EXPECT_EQ(ReadInto(c.Text, 99L), c.AsInt) << c.Text;
     }
     EXPECT_EQ(ReadInto("4294967295", 7U), 4294967295U);
     EXPECT_EQ(ReadInto("-1", 7U), 7U);

@@ -56,10 +56,6 @@ bool Scanner::TakeLine(const SettingsLine& line) {
     if (line.Bytes.find('\0') != std::string_view::npos) {
         return Fault(line, "a null character: a binary file, not a settings file");
     }
-    if (line.Number == 1 && line.Bytes.starts_with("\xEF\xBB\xBF")) {
-        Remark(line.Number, SettingsRemark::WARNING,
-               "a byte order mark: a header on this line is not seen as one");
-    }
     LookAtCharacters(line);
     return TakeParts(line);
 }

@@ -44,6 +44,7 @@ public:
     [[nodiscard]] operator unsigned long() const noexcept { return PaletteColor(m_Index); }
 
     constexpr bool operator==(const DXFColor& other) const noexcept = default;
+    constexpr bool operator==(int index) const noexcept { return m_Index == index; }
 
 private:
     [[nodiscard]] static unsigned char ChooseIndex(unsigned long color) noexcept;

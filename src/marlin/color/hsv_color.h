@@ -43,6 +43,9 @@ public:
     constexpr void SetSaturation(float saturation) noexcept { m_Saturation = saturation; }
     constexpr void SetValue(float value) noexcept { m_Value = value; }
 
+    /// Floats that were computed seldom are equal; compare what they convert to.
+    bool operator==(const HSVColor& other) const = delete;
+
 private:
     float m_Hue = 0.0F;
     float m_Saturation = 0.0F;

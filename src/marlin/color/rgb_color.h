@@ -36,13 +36,7 @@ public:
 
     /// The gray of the same brightness: 0.59 green + 0.3 red + 0.11 blue, truncated. A gray
     /// gives itself.
-    [[nodiscard]] constexpr RGBColor GrayScale() const noexcept {
-        if (m_Red == m_Green && m_Green == m_Blue) {
-            return *this;
-        }
-        const int gray = static_cast<int>(0.59 * m_Green + 0.3 * m_Red + 0.11 * m_Blue);
-        return {gray, gray, gray};
-    }
+    [[nodiscard]] RGBColor GrayScale() const noexcept;
 
     /// The setters keep the low 8 bits.
     constexpr void SetRed(int red) noexcept { m_Red = Low8(red); }

@@ -6,26 +6,30 @@
 #include <marlin/platform/text/c_string.h>
 #include <marlin/settings/hashed_string.h>
 
+#include <cassert>
 #include <concepts>
+#include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 
 /// The types whose values a settings key holds as text.
 template <class T>
-concept SettingsNumber =
-    std::same_as<T, int> || std::same_as<T, bool> || std::same_as<T, unsigned int> ||
-    std::same_as<T, unsigned long> || std::same_as<T, float> || std::same_as<T, double>;
+concept SettingsNumber = std::same_as<T, int> || std::same_as<T, bool> ||
+    std::same_as<T, unsigned int> || std::same_as<T, long> || std::same_as<T, unsigned long> ||
+    std::same_as<T, float> || std::same_as<T, double>;
 template <class T>
 concept SettingsValue = SettingsNumber<T> || std::same_as<T, std::string>;
 
 /// One entry of a settings section: a name, a value held as text, and the comment of its line.
 /// A key without a name is not valid: it is a comment line, or the result of a look-up that
-/// found nothing. Pointers given to it must not be null. A value.
+/// found nothing. Pointers given to it must not be null; a literal null does not compile. A value.
 ///
 /// `<<` replaces the whole value: integers in decimal, a bool as "1" or "0", decimal numbers in
 /// fixed notation with six decimals, texts unchanged. `>>` reads the leading number of the text
 /// after white space (a bool is 0 or 1); a text without a number, or with one that does not fit,
-/// leaves the target unchanged.
+/// leaves the target unchanged. A `long` has 32 bits, as on the platform that the contracts come
+/// from: a larger one must not be given, and leaves the value unchanged.
 ///
 /// @code
 /// SectionKey key("LineWidth", 0.5F, " in millimetres");
@@ -39,6 +43,9 @@ public:
     SectionKey(const char* name) : m_Name(name) {}
     SectionKey(const std::string& name) : m_Name(name) {}
     explicit SectionKey(const HashedString& name) : m_Name(name) {}
+    SectionKey(std::nullptr_t) = delete;
+    template <class... Rest>
+    SectionKey(std::nullptr_t, const Rest&...) = delete;
     template <SettingsValue T>
     SectionKey(const std::string& name, const T& value, const char* comments = "")
         : m_Name(name), m_Comments(comments) {
@@ -46,6 +53,9 @@ public:
     }
     SectionKey(const std::string& name, const char* value, const char* comments = "")
         : m_Name(name), m_Value(value), m_Comments(comments) {}
+    SectionKey(const std::string&, std::nullptr_t, const char* = "") = delete;
+    template <class T>
+    SectionKey(const std::string&, const T&, std::nullptr_t) = delete;
     /// The parts as a settings file holds them.
     SectionKey(std::string_view name, std::string_view value, std::string_view comments)
         : m_Name(name), m_Value(value), m_Comments(comments) {}
@@ -57,11 +67,13 @@ public:
 
     void SetComments(const std::string& comments) { m_Comments = comments; }
     void SetComments(const char* comments) { m_Comments = comments; }
+    void SetComments(std::nullptr_t) = delete;
 
     SectionKey& operator<<(const char* value) {
         m_Value = value;
         return *this;
     }
+    SectionKey& operator<<(std::nullptr_t) = delete;
     SectionKey& operator<<(const CString& value) {
         m_Value = value.View();
         return *this;
@@ -70,6 +82,10 @@ public:
     SectionKey& operator<<(const T& value) {
         if constexpr (std::same_as<T, std::string>) {
             m_Value = value;
+        } else if constexpr (std::same_as<T, long>) {
+            const bool fits = std::in_range<int>(value);
+            assert(fits);
+            return fits ? *this << static_cast<int>(value) : *this;
         } else {
             m_Value.clear();
             if constexpr (std::floating_point<T>) {
@@ -91,7 +107,13 @@ public:
     }
     template <SettingsNumber T>
     const SectionKey& operator>>(T& value) const {
-        static_cast<void>(MARLINSUITE::ParseNumber(m_Value, value));
+        if constexpr (std::same_as<T, long>) {
+            if (int number = 0; MARLINSUITE::ParseNumber(m_Value, number)) {
+                value = number;
+            }
+        } else {
+            static_cast<void>(MARLINSUITE::ParseNumber(m_Value, value));
+        }
         return *this;
     }
 

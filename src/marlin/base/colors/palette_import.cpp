@@ -22,27 +22,28 @@ ErrorString ReadPaletteText(const std::string& path, std::string& text) {
     return error == 0 ? ErrorString() : ErrorString(MARLINSUITE::SystemReason(path, error));
 }
 
-double Scaled(double value, const std::pair<double, double>& range, bool hasHinge) noexcept {
-    if (!hasHinge) {
+double Scaled(double value, const std::pair<double, double>& range,
+              std::optional<double> hinge) noexcept {
+    if (!hinge) {
         return std::lerp(range.first, range.second, value);
     }
-    return value < 0.0 ? range.first * -value : range.second * value;
+    return std::lerp(*hinge, value < 0.0 ? range.first : range.second, std::fabs(value));
 }
 
 // Slices over the unit interval are fractions of the range, slices over both sides of a hinge
 // fractions of each side. False when a range lacks one of the sides.
 bool ApplyRange(Palette& palette) noexcept {
     const double low = palette.Slices.front().Low;
-    const bool isHinged = palette.HasHinge && low == -1.0;
-    if (!palette.Range || palette.Slices.back().High != 1.0 || !(low == 0.0 || isHinged)) {
+    const auto hinge = low == -1.0 ? palette.Hinge : std::nullopt;
+    if (!palette.Range || palette.Slices.back().High != 1.0 || !(low == 0.0 || hinge)) {
         return true;
     }
-    if (isHinged && !(palette.Range->first < 0.0 && palette.Range->second > 0.0)) {
+    if (hinge && !(palette.Range->first < *hinge && *hinge < palette.Range->second)) {
         return false;
     }
     for (PaletteSlice& slice : palette.Slices) {
-        slice.Low = Scaled(slice.Low, *palette.Range, isHinged);
-        slice.High = Scaled(slice.High, *palette.Range, isHinged);
+        slice.Low = Scaled(slice.Low, *palette.Range, hinge);
+        slice.High = Scaled(slice.High, *palette.Range, hinge);
     }
     return true;
 }
@@ -92,7 +93,7 @@ ErrorString ImportPalette(const std::string& path, ColorTable& table) {
     }
     Palette palette = reader.Result();
     if (!ApplyRange(palette)) {
-        return FailureAt(path, palette.RangeLine, "the range does not enclose the hinge at 0");
+        return FailureAt(path, palette.RangeLine, "the range does not enclose the hinge");
     }
     table = TableOf(palette);
     return {};

@@ -19,6 +19,9 @@ namespace MARLINSUITE {
     return text;
 }
 
+/// The bytes with which some programs begin a text file in UTF-8. Readers skip them.
+inline constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
 /// One line of a settings file and its parts. All texts are views into the file's text.
 struct SettingsLine {
     enum KIND {
@@ -32,7 +35,7 @@ struct SettingsLine {
     KIND Kind = BLANK;
     int Number = 0;             ///< Counted from 1.
     std::size_t Offset = 0;     ///< Of `Bytes` from the start of the file.
-    std::string_view Bytes;     ///< The whole line, with its line end.
+    std::string_view Bytes;     ///< The whole line, with its line end, without a byte order mark.
     std::string_view Name;      ///< Of the section, as it is between the brackets, or of the key.
     std::string_view Value;     ///< Of the key. Savers drop that of a key without a name.
     std::string_view Comments;  ///< All that follows the first ";", without the line end.
@@ -55,6 +58,10 @@ class SettingsGrammar {
 public:
     /// `bytes` is the next line with its line end, which the last line may lack.
     [[nodiscard]] SettingsLine Take(std::string_view bytes) noexcept {
+        if (m_Number == 0 && bytes.starts_with(byteOrderMark)) {
+            bytes.remove_prefix(byteOrderMark.size());
+            m_Offset = byteOrderMark.size();
+        }
         SettingsLine line;
         line.Number = ++m_Number;
         line.Offset = m_Offset;

@@ -6,6 +6,7 @@
 #include <compare>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 /// The framework's string: a value of single-byte characters (Windows-1252), which may hold
 /// any byte. A null pointer reads as an empty text. Positions count from 0 and -1 means not
@@ -70,6 +71,10 @@ public:
 
     /// As `printf` in the locale "C" into this text; the arguments may be pieces of it.
     void Format(const char* format, ...) __attribute__((format(printf, 2, 3)));
+    /// An object, a `CString` too, has no place among the arguments: `GetString()` has one.
+    template <class... Arguments>
+    requires(std::is_class_v<Arguments> || ...) void Format(const char* format,
+                                                            const Arguments&... arguments) = delete;
     /// Loads a text of the resource string table; false, and an empty text, when it has none
     /// of that number.
     bool LoadString(unsigned int id);
@@ -88,6 +93,7 @@ public:
     friend CString operator+(CString a, const char* b) { return a += b; }
     friend CString operator+(const char* a, const CString& b) { return CString(a) += b; }
     friend CString operator+(CString a, char b) { return a += b; }
+    friend CString operator+(char a, const CString& b) { return CString(a) += b; }
 
 private:
     std::string m_Text;

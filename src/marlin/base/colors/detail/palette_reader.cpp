@@ -70,6 +70,9 @@ bool PaletteReader::Read(std::string_view text) {
 
 template <class Take>
 bool PaletteReader::ForEachLine(std::string_view text, Take take) {
+    if (text.starts_with(byteOrderMark)) {
+        text.remove_prefix(byteOrderMark.size());
+    }
     detail::LineReader lines(text);
     m_Line = 0;
     std::string_view line;
@@ -103,6 +106,9 @@ bool PaletteReader::TakeComment(std::string_view line) {
     if (word == "HARD_HINGE" || word == "SOFT_HINGE") {
         return value.empty() ? TakeHinge("0") : !isSetting || TakeHinge(value);
     }
+    if (isSetting && word == "HINGE") {
+        return TakeHinge(value);
+    }
     if (isSetting && word == "COLOR_MODEL") {
         return TakeModel(value);
     }
@@ -135,10 +141,10 @@ bool PaletteReader::TakeRange(std::string_view bounds) {
 
 bool PaletteReader::TakeHinge(std::string_view position) {
     double hinge = 0.0;
-    if (!ParseWhole(position, hinge) || hinge != 0.0) {
-        return Fail("a hinge at " + Quoted(position) + " is not read, only one at 0");
+    if (!ParseWhole(position, hinge)) {
+        return Fail("the hinge " + Quoted(position) + " is not a number");
     }
-    m_Palette.HasHinge = true;
+    m_Palette.Hinge = hinge;
     return true;
 }
 

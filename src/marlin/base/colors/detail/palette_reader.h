@@ -23,7 +23,7 @@ struct PaletteSlice {
 /// The contents of a palette file. Slices ascend and do not overlap; there may be gaps.
 struct Palette {
     PALETTE_MODEL Model = PALETTE_MODEL::RGB;
-    bool HasHinge = false;
+    std::optional<double> Hinge;  ///< The value at 0 of slices from -1 to 1.
     std::optional<std::pair<double, double>> Range;
     int RangeLine = 0;
     std::vector<PaletteSlice> Slices;

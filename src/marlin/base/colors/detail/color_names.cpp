@@ -29,10 +29,16 @@ std::optional<unsigned int> NumberedGray(std::string_view name) {
 
 std::optional<unsigned int> NamedColorOf(std::string_view name) {
     const std::string lower = PLATFORM::LowerCase(name);
-    const auto found =
-        std::ranges::lower_bound(namedColors, std::string_view(lower), {}, &NamedColor::Name);
-    if (found != std::end(namedColors) && found->Name == lower) {
-        return found->RedGreenBlue;
+    const bool isShade = !lower.empty() && lower.back() >= '1' && lower.back() <= '4';
+    const std::string_view plain =
+        std::string_view(lower).substr(0, lower.size() - (isShade ? 1 : 0));
+    const auto found = std::ranges::lower_bound(namedColors, plain, {}, &NamedColor::Name);
+    const bool isNamed = found != std::end(namedColors) && found->Name == plain;
+    if (isNamed && !isShade) {
+        return found->Color;
+    }
+    if (isNamed && found->Shades[3] != 0) {
+        return found->Shades[lower.back() - '1'];
     }
     return NumberedGray(lower);
 }

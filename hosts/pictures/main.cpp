@@ -21,8 +21,6 @@ void WriteAll(const std::string& folder) {
         {"justifications.svg", PICTURES::DrawJustifications},
         {"wrapped_text.svg", PICTURES::DrawWrappedText},
         {"depth_labels.svg", PICTURES::DrawDepthLabels},
-        {"line_styles.svg", PICTURES::DrawLineStyles},
-        {"dxf_palette.svg", PICTURES::DrawDxfPalette},
     };
     for (const auto& [name, draw] : pictures) {
         const ErrorString error = MARLINSUITE::ReplaceFile(folder + "/" + name, draw());

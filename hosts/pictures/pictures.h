@@ -12,7 +12,5 @@ namespace PICTURES {
 [[nodiscard]] std::string DrawWrappedText();
 /// A depth label in all presentations and placements.
 [[nodiscard]] std::string DrawDepthLabels();
-[[nodiscard]] std::string DrawLineStyles();
-[[nodiscard]] std::string DrawDxfPalette();
 
 }  // namespace PICTURES

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "svg.h"
 
-#include <marlin/color/rgb_color.h>
 #include <marlin/core/number_text.h>
 
 namespace PICTURES {
@@ -16,17 +15,6 @@ void AppendNumber(std::string& text, double number) {
     text += digits == "-0" ? "0" : digits;
 }
 
-std::string HexColor(unsigned long color) {
-    constexpr std::string_view digits = "0123456789abcdef";
-    const RGBColor rgb(color);
-    std::string text = "#";
-    for (const int level : {rgb.Red(), rgb.Green(), rgb.Blue()}) {
-        text += digits[static_cast<std::size_t>(level / 16)];
-        text += digits[static_cast<std::size_t>(level % 16)];
-    }
-    return text;
-}
-
 void Svg::AppendAttribute(std::string_view name, double value) {
     m_Body += ' ';
     m_Body += name;
@@ -39,9 +27,6 @@ void Svg::AppendStroke(const Stroke& stroke) {
     if (stroke.Width > 0) {
         m_Body += " stroke=\"" + stroke.Color + "\"";
         AppendAttribute("stroke-width", stroke.Width);
-    }
-    if (!stroke.Dashes.empty()) {
-        m_Body += " stroke-dasharray=\"" + stroke.Dashes + "\"";
     }
     m_Body += "/>\n";
 }

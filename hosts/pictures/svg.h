@@ -12,14 +12,11 @@ namespace PICTURES {
 
 /// Appends a number to the thousandth, in the fewest characters.
 void AppendNumber(std::string& text, double number);
-/// "#rrggbb" of a color word.
-[[nodiscard]] std::string HexColor(unsigned long color);
 
-/// How a line is drawn. The dashes are lengths drawn and left, in turn; none for a solid line.
+/// How a line is drawn.
 struct Stroke {
     std::string Color;
     double Width = 0;
-    std::string Dashes;
 };
 
 /// A drawing in SVG, on white: x to the right, y downwards, in units of the picture. The same

@@ -28,6 +28,9 @@ void Svg::AppendStroke(const Stroke& stroke) {
         m_Body += " stroke=\"" + stroke.Color + "\"";
         AppendAttribute("stroke-width", stroke.Width);
     }
+    if (!stroke.Dashes.empty()) {
+        m_Body += " stroke-dasharray=\"" + stroke.Dashes + "\"";
+    }
     m_Body += "/>\n";
 }
 

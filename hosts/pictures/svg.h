@@ -13,10 +13,11 @@ namespace PICTURES {
 /// Appends a number to the thousandth, in the fewest characters.
 void AppendNumber(std::string& text, double number);
 
-/// How a line is drawn.
+/// How a line is drawn. The dashes are lengths drawn and left, in turn; none for a solid line.
 struct Stroke {
     std::string Color;
     double Width = 0;
+    std::string Dashes;
 };
 
 /// A drawing in SVG, on white: x to the right, y downwards, in units of the picture. The same

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include "support/full_disk.h"
 #include "support/temporary_folder.h"
 #include <marlin/base/files/file_replacement.h>
 #include <marlin/platform/kernel/detail/test_levers.h>
 
 #include <array>
-#include <csignal>
 #include <filesystem>
 #include <string>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -18,27 +17,6 @@ namespace {
 
 using MARLINSUITE::ReplaceFile;
 namespace fs = std::filesystem;
-
-// While it lives no file may grow beyond the limit, as on a full disk.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes) {
-        m_Handler = std::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_Before);
-        const rlimit limit{bytes, m_Before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-    ~FullDisk() {
-        ::setrlimit(RLIMIT_FSIZE, &m_Before);
-        std::signal(SIGXFSZ, m_Handler);
-    }
-
-private:
-    rlimit m_Before{};
-    void (*m_Handler)(int) = nullptr;
-};
 
 TEST(ReplaceFile, MakesAndReplacesAFileAndLeavesNothingElse) {
     const TemporaryFolder folder;

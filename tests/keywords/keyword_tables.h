@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 /// One keyword of a table that a test makes.
 struct Row {
     std::string Name;
@@ -21,7 +23,7 @@ inline CKeywords Table(const std::vector<Row>& rows) {
         section += SectionKey(row.Name, row.Value);
     }
     CKeywords table;
-    table.Read(section);
+    EXPECT_TRUE(table.Read(section).Empty());
     for (int i = 0; i < table.GetSize(); ++i) {
         table.GetKeyword(i)->m_RefCount = rows[static_cast<std::size_t>(i)].Count;
     }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/full_disk.h"
 #include "support/temporary_folder.h"
 #include <marlin/settings/crc_file.h>
 
@@ -106,16 +107,79 @@ TEST(CRCFile, AssignedFilesShareOneStreamThatIsClosedOnce) {
     EXPECT_EQ(TemporaryFolder::Read(folder.File("shared")).size(), 13U);
 }
 
+TEST(CRCFile, IsClosedWhenItIsDestroyedAndWhenAnotherIsAssigned) {
+    const TemporaryFolder folder;
+    CRCFile assigned;
+    {
+        CRCFile destroyed;
+        ASSERT_TRUE(destroyed.Open(folder.File("destroyed"), "w+b").Empty());
+        ASSERT_TRUE(assigned.Open(folder.File("assigned"), "w+b").Empty());
+        destroyed.Write("123456789", 1, 9);
+        assigned.Write("123456789", 1, 9);
+    }
+    assigned = CRCFile();
+    EXPECT_EQ(CRCFile::GetCRC(folder.File("destroyed")), 0xCBF43926U);
+    EXPECT_EQ(CRCFile::GetCRC(folder.File("assigned")), 0xCBF43926U);
+}
+
+// The cause that the last error has: of closing, empty after a success.
+std::string CauseOfClosing(CRCFile& file) {
+    file.Close();
+    return ErrorString::LastError().Cause();
+}
+
 TEST(CRCFile, ReportsAPayloadThatCannotBeReadBack) {
     const TemporaryFolder folder;
     CRCFile file;
     ASSERT_TRUE(file.Open(folder.File("written"), "wb").Empty());
     file.Write("123", 1, 3);
-    static_cast<void>(ErrorString("before"));
-    file.Close();
-    const ErrorString error = ErrorString::LastError();
-    EXPECT_EQ(error.Text(), "Operation failed.");
-    EXPECT_TRUE(error.Cause().starts_with(folder.File("written") + ": "));
+    EXPECT_EQ(CauseOfClosing(file), folder.File("written") + ": Bad file descriptor");
+    EXPECT_EQ(ErrorString::LastError().Text(), "Operation failed.");
+}
+
+TEST(CRCFile, RemembersAFailedWriteUntilItIsClosedAndAddsNoChecksum) {
+    const TemporaryFolder folder;
+    const std::string path = folder.File("short");
+    const std::string payload(100'000, 'p');
+    for (const bool held : {false, true}) {
+        CRCFile file;
+        ASSERT_TRUE(file.Open(path, "w+b").Empty());
+        {
+            const FullDisk full(1000);
+            const unsigned int size = held ? 2000 : 100'000;
+            EXPECT_EQ(file.Write(payload.data(), 1, size) == size, held);
+            EXPECT_TRUE(!held || !file.Flush());
+            file.Rewind();
+        }
+        CRCFile copy = file;
+        EXPECT_EQ(CauseOfClosing(file), path + ": File too large");
+        EXPECT_EQ(CauseOfClosing(copy), path + ": File too large");
+        EXPECT_EQ(TemporaryFolder::Read(path).find_first_not_of('p'), std::string::npos);
+    }
+    CRCFile good;
+    ASSERT_TRUE(good.Open(path, "w+b").Empty());
+    EXPECT_TRUE(ErrorString::LastError().Empty());
+    static_cast<void>(ErrorString("older"));
+    EXPECT_EQ(CauseOfClosing(good), "");
+    EXPECT_TRUE(ErrorString::LastError().Empty());
+}
+
+TEST(CRCFile, ReportsATrailerThatTheDiskDoesNotTake) {
+    const TemporaryFolder folder;
+    const std::string path = folder.File("full");
+    CRCFile file;
+    ASSERT_TRUE(file.Open(path, "w+b").Empty());
+    const FullDisk full(9);
+    EXPECT_EQ(file.Write("123456789", 1, 9), 9U);
+    EXPECT_TRUE(file.Flush());
+    EXPECT_EQ(CauseOfClosing(file), path + ": File too large");
+}
+
+TEST(CRCFile, OpensNoFolder) {
+    const TemporaryFolder folder;
+    const ErrorString error = CRCFile().Open(folder.File(""), "rb");
+    EXPECT_EQ(error.Text(), "Error opening \"" + folder.File("") + "\".");
+    EXPECT_EQ(error.Cause(), folder.File("") + ": Is a directory");
 }
 
 TEST(CRCFile, CoversPayloadsLargerThanItsBlocks) {

@@ -69,6 +69,12 @@ void ErrorString::RecordFailure(const std::string& cause) {
     failure.SetCause(cause);
 }
 
+void ErrorString::RecordSuccess() noexcept {
+    if (ErrorString* const last = LastOfThisThread()) {
+        *last = ErrorString();
+    }
+}
+
 ErrorString& ErrorString::Remember() {
     ErrorString* const last = m_Text.empty() ? nullptr : LastOfThisThread();
     if (last && last != this) {

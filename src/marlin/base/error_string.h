@@ -16,7 +16,8 @@
 /// assert(error.Text() == "Cannot read a.ini");
 /// assert(ErrorString::LastError() == error);
 /// @endcode
-class MARLIN_API ErrorString {
+// The visibility of `MARLIN_API`, in the one form that compilers take together with another.
+class [[nodiscard, gnu::visibility("default")]] ErrorString {
 public:
     ErrorString() = default;
     /// A failure with that message; a null pointer or an empty text is a success.
@@ -42,6 +43,8 @@ public:
     /// Records a failure, with a cause, for an operation that returns nothing; a host finds it by
     /// `LastError`.
     static void RecordFailure(const std::string& cause);
+    /// Makes `LastError` a success when such an operation is one, since it tells nothing else.
+    static void RecordSuccess() noexcept;
 
     friend bool operator==(const ErrorString& a, const ErrorString& b) noexcept = default;
 

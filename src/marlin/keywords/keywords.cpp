@@ -253,7 +253,7 @@ ErrorString CKeywords::Write(Section& section) const {
 
 unsigned int CKeywords::GetChecksum() const {
     Section section("$KEYWORDS$");
-    Write(section);
+    static_cast<void>(Write(section));  // cannot fail
     return section.ComputeChecksum();
 }
 

@@ -9,12 +9,28 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 /// The open stream that copies share; without a file once any of them has closed it.
 struct CRCFile::Stream {
     PLATFORM::detail::Stream File;
     std::string Path;
     bool Writing = false;
+    int Error = 0;
+
+    // Remembers the first failure, whose mark moving to the start would clear. Called at once
+    // after what may have failed.
+    void Note() noexcept {
+        if (Error == 0 && File && std::ferror(File.get()) != 0) {
+            Error = errno != 0 ? errno : EIO;
+        }
+    }
+    void Close() noexcept {
+        const bool closed = std::fclose(File.release()) == 0;
+        if (Error == 0 && !closed) {
+            Error = errno;
+        }
+    }
 };
 
 namespace {
@@ -51,8 +67,8 @@ std::string OpeningError(const std::string& path) {
 
 CRCFile& CRCFile::operator=(const CRCFile& other) {
     if (m_Stream != other.m_Stream) {
-        if (m_Stream.use_count() == 1) {
-            Close();
+        if (m_Stream.use_count() == 1 && IsOpen()) {
+            Complete();
         }
         m_Stream = other.m_Stream;
     }
@@ -60,8 +76,8 @@ CRCFile& CRCFile::operator=(const CRCFile& other) {
 }
 
 CRCFile::~CRCFile() {
-    if (m_Stream.use_count() == 1) {
-        Close();
+    if (m_Stream.use_count() == 1 && IsOpen()) {
+        Complete();
     }
 }
 
@@ -78,9 +94,7 @@ ErrorString CRCFile::Open(const std::string& path, const char* mode) {
     auto stream = std::make_shared<Stream>();
     stream->Path = path;
     stream->Writing = std::strpbrk(mode, "wW") != nullptr;
-    stream->File.reset(std::fopen(path.c_str(), mode));
-    if (!stream->File) {
-        const int error = errno;
+    if (const int error = PLATFORM::detail::OpenStream(stream->File, path, mode); error != 0) {
         return ErrorString(OpeningError(path)).SetCause(MARLINSUITE::SystemReason(path, error));
     }
     m_Stream = std::move(stream);
@@ -98,30 +112,55 @@ ErrorString CRCFile::Open(const std::string& path, const char* mode) {
 }
 
 void CRCFile::Close() {
-    if (!IsOpen()) {
-        m_Stream.reset();
-        return;
+    if (Complete()) {
+        ErrorString::RecordSuccess();
     }
-    errno = 0;
-    bool good = !m_Stream->Writing || AddChecksum();
-    good = std::fclose(m_Stream->File.release()) == 0 && good;
-    if (!good) {
-        const int error = errno;
-        ErrorString::RecordFailure(MARLINSUITE::SystemReason(m_Stream->Path, error));
+}
+
+// A copy may have closed the stream already; how is told again.
+bool CRCFile::Complete() {
+    if (!m_Stream) {
+        return true;
     }
-    m_Stream.reset();
+    if (IsOpen()) {
+        if (m_Stream->Writing && m_Stream->Error == 0 && !AddChecksum() && m_Stream->Error == 0) {
+            m_Stream->Error = errno;
+        }
+        m_Stream->Close();
+    }
+    const auto stream = std::exchange(m_Stream, nullptr);
+    if (stream->Error != 0) {
+        ErrorString::RecordFailure(MARLINSUITE::SystemReason(stream->Path, stream->Error));
+    }
+    return stream->Error == 0;
 }
 
 unsigned int CRCFile::Read(void* buffer, unsigned int size, unsigned int count) {
-    return IsOpen() ? static_cast<unsigned int>(std::fread(buffer, size, count, File())) : 0;
+    if (!IsOpen()) {
+        return 0;
+    }
+    const std::size_t read = std::fread(buffer, size, count, File());
+    m_Stream->Note();
+    return static_cast<unsigned int>(read);
 }
 
 unsigned int CRCFile::Write(const void* buffer, unsigned int size, unsigned int count) {
-    return IsOpen() ? static_cast<unsigned int>(std::fwrite(buffer, size, count, File())) : 0;
+    if (!IsOpen()) {
+        return 0;
+    }
+    const std::size_t written = std::fwrite(buffer, size, count, File());
+    m_Stream->Note();
+    return static_cast<unsigned int>(written);
 }
 
+// Moving writes what is still held back.
 bool CRCFile::Seek(int offset, int origin) {
-    return IsOpen() && std::fseek(File(), offset, origin) == 0;
+    if (!IsOpen()) {
+        return false;
+    }
+    const bool moved = std::fseek(File(), offset, origin) == 0;
+    m_Stream->Note();
+    return moved;
 }
 
 unsigned int CRCFile::Tell() const {
@@ -129,20 +168,29 @@ unsigned int CRCFile::Tell() const {
 }
 
 void CRCFile::Rewind() {
+    static_cast<void>(Seek(0, SEEK_SET));  // as `rewind`, which tells nothing either
     if (IsOpen()) {
-        std::rewind(File());
+        std::clearerr(File());
     }
 }
 
 bool CRCFile::Flush() {
-    return IsOpen() && std::fflush(File()) == 0;
+    if (!IsOpen()) {
+        return false;
+    }
+    const bool flushed = std::fflush(File()) == 0;
+    m_Stream->Note();
+    return flushed;
 }
 
 unsigned int CRCFile::GetCRC(const std::string& path) {
-    const PLATFORM::detail::Stream file(std::fopen(path.c_str(), "rb"));
+    PLATFORM::detail::Stream file;
     unsigned int value = 0;
     std::uint64_t length = 0;
-    return file && ReadTrailer(file.get(), value, length) ? value : 0;
+    return PLATFORM::detail::OpenStream(file, path, "rb") == 0 &&
+                   ReadTrailer(file.get(), value, length)
+               ? value
+               : 0;
 }
 
 // A file that ends early leaves the register without its final inversion, which matches no
@@ -177,11 +225,11 @@ bool CRCFile::CheckCRC() {
 // nothing, and the failure is reported.
 bool CRCFile::AddChecksum() {
     if (!PLATFORM::detail::SeekFromEnd(File(), 0)) {
-        return false;
+        return false;  // what was held back could not be written
     }
     const Trailer bytes =
         TrailerOf(ComputeCRC(static_cast<std::uint64_t>(PLATFORM::detail::PositionOf(File()))));
-    const bool readable = std::ferror(File()) == 0;
+    m_Stream->Note();
     return PLATFORM::detail::SeekFromEnd(File(), 0) &&
-           std::fwrite(bytes.data(), 1, trailerSize, File()) == trailerSize && readable;
+           std::fwrite(bytes.data(), 1, trailerSize, File()) == trailerSize;
 }

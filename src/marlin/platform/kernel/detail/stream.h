@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <memory>
+#include <string>
 
 /// Files of the standard I/O library, for contracts that speak of its modes.
 namespace PLATFORM::detail {
@@ -15,6 +16,9 @@ struct StreamCloser {
 
 using Stream = std::unique_ptr<std::FILE, StreamCloser>;
 
+/// Opens a file with a mode of the standard I/O library: 0 or the system's error number, EISDIR
+/// for a folder, which the standard I/O library opens for reading.
+[[nodiscard]] int OpenStream(Stream& stream, const std::string& path, const char* mode) noexcept;
 /// Moves to an offset from the end, 0 or negative, also in files beyond 2 GiB. False, with
 /// `errno`, when there is no such position.
 [[nodiscard]] bool SeekFromEnd(std::FILE* file, std::int64_t offset) noexcept;

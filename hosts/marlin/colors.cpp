@@ -2,12 +2,14 @@
 #include "families.h"
 #include "input/color_argument.h"
 #include "input/color_source.h"
+#include "input/files.h"
 #include "input/level.h"
 #include "output/color_text.h"
 #include "output/json.h"
 #include "output/table.h"
 #include <marlin/base/files/file_object.h>
 #include <marlin/color/dxf_color.h>
+#include <marlin/settings/ini_file.h>
 
 namespace HOST {
 
@@ -51,17 +53,18 @@ struct ConvertColors {
         if (HasExtension(To, "cpt")) {
             Fail(To + ": only color tables (.col) are written");
         }
+        RequireOther(From, To);
         ColorTable colors;
         ReadColors(From, colors);
         FileObject file;
         if (!colors.FileSave(file)) {
             Refuse(From + ": a value that is not finite");
         }
-        if (!file.FileSave(CString(To.c_str()))) {
-            Require(ErrorString::LastError());
-        }
-        output.Text += Printable(AsUtf8(To)) + ": " + NumberText(colors.NumEntries()) +
-                       (colors.NumEntries() == 1 ? " entry\n" : " entries\n");
+        IniFile sections;
+        sections.Open(file);
+        WriteFile(To, sections.Text(), output);
+        output.Say(To + ": " + NumberText(colors.NumEntries()) +
+                   (colors.NumEntries() == 1 ? " entry" : " entries"));
         return DONE;
     }
 };

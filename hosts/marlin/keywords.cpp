@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "families.h"
+#include "input/files.h"
 #include "input/input.h"
 #include "input/settings_source.h"
 #include "output/json.h"
 #include "output/table.h"
 #include <marlin/base/data_search.h>
-#include <marlin/base/files/file_replacement.h>
 #include <marlin/keywords/keywords.h>
 #include <marlin/keywords/list_keywords.h>
-#include <marlin/platform/text/code_page.h>
 
 #include <filesystem>
 #include <system_error>
@@ -32,7 +31,7 @@ std::string ReadTextOrFile(const std::string& argument) {
         return TextOfArgument(argument);
     }
     std::string text;
-    Require(MARLINSUITE::ReadFile(argument, text, LargestTextFile));
+    Require(ReadText(argument, text));
     return text;
 }
 
@@ -61,7 +60,7 @@ int ScanKeywords::Run(Output& output) const {
               << (IsForPlots(keyword)     ? "in plots"
                   : IsPredefined(keyword) ? "yes"
                                           : "no");
-        json.push_back({{"name", PLATFORM::ToUtf8(keyword.m_Key)},
+        json.push_back({{"name", AsUtf8(keyword.m_Key)},
                         {"count", keyword.m_RefCount},
                         {"predefined", IsPredefined(keyword)},
                         {"plotsOnly", IsForPlots(keyword)}});
@@ -80,10 +79,9 @@ Json JsonOfList() {
     for (int i = 0; const CListKeyword* const keyword = keywords.GetListKeyword(i); ++i) {
         Json choices = Json::array();
         for (int choice = 0; choice < keyword->GetSize(); ++choice) {
-            choices.push_back(PLATFORM::ToUtf8(keyword->GetValue(choice)));
+            choices.push_back(AsUtf8(keyword->GetValue(choice)));
         }
-        list.push_back(
-            {{"name", PLATFORM::ToUtf8(keyword->GetName())}, {"choices", std::move(choices)}});
+        list.push_back({{"name", AsUtf8(keyword->GetName())}, {"choices", std::move(choices)}});
     }
     return list;
 }

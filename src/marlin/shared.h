@@ -99,6 +99,7 @@
 #include <marlin/platform/fonts/text_outline.h>
 #include <marlin/platform/kernel/clock.h>
 #include <marlin/platform/kernel/extension_module.h>
+#include <marlin/platform/kernel/file_lock.h>
 #include <marlin/platform/kernel/mutex.h>
 #include <marlin/platform/kernel/process.h>
 #include <marlin/platform/kernel/version.h>

@@ -118,8 +118,8 @@ struct ChangeContours {
     }
     [[nodiscard]] static int Save(ContourFile& file, std::size_t numLevels, const std::string& done,
                                   Output& output) {
-        file.Save();
-        output.Text += CountText(numLevels, "level") + " " + done + "\n";
+        file.Save(output);
+        output.Say(CountText(numLevels, "level") + " " + done);
         return DONE;
     }
 };

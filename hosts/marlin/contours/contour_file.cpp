@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "contour_file.h"
 
+#include "input/files.h"
 #include "input/ignoring_case.h"
 #include "input/level.h"
-#include "output/failure.h"
-#include <marlin/base/files/file_replacement.h>
 #include <marlin/core/ascii.h>
 
 #include <algorithm>
@@ -104,13 +103,13 @@ std::vector<Contour> ReadContours(const std::string& path) {
 }
 
 ContourFile::ContourFile(std::string path, MISSING missing) : m_Path(std::move(path)) {
+    m_Source.Lock(m_Path);
     const ErrorString outcome = m_Source.OpenWithSections(m_Path);
     std::error_code unknown;
     m_IsNew = missing == IS_EMPTY && !outcome.Empty() && m_Source.Path().empty() &&
               !std::filesystem::exists(m_Path, unknown) && !unknown;
     if (!m_IsNew) {
         Require(outcome);
-        Require(m_Source.CanBeSaved());
         TakeItems();
     }
 }
@@ -119,8 +118,9 @@ void ContourFile::TakeItems() {
     m_Positions = PositionsOf(m_Source);
     const std::vector<Contour> contours = ContoursAt(m_Positions, m_Source.File());
     for (std::size_t i = 0; i < contours.size(); ++i) {
-        m_Items.push_back(
-            {StoredLevel(contours[i].Level), contours[i], m_Source.File()[m_Positions[i]]});
+        const auto position = static_cast<std::size_t>(m_Positions[i]);
+        m_Items.push_back({StoredLevel(contours[i].Level), contours[i],
+                           m_Source.File()[m_Positions[i]], m_Source.Text().Blocks()[position]});
     }
     std::ranges::stable_sort(m_Items, {}, &Item::Level);
     const auto twice = std::ranges::adjacent_find(m_Items, {}, &Item::Level);
@@ -140,35 +140,50 @@ Contour* ContourFile::Find(double level) {
 }
 
 void ContourFile::Add(const Contour& contour) {
-    m_Items.insert(LowerBound(contour.Level), {contour.Level, contour, Section("")});
+    m_Items.insert(LowerBound(contour.Level), {contour.Level, contour, Section(""), ""});
 }
 
 void ContourFile::Remove(double level) {
     m_Items.erase(LowerBound(level));
 }
 
-// Only a section that would be read otherwise is written anew, so that seals stay where nothing
+void ContourFile::PutBlock(std::size_t number) {
+    const Item& item = m_Items[number];
+    SettingsText& text = m_Source.Text();
+    std::string block =
+        item.Block.empty() ? text.NewBlock(item.Keys) : text.Updated(item.Block, item.Keys);
+    if (number < m_Positions.size()) {
+        text.Blocks()[static_cast<std::size_t>(m_Positions[number])] = std::move(block);
+    } else {
+        text.Append(std::move(block));
+    }
+}
+
+// Only a section that would be read otherwise is changed, so that seals stay where nothing
 // has changed; one that lacks a key may have got another section before it.
-void ContourFile::Save() {
-    IniFile& file = m_Source.File();
+void ContourFile::Save(Output& output) {
     Reading reading;
+    std::vector<std::string> broken;
     for (std::size_t i = 0; i < m_Items.size(); ++i) {
         Section& section = m_Items[i].Keys;
         section.SetName(ContourDefinitionList::SectionName(static_cast<int>(i)));
         if (section.NumKeys() == 0 || !AreSame(reading.Next(section), m_Items[i].Definition)) {
+            const bool wasSealed = IsSealed(section);
             Write(m_Items[i].Definition, section);
             reading.Next(section);
+            if (wasSealed && !IsSealed(section)) {
+                broken.push_back(*section.GetName());
+            }
         }
-        if (i < m_Positions.size()) {
-            file[m_Positions[i]] = std::move(section);
-        } else {
-            file.AddSection(section);
-        }
+        PutBlock(i);
     }
     for (std::size_t i = m_Items.size(); i < m_Positions.size(); ++i) {
-        file.RemoveSection(ContourDefinitionList::SectionName(static_cast<int>(i)));
+        m_Source.Text().Blocks()[static_cast<std::size_t>(m_Positions[i])].clear();
     }
-    Require(MARLINSUITE::ReplaceFile(m_Path, m_Source.Text()));
+    WriteFile(m_Path, m_Source.Text().Bytes(), output);
+    for (const std::string& name : broken) {
+        Report(m_Path + ": [" + name + "] was sealed and is now changed");
+    }
 }
 
 }  // namespace HOST

@@ -15,16 +15,17 @@ using Contour = ContourDefinitionList::ContourDefInfo;
 /// holds none, or one that readers would not reach because a number before it is missing.
 [[nodiscard]] std::vector<Contour> ReadContours(const std::string& path);
 
-/// A contour definition file that is changed definition by definition. Comments, other keys and
-/// other sections stay. Definitions are kept in ascending order of level, no level twice.
+/// A contour definition file that is changed definition by definition. All other bytes stay.
+/// Definitions are kept in ascending order of level, no level twice.
 class ContourFile {
 public:
     enum MISSING { FAILS, IS_EMPTY };
 
-    /// Fails as `ReadContours` does, for a level that the file has twice, and for text that
-    /// saving would drop. `missing` says what a path without a file does.
+    /// Fails as `ReadContours` does, for a level that the file has twice, `missing` says what a
+    /// path without a file does.
     ContourFile(std::string path, MISSING missing);
-    void Save();
+    /// Notes the seals that the changes break.
+    void Save(Output& output);
 
     /// Whether there was no file.
     [[nodiscard]] bool IsNew() const noexcept { return m_IsNew; }
@@ -41,9 +42,11 @@ private:
         double Level = 0.0;  // as files hold it
         Contour Definition;
         Section Keys;  // as read
+        std::string Block;
     };
 
     void TakeItems();
+    void PutBlock(std::size_t number);
     [[nodiscard]] std::vector<Item>::iterator LowerBound(double level);
 
     std::string m_Path;

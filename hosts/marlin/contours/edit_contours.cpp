@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "contours.h"
+#include "input/files.h"
 #include <marlin/base/error_string.h>
 #include <marlin/platform/kernel/process.h>
 
@@ -24,6 +25,9 @@ struct EditContours {
 
     // This process becomes the editor, so that its exit code and its signals are the editor's.
     int Run(Output& /*output*/) {
+        if (IsStandard(File)) {
+            Fail("-: a window edits a file, not standard input");
+        }
         const std::string program = EditorPath();
         Fail(MARLINSUITE::SystemReason(program, PLATFORM::RunInstead(program, {"--", File})));
     }

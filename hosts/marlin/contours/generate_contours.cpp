@@ -2,6 +2,7 @@
 #include "contour_file.h"
 #include "contours.h"
 #include "input/color_source.h"
+#include "input/files.h"
 #include "input/level.h"
 #include "level_range.h"
 #include <marlin/color/dxf_color_table.h>
@@ -37,6 +38,16 @@ ContourDefinitionList StoredContours(const ContourDefinitionList& contours) {
     return stored;
 }
 
+std::string TextOf(const ContourDefinitionList& contours) {
+    std::string text;
+    for (int i = 0; i < contours.NumContours(); ++i) {
+        Section section(ContourDefinitionList::SectionName(i));
+        contours[i].Write(section);
+        section.AppendTo(text);
+    }
+    return text;
+}
+
 struct GenerateContours {
     std::vector<std::string> Range;
     std::string Table;
@@ -64,6 +75,7 @@ private:
 
 ContourDefinitionList GenerateContours::GenerateFromTable() const {
     DXFColorTable table;
+    RequireOther(Table, OutFile);
     ReadColors(Table, table);
     if (SnapDxf) {
         table.MakeDXFTable();
@@ -83,15 +95,12 @@ int GenerateContours::Run(Output& output) const {
         Refuse("no multiple of the interval lies in the range; nothing written");
     }
     const ContourDefinitionList contours = StoredContours(generated);
-    if (!contours.Save(OutFile.c_str())) {
-        Require(ErrorString::LastError());
-    }
-    output.Text += Printable(AsUtf8(OutFile)) + ": " +
-                   CountText(static_cast<std::size_t>(contours.NumContours()), "level") + "\n";
+    WriteFile(OutFile, TextOf(contours), output);
     if (const int numDropped = generated.NumContours() - contours.NumContours(); numDropped > 0) {
-        output.Text +=
-            NumberText(numDropped) + " left out: the next has the same level in six decimals\n";
+        Report(NumberText(numDropped) + " left out: the next has the same level in six decimals");
     }
+    output.Say(OutFile + ": " +
+               CountText(static_cast<std::size_t>(contours.NumContours()), "level"));
     return DONE;
 }
 

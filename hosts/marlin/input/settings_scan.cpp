@@ -90,7 +90,7 @@ bool Scanner::TakeHeader(const SettingsLine& line) {
     m_Scan.HeaderLines.push_back(line.Number);
     m_Keys.clear();
     if (!line.Ignored.empty()) {
-        Remark(line.Number, SettingsRemark::LOSS, "text behind the section header is not read");
+        Remark(line.Number, SettingsRemark::WARNING, "text behind the section header is not read");
     }
     return true;
 }
@@ -98,7 +98,7 @@ bool Scanner::TakeHeader(const SettingsLine& line) {
 void Scanner::TakeKey(const SettingsLine& line) {
     if (line.Name.empty()) {
         if (!line.Value.empty()) {
-            Remark(line.Number, SettingsRemark::LOSS, "a value without a key");
+            Remark(line.Number, SettingsRemark::WARNING, "a value without a key");
         }
         return;
     }
@@ -141,11 +141,6 @@ SettingsScan SettingsScan::Of(std::string_view text) {
         text, [&scanner](const SettingsLine& line) { return scanner.TakeLine(line); });
     scanner.Finish(text.size());
     return scan;
-}
-
-const SettingsRemark* SettingsScan::FirstLoss() const noexcept {
-    const auto found = std::ranges::find(Remarks, SettingsRemark::LOSS, &SettingsRemark::Kind);
-    return found == Remarks.end() ? nullptr : &*found;
 }
 
 }  // namespace HOST

@@ -13,7 +13,6 @@ struct SettingsRemark {
     enum KIND {
         WARNING,
         ERROR,  ///< Two keys of one name.
-        LOSS,   ///< A warning about text that saving the file would drop.
     };
     int Line = 0;
     KIND Kind = WARNING;
@@ -36,8 +35,6 @@ struct SettingsScan {
     std::vector<SettingsRemark> Remarks;
 
     [[nodiscard]] static SettingsScan Of(std::string_view text);
-    /// Null when saving drops nothing.
-    [[nodiscard]] const SettingsRemark* FirstLoss() const noexcept;
 };
 
 }  // namespace HOST

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings_source.h"
 
-#include "input.h"
-#include "output/printable.h"
-#include <marlin/base/files/file_replacement.h>
+#include "files.h"
 
 namespace HOST {
 
@@ -13,7 +11,7 @@ bool IsSealed(const Section& section) {
 
 ErrorString SettingsSource::Open(const std::string& path) {
     std::string text;
-    if (ErrorString error = MARLINSUITE::ReadFile(path, text, LargestTextFile); !error.Empty()) {
+    if (ErrorString error = ReadText(path, text); !error.Empty()) {
         return error;
     }
     m_Path = path;
@@ -21,7 +19,7 @@ ErrorString SettingsSource::Open(const std::string& path) {
     if (!m_Scan.Fault.empty()) {
         return ErrorString(AtLine(path, m_Scan.FaultLine, m_Scan.Fault));
     }
-    m_Preamble = text.substr(0, m_Scan.PreambleSize);
+    m_Text = SettingsText(text, m_Scan.PreambleSize);
     ErrorString result = m_File.OpenText(text);
     if (!result.Empty()) {
         std::string cause = path + result.Cause();  // which begins with ":line"
@@ -41,16 +39,12 @@ ErrorString SettingsSource::OpenWithSections(const std::string& path) {
     return result;
 }
 
-ErrorString SettingsSource::CanBeSaved() const {
-    const SettingsRemark* const loss = m_Scan.FirstLoss();
-    if (!loss) {
-        return {};
-    }
-    return ErrorString(AtLine(m_Path, loss->Line, loss->Cause) + ", and would be lost");
+void SettingsSource::Lock(const std::string& path) {
+    LockForChange(path, m_Lock);
 }
 
-ErrorString SettingsSource::Save() const {
-    return MARLINSUITE::ReplaceFile(m_Path, Text());
+void SettingsSource::Save(Output& output) const {
+    WriteFile(m_Path, m_Text.Bytes(), output);
 }
 
 }  // namespace HOST

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "output/output.h"
 #include "settings_scan.h"
+#include "settings_text.h"
 #include <marlin/base/error_string.h>
+#include <marlin/platform/kernel/file_lock.h>
 #include <marlin/settings/ini_file.h>
 
 #include <string>
@@ -12,9 +15,8 @@ namespace HOST {
 /// Returns true for a section with a seal that still fits.
 [[nodiscard]] bool IsSealed(const Section& section);
 
-/// A settings file that a command reads, and may change. It is read once: the scan and the
-/// sections come from the same bytes. Saving keeps all before the first section header byte for
-/// byte; sections are written in the library's own columns.
+/// A settings file that a command reads, and may change. It is read once: the scan, the sections
+/// and the text come from the same bytes.
 class SettingsSource {
 public:
     /// Failures are "path:line: cause": what the system or the library refuses, files of more
@@ -24,11 +26,13 @@ public:
     /// The same, with a failure for a file without sections.
     [[nodiscard]] ErrorString OpenWithSections(const std::string& path);
 
-    /// A failure for a file of which saving would drop more than the columns.
-    [[nodiscard]] ErrorString CanBeSaved() const;
-    [[nodiscard]] ErrorString Save() const;
-    /// The text that `Save` writes.
-    [[nodiscard]] std::string Text() const { return m_Preamble + m_File.Text(); }
+    /// Keeps other programs from changing the file from before the reading to the end of the
+    /// command. Fails when another one does not let go of it.
+    void Lock(const std::string& path);
+    /// Changes are made in the text. What the library reads from it stays as it was.
+    [[nodiscard]] SettingsText& Text() noexcept { return m_Text; }
+    /// Fails when the file cannot be written.
+    void Save(Output& output) const;
 
     [[nodiscard]] const std::string& Path() const noexcept { return m_Path; }
     [[nodiscard]] const SettingsScan& Scan() const noexcept { return m_Scan; }
@@ -36,8 +40,9 @@ public:
     [[nodiscard]] const IniFile& File() const noexcept { return m_File; }
 
 private:
+    PLATFORM::FileLock m_Lock;
     std::string m_Path;
-    std::string m_Preamble;
+    SettingsText m_Text;
     SettingsScan m_Scan;
     IniFile m_File;
 };

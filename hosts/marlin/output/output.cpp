@@ -13,6 +13,14 @@ void Report(const std::string& message) {
     static_cast<void>(std::fputs(line.c_str(), stderr));  // there is nowhere else to say it
 }
 
+void Output::Say(const std::string& line) {
+    if (IsFile) {
+        Report(line);
+    } else {
+        Text += Printable(AsUtf8(line)) + "\n";
+    }
+}
+
 int Finish(const Output& output, int code) {
     errno = 0;
     const bool isWhole =

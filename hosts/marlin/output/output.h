@@ -13,6 +13,10 @@ namespace HOST {
 struct Output {
     std::string Text;        ///< UTF-8.
     bool HasColors = false;  ///< For a terminal.
+    bool IsFile = false;     ///< The text is the contents of a file.
+
+    /// Appends a line on what was done; where the text is a file, standard error has it.
+    void Say(const std::string& line);
 };
 
 /// Writes "marlin: message" to standard error.

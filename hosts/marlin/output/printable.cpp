@@ -38,7 +38,7 @@ std::string Printable(std::string_view utf8) {
 }
 
 std::string Shown(std::string_view text) {
-    return Printable(PLATFORM::ToUtf8(text));
+    return Printable(AsUtf8(text));
 }
 
 std::string AsUtf8(std::string_view bytes) {

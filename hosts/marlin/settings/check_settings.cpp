@@ -3,7 +3,6 @@
 #include "output/json.h"
 #include "output/table.h"
 #include "settings.h"
-#include <marlin/platform/text/code_page.h>
 
 #include <algorithm>
 #include <string_view>
@@ -88,7 +87,7 @@ Json JsonOfSections(const SettingsSource& source) {
     Json sections = Json::array();
     for (int i = 0; i < source.File().NumSections(); ++i) {
         const Section& section = source.File()[i];
-        sections.push_back({{"name", PLATFORM::ToUtf8(*section.GetName())},
+        sections.push_back({{"name", AsUtf8(*section.GetName())},
                             {"line", source.Scan().HeaderLines[static_cast<std::size_t>(i)]},
                             {"keys", section.NumKeys()},
                             {"state", SealOf(section)}});

@@ -3,7 +3,6 @@
 #include "input/settings_source.h"
 #include "output/json.h"
 #include "settings.h"
-#include <marlin/platform/text/code_page.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -119,15 +118,15 @@ std::string_view ChangeOf(const Difference& difference) {
 
 Json JsonOf(const Difference& difference) {
     Json json = {{"change", ChangeOf(difference)},
-                 {"section", PLATFORM::ToUtf8(*difference.InSection->GetName())}};
+                 {"section", AsUtf8(*difference.InSection->GetName())}};
     if (const SectionKey* const key = difference.OldKey ? difference.OldKey : difference.NewKey) {
-        json["key"] = PLATFORM::ToUtf8(*key->GetName());
+        json["key"] = AsUtf8(*key->GetName());
     }
     if (difference.OldKey) {
-        json["old"] = PLATFORM::ToUtf8(difference.OldKey->GetValue());
+        json["old"] = AsUtf8(difference.OldKey->GetValue());
     }
     if (difference.NewKey) {
-        json["new"] = PLATFORM::ToUtf8(difference.NewKey->GetValue());
+        json["new"] = AsUtf8(difference.NewKey->GetValue());
     }
     return json;
 }

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "input/input.h"
 #include "input/settings_source.h"
 #include "settings.h"
-#include <marlin/platform/text/code_page.h>
 
 #include <algorithm>
 
@@ -21,8 +19,8 @@ auto NumWritten(const Section& section) {
     });
 }
 
-// One value of a file; the names are those that were typed until `Convert` makes them texts of
-// the file.
+// One value of a file; the names are those that were typed until `Convert` gives them the file's
+// encoding.
 struct OneSetting {
     std::string File;
     std::string Section;
@@ -33,9 +31,9 @@ struct OneSetting {
         options.Word("SECTION", Section, "Its name, in any case");
         options.Word("KEY", Key, "Its name, in any case");
     }
-    void Convert() {
-        Section = TextOfArgument(Section);
-        Key = TextOfArgument(Key);
+    void Convert(const SettingsText& text) {
+        Section = text.FromArgument(Section);
+        Key = text.FromArgument(Key);
     }
 };
 
@@ -44,9 +42,9 @@ struct GetSetting : OneSetting {
 };
 
 int GetSetting::Run(Output& output) {
-    Convert();
     SettingsSource source;
     Require(source.OpenWithSections(File));
+    Convert(source.Text());
     const IniFile& file = source.File();
     const ::Section& section = file[Section];
     if (!section.IsValid()) {
@@ -56,7 +54,7 @@ int GetSetting::Run(Output& output) {
     if (!key.IsValid()) {
         Refuse(File + ": no key " + Quoted(Key) + " in section " + Quoted(Section));
     }
-    output.Text += PLATFORM::ToUtf8(key.GetValue()) + "\n";
+    output.Text += AsUtf8(key.GetValue()) + "\n";
     return DONE;
 }
 
@@ -71,52 +69,68 @@ struct SetSetting : OneSetting {
 
 private:
     [[nodiscard]] std::string Assignment() const {
-        return "[" + Shown(Section) + "] " + Shown(Key) + " = " + Shown(Value);
+        return "[" + AsUtf8(Section) + "] " + AsUtf8(Key) + " = " + AsUtf8(Value);
     }
-    [[nodiscard]] std::string Describe(const IniFile& file) const;
-    [[nodiscard]] bool IsKept(const SettingsSource& source) const;
+    void Describe(const IniFile& file, Output& output) const;
+    void Change(SettingsSource& source) const;
+    void RequireKept(SettingsSource& source) const;
 };
 
-std::string SetSetting::Describe(const IniFile& file) const {
+void SetSetting::Describe(const IniFile& file, Output& output) const {
     const ::Section& section = file[Section];
-    std::string text = section.IsValid() ? "" : "new section [" + Shown(Section) + "]\n";
-    text += (section.HasKey(Key) ? "" : "new key ") + Assignment() + "\n";
-    if (IsSealed(section)) {
-        text += "[" + Shown(Section) + "] was sealed and is now changed\n";
+    if (!section.IsValid()) {
+        output.Say("new section [" + Section + "]");
     }
-    return text;
+    output.Say((section.HasKey(Key) ? "" : "new key ") + Assignment());
+    if (IsSealed(section) && section[Key].GetValue() != Value) {
+        Report(File + ": [" + Section + "] was sealed and is now changed");
+    }
+}
+
+void SetSetting::Change(SettingsSource& source) const {
+    const IniFile& file = source.File();
+    ::Section section = file.HasSection(Section) ? file[Section] : ::Section(Section);
+    section[Key] << Value;
+    SettingsText& text = source.Text();
+    for (int i = 0; i < file.NumSections(); ++i) {
+        if (file[i].GetName() == section.GetName()) {
+            std::string& block = text.Blocks()[static_cast<std::size_t>(i)];
+            block = text.Updated(block, section);
+            return;
+        }
+    }
+    text.Append(text.NewBlock(section));
 }
 
 // Reads the file that would be written: the value must come back, and no other line with it. That
 // holds whatever the grammar gives a meaning to.
-bool SetSetting::IsKept(const SettingsSource& source) const {
+void SetSetting::RequireKept(SettingsSource& source) const {
     IniFile read;
-    if (!read.OpenText(source.Text()).Empty() ||
-        read.NumSections() != source.File().NumSections()) {
-        return false;
-    }
+    const ErrorString outcome = read.OpenText(source.Text().Bytes());
     const IniFile& stored = read;
+    const IniFile& old = source.File();
     const ::Section& section = stored[Section];
-    return NumWritten(section) == NumWritten(source.File()[Section]) && section.HasKey(Key) &&
-           section[Key].GetValue() == Value;
+    const bool isNew = !old.HasSection(Section);
+    if (!outcome.Empty() || read.NumSections() != old.NumSections() + (isNew ? 1 : 0) ||
+        NumWritten(section) != NumWritten(old[Section]) + (old[Section].HasKey(Key) ? 0 : 1) ||
+        !section.HasKey(Key) || section[Key].GetValue() != Value) {
+        Fail(File + ": a settings file cannot hold " + Assignment());
+    }
 }
 
 int SetSetting::Run(Output& output) {
-    Convert();
-    Value = TextOfArgument(Value);
     if (Section.empty() || Key.empty()) {
         Fail("SECTION and KEY must not be empty");
     }
     SettingsSource source;
+    source.Lock(File);
     Require(source.Open(File));
-    Require(source.CanBeSaved());
-    const std::string description = Describe(source.File());
-    source.File()[Section][Key] << Value;
-    if (!IsKept(source)) {
-        Fail(File + ": a settings file cannot hold " + Assignment());
-    }
-    Require(source.Save());
-    output.Text += description;
+    Convert(source.Text());
+    Value = source.Text().FromArgument(Value);
+    Change(source);
+    RequireKept(source);
+    source.Save(output);
+    Describe(source.File(), output);
     return DONE;
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "input/input.h"
+#include "input/files.h"
 #include "input/settings_source.h"
 #include "settings.h"
 
@@ -10,28 +10,33 @@ namespace HOST {
 namespace {
 
 // All sections when none is named.
-std::vector<Section*> Choose(IniFile& file, const std::string& path,
-                             const std::vector<std::string>& names) {
-    std::vector<Section*> chosen;
+std::vector<int> Choose(SettingsSource& source, const std::vector<std::string>& names) {
+    const IniFile& file = source.File();
+    std::vector<int> chosen;
     for (int i = 0; names.empty() && i < file.NumSections(); ++i) {
-        chosen.push_back(&file[i]);
+        chosen.push_back(i);
     }
     for (const std::string& argument : names) {
-        const std::string name = TextOfArgument(argument);
-        if (!file.HasSection(name)) {
-            Refuse(path + ": no section \"" + Shown(name) + "\"");
+        const std::string name = source.Text().FromArgument(argument);
+        const auto found =
+            std::ranges::find(file.Sections(), HashedString(name), &Section::GetName);
+        if (found == file.Sections().end()) {
+            Refuse(source.Path() + ": no section \"" + AsUtf8(name) + "\"");
         }
-        chosen.push_back(&file[name]);
+        chosen.push_back(static_cast<int>(found - file.Sections().begin()));
     }
     return chosen;
 }
 
 // Returns false for a section whose seal still fits.
-bool AddSeal(Section* section) {
-    if (IsSealed(*section)) {
+bool AddSeal(SettingsSource& source, int position) {
+    Section& section = source.File()[position];
+    if (IsSealed(section)) {
         return false;
     }
-    section->AddChecksum();
+    section.AddChecksum();
+    std::string& block = source.Text().Blocks()[static_cast<std::size_t>(position)];
+    block = source.Text().Updated(block, section);
     return true;
 }
 
@@ -46,15 +51,16 @@ struct SealSettings {
 
     int Run(Output& output) const {
         SettingsSource source;
+        source.Lock(File);
         Require(source.OpenWithSections(File));
-        Require(source.CanBeSaved());
-        const auto numSealed = std::ranges::count_if(Choose(source.File(), File, Names), AddSeal);
-        if (numSealed == 0) {
-            output.Text += "already sealed, nothing written\n";
+        const auto numSealed = std::ranges::count_if(
+            Choose(source, Names), [&source](int position) { return AddSeal(source, position); });
+        if (numSealed == 0 && !IsStandard(File)) {
+            output.Say("already sealed, nothing written");
             return DONE;
         }
-        Require(source.Save());
-        output.Text += CountText(static_cast<std::size_t>(numSealed), "section") + " sealed\n";
+        source.Save(output);
+        output.Say(CountText(static_cast<std::size_t>(numSealed), "section") + " sealed");
         return DONE;
     }
 };

@@ -5,7 +5,6 @@
 #include "output/table.h"
 #include "section_records.h"
 #include "settings.h"
-#include <marlin/platform/text/code_page.h>
 
 namespace HOST {
 
@@ -29,8 +28,8 @@ void AppendRecord(const Section& section, const Record& record, Output& output) 
 }
 
 Json JsonOf(const ShownField& field) {
-    return {{"key", PLATFORM::ToUtf8(field.Key)},
-            {"value", field.Color ? ColorText(*field.Color) : PLATFORM::ToUtf8(field.Value)},
+    return {{"key", AsUtf8(field.Key)},
+            {"value", field.Color ? ColorText(*field.Color) : AsUtf8(field.Value)},
             {"meaning", field.Meaning}};
 }
 
@@ -39,9 +38,9 @@ Json JsonOf(const Section& section, const Record& record) {
     for (const ShownField& field : record.Fields) {
         fields.push_back(JsonOf(field));
     }
-    return {{"section", PLATFORM::ToUtf8(*section.GetName())},
+    return {{"section", AsUtf8(*section.GetName())},
             {"record", record.Kind},
-            {"name", PLATFORM::ToUtf8(record.Name)},
+            {"name", AsUtf8(record.Name)},
             {"fields", std::move(fields)}};
 }
 

@@ -3,7 +3,6 @@
 #include "measurement.h"
 #include "style_options.h"
 #include "text.h"
-#include <marlin/platform/text/code_page.h>
 
 #include <algorithm>
 
@@ -37,12 +36,12 @@ void AppendRows(const MeasuredText& text, Table& table) {
 }
 
 Json JsonOf(const MeasuredText& text) {
-    Json json = {{"text", PLATFORM::ToUtf8(text.Text)}};
+    Json json = {{"text", AsUtf8(text.Text)}};
     AddRect(text.Rect, json);
     json["lineHeight"] = JsonNumber(text.LineHeight);
     Json& lines = json["lines"] = Json::array();
     for (const std::string& line : text.Lines) {
-        lines.push_back(PLATFORM::ToUtf8(line));
+        lines.push_back(AsUtf8(line));
     }
     return json;
 }

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "measurement.h"
 
-#include <marlin/platform/text/code_page.h>
-
 #include <cmath>
 #include <utility>
 
@@ -34,15 +32,14 @@ Measurement::Measurement(const TextInfo& style) : m_Asked(style.Font()) {
 
 void Measurement::Append(const Table& table, Output& output) const {
     if (m_Face.Substituted) {
-        output.Text +=
-            Shown(m_Asked) + " is missing; measured with " + Printable(m_Face.Family) + "\n";
+        Report(AsUtf8(m_Asked) + " is missing; measured with " + m_Face.Family);
     }
     table.AppendTo(output);
 }
 
 void Measurement::Append(const char* name, Json measured, Output& output) const {
     Json json = {{"font",
-                  {{"asked", PLATFORM::ToUtf8(m_Asked)},
+                  {{"asked", AsUtf8(m_Asked)},
                    {"family", AsUtf8(m_Face.Family)},
                    {"style", AsUtf8(m_Face.Style)},
                    {"substituted", m_Face.Substituted}}}};

@@ -18,6 +18,8 @@ function(marlin_target_options target)
     -Wundef -Wunused
     # The same results on processors with fused multiply-add as on those without.
     -ffp-contract=off
+    # Symbols that the loader keeps unique would keep the library loaded after `dlclose`.
+    $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>
     # g++ 12 finds null pointers in the standard library's own streams.
     $<$<CXX_COMPILER_ID:Clang>:-Wnull-dereference>
     # Text styles have a virtual operation and no virtual destructor; lists hold them by value.

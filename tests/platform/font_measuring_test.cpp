@@ -94,6 +94,26 @@ TEST_P(FontOfFace, MeasuresTheSumOfTheAdvances) {
     }
 }
 
+// The last two: a letter outside Windows-1252, and a byte that makes the whole text Windows-1252.
+TEST_P(FontOfFace, MeasuresTheCharactersOfUtf8) {
+    const std::pair<const char*, std::vector<unsigned int>> cases[] = {
+        {"\xC3\xA9", {0xE9}},
+        {"\xE2\x82\xAC"
+         "5",
+         {0x20AC, '5'}},
+        {"\xC2\x80", {0x80}},
+        {"\xCE\xA9m", {0x3A9, 'm'}},
+        {"\xC3\xA9\xE9", {0xC3, 0xA9, 0xE9}},
+    };
+    for (const auto& [text, characters] : cases) {
+        double sum = 0;
+        for (const unsigned int character : characters) {
+            sum += m_Tables.Advance(character);
+        }
+        EXPECT_EQ(Font(100000).Extent(text).cx, Scaled(sum, 100000, m_Cell)) << text;
+    }
+}
+
 TEST_P(FontOfFace, HasTheMetricsOfItsCell) {
     const FontTables& t = m_Tables;
     for (const int h : {100, 423, 2500, 30000}) {
@@ -139,6 +159,8 @@ TEST(TextOutline, PutsTheBoxesOfTheFontsGlyphsAtTheirAdvances) {
     EXPECT_NEAR(text.Advance * text.Scale, width, 0.5);
     EXPECT_NEAR((text.Ascent + text.Descent) * text.Scale, 2500, 1e-9);
     EXPECT_TRUE(OutlineOf("   ").Steps.empty());
+    EXPECT_EQ(BoxOf(OutlineOf("\xCE\xA9"))[3], tables.Box(0x3A9, 3));
+    EXPECT_EQ(OutlineOf("\xCE\xA9").Advance, tables.Advance(0x3A9));
     // The outside and two holes, a move each.
     const std::vector<OutlineStep> steps = OutlineOf("B").Steps;
     EXPECT_EQ(steps.front().Kind, OutlineStep::MOVE);

@@ -182,6 +182,30 @@ TEST(TextPainting, LongTextsArePaintedToTheirEnd) {
     EXPECT_GT(painted.right, 7990);
 }
 
+// Pieces of the text end between its characters, and are read as the whole text is.
+TEST(TextPainting, Utf8LooksLikeWindows1252) {
+    std::string windows(90, '\xE9');
+    for (const std::size_t ascii : {0U, 1U, 60U}) {
+        windows.replace(0, ascii, ascii, 'i');
+        std::string utf8(ascii, 'i');
+        for (std::size_t i = ascii; i < windows.size(); ++i) {
+            utf8 += "\xC3\xA9";
+        }
+        Surface first(2000, 60);
+        Surface second(2000, 60);
+        EXPECT_GT(first.Painted(5, 5, windows.c_str()).right, 500);
+        second.Painted(5, 5, utf8.c_str());
+        EXPECT_TRUE(first.Picture() == second.Picture()) << ascii;
+    }
+    const std::string mixed = std::string(64, 'i') + "\xC3\xA9\xE9";
+    Surface surface(2000, 60);
+    surface.DC.SetBkMode(OPAQUE);
+    surface.DC.SetBkColor(Red);
+    // One pixel more for the part of a pixel at the end.
+    EXPECT_NEAR(surface.Painted(0, 5, mixed.c_str()).right,
+                surface.DC.GetTextExtent(mixed.c_str()).cx, 1);
+}
+
 TEST(TextPainting, HugeTextsOddCountsAndTheDisplayDoNoHarm) {
     CFont huge;
     huge.CreateFontA(2147483647, 0, 450, 0, 400, 0, 1, 1, 0, OUT_TT_ONLY_PRECIS, 0, 0, 0, "Arial");

@@ -5,6 +5,7 @@
 #include <clocale>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 #include <tuple>
 
 #include <gtest/gtest.h>
@@ -94,6 +95,27 @@ TEST(CodePage, BytesStandForTheCharactersOfWindows1252AndComeBack) {
     }
     EXPECT_TRUE(IsUtf8(ToUtf8(all)));
     EXPECT_EQ(FromUtf8(ToUtf8(all)), all);
+}
+
+TEST(CodePage, ATextThatIsUtf8AsAWholeStaysAsItIs) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"", ""},
+        {"caf\xC3\xA9 \xCE\xA9", "caf\xC3\xA9 \xCE\xA9"},
+        // One byte that is not UTF-8 makes all of them Windows-1252.
+        {"\xC3\xA9\xE9", "\xC3\x83\xC2\xA9\xC3\xA9"},
+        {"\xE2\x82", "\xC3\xA2\xE2\x80\x9A"},
+    };
+    for (const auto& [bytes, utf8] : cases) {
+        EXPECT_EQ(ToUtf8(bytes), utf8);
+    }
+}
+
+TEST(CodePage, TakesCodePointsOffAText) {
+    std::string_view text = "A\xC3\xA9\xE2\x82\xAC\xF0\x9F\x90\x9F\xE9z";
+    for (const char32_t codePoint : {U'A', U'\u00E9', U'\u20AC', U'\U0001F41F', U'\uFFFD', U'z'}) {
+        EXPECT_EQ(TakeCodePoint(text), codePoint);
+    }
+    EXPECT_TRUE(text.empty());
 }
 
 TEST(CodePage, WhatHasNoByteOrIsNotUtf8BecomesQuestionMarks) {

@@ -159,6 +159,18 @@ TEST(TextRectComp, WrapsBehindSpacesAndHyphens) {
     }
 }
 
+// Two letters with accents, a Greek one, and the euro sign: 2, 2, 2 and 3 bytes of UTF-8.
+TEST(TextRectComp, BreaksBetweenTheCharactersOfUtf8) {
+    EXPECT_EQ(LinesOf(2.5, "\xC3\xA9\xC3\xA8\xCE\xA9\xE2\x82\xAC!"),
+              (std::vector<std::string>{"\xC3\xA9\xC3\xA8", "\xCE\xA9\xE2\x82\xAC", "!"}));
+    EXPECT_EQ(LinesOf(0.0, "\xE2\x82\xAC\xC3\xA9"),
+              (std::vector<std::string>{"\xE2\x82\xAC", "\xC3\xA9"}));
+    // A byte that is not UTF-8 makes each byte a character.
+    EXPECT_EQ(LinesOf(2.5, "\xC3\xA9\xC3\xA9\xE9"),
+              (std::vector<std::string>{"\xC3\xA9", "\xC3\xA9", "\xE9"}));
+    EXPECT_EQ(LinesOf(1.0, "\xC3\xA9\xE9"), (std::vector<std::string>{"\xC3", "\xA9", "\xE9"}));
+}
+
 TEST(TextRectComp, AWrappedTextIsAsWideAsItsWidestLineAndAsHighAsAllLines) {
     TextRectComp rects;
     TextInfo single = Wrapped(0);

@@ -30,6 +30,9 @@ struct QtWindowSystem::State {
 
 namespace {
 
+// The text that a program gave to an edit field.
+constexpr const char* bytesProperty = "marlinBytes";
+
 // The window manager keeps the dialog above its parent, which does not own it.
 void PutAbove(QWidget& dialog, const QWidget* parent) {
     dialog.winId();  // makes the window handle
@@ -93,7 +96,7 @@ void QtWindowSystem::DestroyDialog(HWND dialog) {
 
 CString QtWindowSystem::Text(HWND window) const {
     if (const auto* const edit = Find<QLineEdit>(window)) {
-        return TextOf(edit->text());
+        return TextOf(edit->text(), edit->property(bytesProperty).toByteArray().toStdString());
     }
     if (const auto* const button = Find<QAbstractButton>(window)) {
         return TextOf(button->text());
@@ -109,6 +112,7 @@ void QtWindowSystem::SetText(HWND window, const CString& text) {
     const QString shown = QtText(text.View());
     if (auto* const edit = Find<QLineEdit>(window)) {
         edit->setText(shown);
+        edit->setProperty(bytesProperty, QByteArray(text.GetString(), text.GetLength()));
     } else if (auto* const button = Find<QAbstractButton>(window)) {
         button->setText(shown);
         Invalidate(window);

@@ -3,9 +3,11 @@
 #include <marlin/platform/drawing/text_painting.h>
 #include <marlin/platform/fonts/detail/selected_font.h>
 #include <marlin/platform/fonts/text_outline.h>
+#include <marlin/platform/text/code_page.h>
 
 #include <cmath>
 #include <numbers>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -18,7 +20,8 @@ using namespace PLATFORM::detail;
 constexpr unsigned int HorizontalBits = TA_CENTER;
 constexpr unsigned int VerticalBits = TA_BASELINE;
 
-// Long texts are painted in pieces of so many bytes: FreeType's outlines count points in 16 bits.
+// Long texts are painted in pieces of so many characters: FreeType's outlines count points in 16
+// bits.
 constexpr int PieceLength = 64;
 
 struct Piece {
@@ -69,10 +72,22 @@ std::vector<OutlineStep> CellOf(const TextOutline& text) {
             {OutlineStep::LINE, {text.Advance, -text.Descent}, {}, {}}};
 }
 
-std::vector<Piece> PiecesOf(HDC dc, std::string_view text, Placement at) {
+// The size in bytes of a text's first piece.
+std::size_t PieceSize(std::string_view utf8) noexcept {
+    std::string_view rest = utf8;
+    for (int i = 0; i < PieceLength && !rest.empty(); ++i) {
+        TakeCodePoint(rest);
+    }
+    return utf8.size() - rest.size();
+}
+
+// As UTF-8, since a piece of a text in Windows-1252 may happen to be valid UTF-8.
+std::vector<Piece> PiecesOf(HDC dc, std::string_view bytes, Placement at) {
+    const std::string utf8 = ToUtf8(bytes);
+    std::string_view text = utf8;
     std::vector<Piece> pieces;
     while (!text.empty()) {
-        const std::string_view part = text.substr(0, PieceLength);
+        const std::string_view part = text.substr(0, PieceSize(text));
         Piece piece{{}, at};
         if (!GetTextOutline(dc, part.data(), static_cast<int>(part.size()), piece.Text)) {
             return {};

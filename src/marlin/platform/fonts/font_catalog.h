@@ -41,7 +41,7 @@ class MARLIN_API FontCatalog {
 public:
     /// The families with Latin letters, sorted without regard to case; UTF-8.
     [[nodiscard]] static std::vector<std::string> Families();
-    /// Finds the face for a font of this name (Windows-1252), weight (400 normal, 700 bold) and
+    /// Finds the face for a font of this name , weight (400 normal, 700 bold) and
     /// slant. Returns false, and leaves the target as it was, when there is none.
     [[nodiscard]] static bool Find(const char* faceName, int weight, bool italic, FontMatch& match);
     [[nodiscard]] static FontCosts Costs() noexcept;

@@ -35,8 +35,9 @@ void AppendNames(const FontFace& face, OUTLINETEXTMETRICA& otm, char* end) {
 
 // False for a name that a LOGFONTA cannot carry.
 bool Describe(const InstalledFont& font, LOGFONTA& logical, TEXTMETRICA& metrics) {
-    const std::string face = FromUtf8(font.Family);
-    if (face.empty() || face.size() >= LF_FACESIZE || ToUtf8(face) != font.Family) {
+    const std::string windows = FromUtf8(font.Family);
+    const std::string& face = ToUtf8(windows) == font.Family ? windows : font.Family;
+    if (face.empty() || face.size() >= LF_FACESIZE) {
         return false;
     }
     logical.lfWeight = metrics.tmWeight = font.Weight;

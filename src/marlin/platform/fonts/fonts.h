@@ -12,7 +12,7 @@
 // `detail::SizedFont` for measures. The store asks `FontQuery` (fontconfig) which file has a font,
 // and opens its `FontFace` (FreeType).
 
-/// Makes a font of the named face (Windows-1252), weight and slant; `PLATFORM::FontCatalog` knows
+/// Makes a font of the named face, weight and slant; `PLATFORM::FontCatalog` knows
 /// which face is found. A height above 0 is that of the cell, below 0 that of the em square, in
 /// logical units; 0 asks for a cell of 12 points. The escapement turns painted texts, in tenths of
 /// a degree counter-clockwise. OUT_TT_ONLY_PRECIS prefers outline fonts to a bitmap font of the
@@ -45,8 +45,8 @@ MARLIN_API BOOL GetTextExtentPoint32A(HDC dc, const char* text, int count, SIZE*
 using FONTENUMPROCA = int (*)(const LOGFONTA*, const TEXTMETRICA*, unsigned long, long);
 /// Enumerates the outline fonts that have Latin letters: one of each family, sorted by name, when
 /// the wanted face name is empty, else the styles of that family. Opens no font file, so the
-/// metrics hold weight, slant and pitch alone. Leaves out families whose names have over 31 bytes
-/// or letters outside Windows-1252. Returns the result of the last call, 1 without calls, 0 for a
-/// wrong handle or null pointers.
+/// metrics hold weight, slant and pitch alone. Names are in Windows-1252 where it has all of their
+/// letters, otherwise in UTF-8; families whose names have over 31 bytes are left out. Returns the
+/// result of the last call, 1 without calls, 0 for a wrong handle or null pointers.
 MARLIN_API int EnumFontFamiliesExA(HDC dc, LOGFONTA* wanted, FONTENUMPROCA call, long argument,
                                    unsigned long flags);

@@ -2,7 +2,10 @@
 #include <marlin/platform/fonts/detail/font_store.h>
 #include <marlin/platform/fonts/detail/selected_font.h>
 #include <marlin/platform/fonts/text_outline.h>
+#include <marlin/platform/text/code_page.h>
 
+#include <mutex>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -51,19 +54,26 @@ int CubicTo(const FT_Vector* control1, const FT_Vector* control2, const FT_Vecto
 
 constexpr FT_Outline_Funcs penMoves{MoveTo, LineTo, ConicTo, CubicTo, 0, 0};
 
-// The advance of the whole text. Glyphs that cannot be read leave their place empty.
-double AppendText(const FontFace& face, std::string_view text, std::vector<OutlineStep>& steps) {
+// A glyph that cannot be read leaves its place empty.
+void AppendGlyph(const FontFace& face, char32_t codePoint, Pen& pen) {
     const std::scoped_lock lock(FontStore::Lock());
+    const FT_Outline* const outline = face.Outline(codePoint);
+    const std::size_t before = pen.Steps->size();
+    // FreeType only reads the outline, though its signature does not say so.
+    if (outline && FT_Outline_Decompose(const_cast<FT_Outline*>(outline), &penMoves, &pen) != 0) {
+        pen.Steps->resize(before);
+    }
+}
+
+// The advance of the whole text.
+double AppendText(const FontFace& face, std::string_view text, std::vector<OutlineStep>& steps) {
+    const std::string utf8 = ToUtf8(text);
+    std::string_view rest = utf8;
     Pen pen{&steps};
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (const FT_Outline* outline = face.Outline(text[i])) {
-            const std::size_t before = steps.size();
-            // FreeType only reads the outline, though its signature does not say so.
-            if (FT_Outline_Decompose(const_cast<FT_Outline*>(outline), &penMoves, &pen) != 0) {
-                steps.resize(before);
-            }
-        }
-        pen.X += static_cast<double>(face.Advance(text.substr(i, 1)));
+    while (!rest.empty()) {
+        const char32_t codePoint = TakeCodePoint(rest);
+        AppendGlyph(face, codePoint, pen);
+        pen.X += face.Advance(codePoint);
     }
     return pen.X;
 }

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <type_traits>
 
-/// The framework's string: a value of single-byte characters (Windows-1252), which may hold
-/// any byte. A null pointer reads as an empty text. Positions count from 0 and -1 means not
-/// found; counts and positions outside the text are cut to it.
+/// The framework's string: a value of bytes, of which `PLATFORM::ToUtf8` makes characters. A null
+/// pointer reads as an empty text. Positions count from 0 and -1 means not found; counts and
+/// positions outside the text are cut to it.
 /// @code
 /// CString name = "chart.cdf";
 /// const int dot = name.ReverseFind('.');

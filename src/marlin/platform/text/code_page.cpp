@@ -53,16 +53,6 @@ Character FirstCharacter(std::string_view text) noexcept {
     return {codePoint, lead->Size};
 }
 
-char ByteOf(char32_t codePoint) noexcept {
-    if (codePoint < firstSpecial || (codePoint > 0x9F && codePoint <= 0xFF)) {
-        return static_cast<char>(static_cast<unsigned char>(codePoint));
-    }
-    const auto* const found = std::ranges::find(specials, codePoint);
-    return found == specials.end() ? '?'
-                                   : static_cast<char>(static_cast<unsigned char>(
-                                         firstSpecial + (found - specials.begin())));
-}
-
 // Three bytes are enough: the characters of the code page are below 0x10000.
 void AppendUtf8(std::string& text, char32_t codePoint) {
     const auto append = [&text](char32_t bits) {
@@ -88,7 +78,20 @@ char32_t CodePointOf(unsigned char byte) noexcept {
     return special < specials.size() ? specials[special] : byte;
 }
 
+std::optional<unsigned char> ByteOf(char32_t codePoint) noexcept {
+    if (codePoint < firstSpecial || (codePoint > 0x9F && codePoint <= 0xFF)) {
+        return static_cast<unsigned char>(codePoint);
+    }
+    const auto* const found = std::ranges::find(specials, codePoint);
+    return found == specials.end() ? std::nullopt
+                                   : std::optional(static_cast<unsigned char>(
+                                         firstSpecial + (found - specials.begin())));
+}
+
 std::string ToUtf8(std::string_view text) {
+    if (IsUtf8(text)) {
+        return std::string(text);
+    }
     std::string utf8;
     utf8.reserve(text.size());
     for (const char c : text) {
@@ -101,9 +104,7 @@ std::string FromUtf8(std::string_view utf8) {
     std::string text;
     text.reserve(utf8.size());
     while (!utf8.empty()) {
-        const Character character = FirstCharacter(utf8);
-        text += character.Size == 0 ? '?' : ByteOf(character.CodePoint);
-        utf8.remove_prefix(std::max<std::size_t>(character.Size, 1));
+        text += static_cast<char>(ByteOf(TakeCodePoint(utf8)).value_or('?'));
     }
     return text;
 }
@@ -117,6 +118,13 @@ bool IsUtf8(std::string_view bytes) noexcept {
         bytes.remove_prefix(size);
     }
     return true;
+}
+
+char32_t TakeCodePoint(std::string_view& utf8) noexcept {
+    constexpr char32_t replacement = 0xFFFD;
+    const Character character = FirstCharacter(utf8);
+    utf8.remove_prefix(std::max<std::size_t>(character.Size, 1));
+    return character.Size == 0 ? replacement : character.CodePoint;
 }
 
 }  // namespace PLATFORM

@@ -6,13 +6,13 @@ namespace PLATFORM::detail {
 
 DropDownWidget::DropDownWidget(const ControlTemplate& form) : m_IsSorted(form.Sorted) {
     for (const std::string_view item : form.Items) {
-        addItem(QtText(item));
+        addItem(QtText(item), QByteArray(item.data(), static_cast<int>(item.size())));
     }
     setCurrentIndex(-1);
 }
 
 CString DropDownWidget::ItemText(int item) const {
-    return TextOf(itemText(item));
+    return CString(itemData(item).toByteArray().toStdString());
 }
 
 int DropDownWidget::PlaceOf(const CString& text) const {
@@ -26,7 +26,7 @@ int DropDownWidget::PlaceOf(const CString& text) const {
 int DropDownWidget::AddItem(const CString& text) {
     const int place = PlaceOf(text);
     const bool hadNone = currentIndex() < 0;
-    insertItem(place, QtText(text.View()));
+    insertItem(place, QtText(text.View()), QByteArray(text.GetString(), text.GetLength()));
     // Qt chooses the first item that comes into an empty list.
     if (hadNone) {
         setCurrentIndex(-1);

@@ -16,6 +16,7 @@ namespace PLATFORM::detail {
 namespace {
 
 constexpr int imageRole = Qt::UserRole;
+constexpr int bytesRole = Qt::UserRole + 1;
 
 QIcon IconOf(const CImageList& images, int index) {
     QImage icon(images.Width(), images.Height(), QImage::Format_ARGB32);
@@ -117,10 +118,10 @@ void ListWidget::InsertRow(int row, const CString& text, int image) {
             this, [this] { FitColumns(); }, Qt::QueuedConnection);
     }
     auto* const item = Make<QTreeWidgetItem>();
-    item->setText(0, QtText(text.View()));
     item->setData(0, imageRole, image);
     ShowImage(*item);
     insertTopLevelItem(row, item);
+    SetCell(row, 0, text);
 }
 
 void ListWidget::DeleteRow(int row) {
@@ -140,11 +141,13 @@ void ListWidget::DeleteRows() {
 }
 
 void ListWidget::SetCell(int row, int column, const CString& text) {
-    topLevelItem(row)->setText(column, QtText(text.View()));
+    QTreeWidgetItem& item = *topLevelItem(row);
+    item.setText(column, QtText(text.View()));
+    item.setData(column, bytesRole, QByteArray(text.GetString(), text.GetLength()));
 }
 
 CString ListWidget::Cell(int row, int column) const {
-    return TextOf(topLevelItem(row)->text(column));
+    return CString(topLevelItem(row)->data(column, bytesRole).toByteArray().toStdString());
 }
 
 void ListWidget::ScrollTo(int row) {

@@ -3,6 +3,7 @@
 #include <marlin/qt/detail/qt_text.h>
 
 #include <QFile>
+#include <string>
 
 namespace PLATFORM::detail {
 
@@ -10,8 +11,14 @@ QString QtText(std::string_view text) {
     return QString::fromStdString(ToUtf8(text));
 }
 
-CString TextOf(const QString& text) {
-    return CString(FromUtf8(text.toStdString()));
+CString TextOf(const QString& text, std::string_view before) {
+    const std::string utf8 = text.toStdString();
+    if (ToUtf8(before) == utf8) {
+        return CString(before);
+    }
+    const std::string windows = FromUtf8(utf8);
+    // Bytes that would be read as other characters are none of this text.
+    return CString(!IsUtf8(before) && ToUtf8(windows) == utf8 ? windows : utf8);
 }
 
 QString QtPath(const CString& path) {

@@ -10,9 +10,10 @@
 
 namespace PLATFORM::detail {
 
-/// Texts in Windows-1252 and back. Characters that it does not have become "?".
+/// Texts, and back as they were: `before` are the bytes that were shown. An edited text takes their
+/// encoding where it can, and UTF-8 otherwise.
 [[nodiscard]] QString QtText(std::string_view text);
-[[nodiscard]] CString TextOf(const QString& text);
+[[nodiscard]] CString TextOf(const QString& text, std::string_view before = {});
 
 /// Paths and back, with the same bytes.
 [[nodiscard]] QString QtPath(const CString& path);

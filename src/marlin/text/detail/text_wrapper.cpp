@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/platform/text/code_page.h>
 #include <marlin/text/detail/text_wrapper.h>
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <span>
 #include <utility>
 
 namespace MARLINSUITE::detail {
@@ -27,9 +30,29 @@ std::string_view WithoutLeadingSpaces(std::string_view text) {
     return text;
 }
 
+// A character of UTF-8 begins with a byte that continues no other.
+std::string_view FirstCharacter(std::string_view utf8) {
+    const auto continues = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; };
+    const auto end = std::find_if_not(utf8.begin() + 1, utf8.end(), continues);
+    return {utf8.begin(), end};
+}
+
 }  // namespace
 
+// In UTF-8, so that the pieces of a text have the characters that they have in the whole.
 void TextWrapper::Wrap(std::string_view text) {
+    if (PLATFORM::IsUtf8(text)) {
+        WrapUtf8(text);
+        return;
+    }
+    const std::size_t before = m_Lines.size();
+    WrapUtf8(PLATFORM::ToUtf8(text));
+    for (std::string& line : std::span(m_Lines).subspan(before)) {
+        line = PLATFORM::FromUtf8(line);
+    }
+}
+
+void TextWrapper::WrapUtf8(std::string_view text) {
     std::string_view rest = text;
     while (!rest.empty()) {
         const auto end = rest.find(paragraphMark);
@@ -74,7 +97,7 @@ void TextWrapper::WrapWords() {
     while (!m_Rest.empty()) {
         m_InBrokenWord =
             m_InBrokenWord && breakCharacters.find(m_Rest.front()) == std::string_view::npos;
-        const std::string_view piece = m_InBrokenWord ? m_Rest.substr(0, 1) : FirstWord(m_Rest);
+        const std::string_view piece = m_InBrokenWord ? FirstCharacter(m_Rest) : FirstWord(m_Rest);
         const int width = WidthOf(piece);
         if (m_LineWidth + width <= m_Width) {
             m_Line += piece;
@@ -91,10 +114,11 @@ void TextWrapper::WrapWords() {
 // The first character is taken even where it alone is wider than the line.
 void TextWrapper::BreakWord() {
     do {
-        m_LineWidth += WidthOf(m_Rest.substr(0, 1));
-        m_Line += m_Rest.front();
-        m_Rest.remove_prefix(1);
-    } while (!m_Rest.empty() && m_LineWidth + WidthOf(m_Rest.substr(0, 1)) < m_Width);
+        const std::string_view character = FirstCharacter(m_Rest);
+        m_LineWidth += WidthOf(character);
+        m_Line += character;
+        m_Rest.remove_prefix(character.size());
+    } while (!m_Rest.empty() && m_LineWidth + WidthOf(FirstCharacter(m_Rest)) < m_Width);
     EndLine();
     m_InBrokenWord = true;
 }

@@ -24,6 +24,7 @@ public:
     [[nodiscard]] int LineHeight() const noexcept { return m_Last.cy; }
 
 private:
+    void WrapUtf8(std::string_view text);
     void WrapParagraph(std::string_view paragraph);
     void WrapWords();
     void BreakWord();

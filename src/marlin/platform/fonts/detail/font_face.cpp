@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/fonts/detail/font_face.h>
+#include <marlin/platform/fonts/detail/font_store.h>
 #include <marlin/platform/kernel/detail/file.h>
 #include <marlin/platform/text/code_page.h>
 
 #include <cstddef>
+#include <mutex>
 #include <utility>
 
 #include <ft2build.h>
@@ -68,39 +70,60 @@ void FontFace::ReadNames() {
     m_Names = {family, family, style, style.empty() ? family : family + ' ' + style};
 }
 
-unsigned int FontFace::GlyphOf(char byte) const noexcept {
+unsigned int FontFace::GlyphOf(char32_t codePoint) const noexcept {
     FT_Face face = m_Face.get();
-    const auto code = static_cast<FT_ULong>(CodePointOf(static_cast<unsigned char>(byte)));
     if (!face->charmap || face->charmap->encoding != FT_ENCODING_MS_SYMBOL) {
-        return FT_Get_Char_Index(face, code);
+        return FT_Get_Char_Index(face, codePoint);
     }
     // Symbol faces keep their glyphs at the bytes, in a private area.
-    const auto symbol = static_cast<FT_ULong>(static_cast<unsigned char>(byte));
-    const unsigned int glyph = FT_Get_Char_Index(face, 0xF000UL | symbol);
-    return glyph != 0 ? glyph : FT_Get_Char_Index(face, symbol);
+    const auto byte = ByteOf(codePoint);
+    const unsigned int glyph = byte ? FT_Get_Char_Index(face, 0xF000UL | *byte) : 0;
+    return glyph != 0 ? glyph : FT_Get_Char_Index(face, byte ? *byte : codePoint);
 }
 
 // Unscaled, because hinting and the pixels of a size would make widths depend on the display.
+int FontFace::ReadAdvance(char32_t codePoint) const noexcept {
+    FT_Fixed advance = 0;
+    const bool read =
+        FT_Get_Advance(m_Face.get(), GlyphOf(codePoint), FT_LOAD_NO_SCALE, &advance) == 0;
+    return read && advance > 0 ? static_cast<int>(advance) : 0;
+}
+
 void FontFace::ReadAdvances() noexcept {
     for (std::size_t i = 0; i < m_Advances.size(); ++i) {
-        FT_Fixed advance = 0;
-        const unsigned int glyph = GlyphOf(static_cast<char>(i));
-        const bool read = FT_Get_Advance(m_Face.get(), glyph, FT_LOAD_NO_SCALE, &advance) == 0;
-        m_Advances[i] = read && advance > 0 ? static_cast<int>(advance) : 0;
+        m_Advances[i] = ReadAdvance(CodePointOf(static_cast<unsigned char>(i)));
     }
 }
 
+int FontFace::Advance(char32_t codePoint) const noexcept {
+    if (const auto byte = ByteOf(codePoint)) {
+        return m_Advances[*byte];
+    }
+    const std::scoped_lock lock(FontStore::Lock());
+    return ReadAdvance(codePoint);
+}
+
+// Nearly all texts are ASCII, so it is their sum that is ready first.
 long long FontFace::Advance(std::string_view text) const noexcept {
     long long sum = 0;
-    for (const char byte : text) {
-        sum += m_Advances[static_cast<unsigned char>(byte)];
+    unsigned int bits = 0;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        sum += m_Advances[byte];
+        bits |= byte;
+    }
+    if (bits < 0x80 || !IsUtf8(text)) {
+        return sum;
+    }
+    for (sum = 0; !text.empty();) {
+        sum += Advance(TakeCodePoint(text));
     }
     return sum;
 }
 
-const FT_Outline_* FontFace::Outline(char byte) const noexcept {
+const FT_Outline_* FontFace::Outline(char32_t codePoint) const noexcept {
     FT_Face face = m_Face.get();
-    const bool loaded = FT_Load_Glyph(face, GlyphOf(byte), FT_LOAD_NO_SCALE) == 0;
+    const bool loaded = FT_Load_Glyph(face, GlyphOf(codePoint), FT_LOAD_NO_SCALE) == 0;
     return loaded && face->glyph->format == FT_GLYPH_FORMAT_OUTLINE ? &face->glyph->outline
                                                                     : nullptr;
 }

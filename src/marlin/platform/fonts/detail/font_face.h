@@ -26,8 +26,9 @@ using FontBytes = std::shared_ptr<const std::string>;
 [[nodiscard]] FontBytes ReadFontFile(const std::string& path);
 
 /// One face of a font file, opened by FreeType at the request of the font store and asked by
-/// `SizedFont`. Its metrics and advances are read once and may be used by any thread; outlines
-/// need the store's lock.
+/// `SizedFont`. Its metrics and the advances of Windows-1252 are read once; other advances are read
+/// when they are asked for, under the store's lock, which callers must not hold then. Outlines need
+/// that lock. Characters are those of `PLATFORM::ToUtf8`.
 class FontFace {
     struct Key {};
 
@@ -41,14 +42,15 @@ public:
     ~FontFace() = default;
 
     [[nodiscard]] const FaceMetrics& Metrics() const noexcept { return m_Metrics; }
-    /// The sum of the advances of the text's bytes, in design units.
+    /// The sum of the advances of the text's characters, in design units.
     [[nodiscard]] long long Advance(std::string_view text) const noexcept;
+    [[nodiscard]] int Advance(char32_t codePoint) const noexcept;
     /// Family, face, style and full name.
     [[nodiscard]] const std::array<std::string, 4>& Names() const noexcept { return m_Names; }
 
-    /// The outline of a byte's glyph in design units, good until the next call; null for a
+    /// The outline of a character's glyph in design units, good until the next call; null for a
     /// glyph that cannot be read.
-    [[nodiscard]] const FT_Outline_* Outline(char byte) const noexcept;
+    [[nodiscard]] const FT_Outline_* Outline(char32_t codePoint) const noexcept;
 
 private:
     struct Closer {
@@ -57,12 +59,13 @@ private:
 
     void ReadNames();
     void ReadAdvances() noexcept;
-    [[nodiscard]] unsigned int GlyphOf(char byte) const noexcept;
+    [[nodiscard]] int ReadAdvance(char32_t codePoint) const noexcept;
+    [[nodiscard]] unsigned int GlyphOf(char32_t codePoint) const noexcept;
 
     FontBytes m_Bytes;
     std::unique_ptr<FT_FaceRec_, Closer> m_Face;  // reads the bytes as long as it lives
     FaceMetrics m_Metrics;
-    std::array<int, 256> m_Advances{};
+    std::array<int, 256> m_Advances{};  // of the bytes of Windows-1252
     std::array<std::string, 4> m_Names;
 };
 

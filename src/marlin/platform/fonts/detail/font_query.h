@@ -13,7 +13,7 @@ struct _FcConfig;
 
 namespace PLATFORM::detail {
 
-/// A font as it is asked for: the family in Windows-1252, 400 for the normal weight.
+/// A font as it is asked for: the family, 400 for the normal weight.
 struct FontWish {
     std::string Face;
     int Weight = 400;

@@ -204,7 +204,7 @@ TEST_F(FontEnumeration, NamesEachFamilyOnceInOrderAndOpensNoFile) {
     EXPECT_EQ(FontCatalog::Costs().FileOpens, opens);
     EXPECT_EQ(std::ranges::count(m_Faces, "Liberation Sans"), 1);
     const auto before = [](const std::string& a, const std::string& b) {
-        return CompareIgnoringCase(a, b) < 0;
+        return MARLINSUITE::CompareIgnoringCase(a, b) < 0;
     };
     EXPECT_TRUE(std::ranges::is_sorted(m_Faces, before));
     EXPECT_EQ(std::ranges::adjacent_find(m_Faces), m_Faces.end());

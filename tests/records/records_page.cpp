@@ -120,7 +120,7 @@ std::string Table(const char* title, const RecordFields& fields, std::size_t fir
 std::string Heading(const std::string& name, const std::string& className) {
     std::string heading = "\n## " + name + ": " + Code(className) + "\n";
     constexpr std::size_t first = 4;
-    heading[first] = PLATFORM::ToUpper(heading[first]);
+    heading[first] = MARLINSUITE::ToUpper(heading[first]);
     return heading;
 }
 

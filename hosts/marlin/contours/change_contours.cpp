@@ -25,7 +25,7 @@ unsigned long ParseColorWord(const std::string& text) {
 int ParseLineType(const std::string& text) {
     const auto& names = ContourDefinitionList::LINESTYLES;
     const auto* const found = std::ranges::find_if(names, [&text](const std::string& name) {
-        return PLATFORM::EqualIgnoringCase(text, name);
+        return MARLINSUITE::EqualIgnoringCase(text, name);
     });
     if (found == std::end(names)) {
         FailOption("--line-type", text, "continuous, dashed or dotted");

@@ -19,7 +19,7 @@ namespace {
 
 bool IsContourName(std::string_view name) {
     constexpr std::string_view start = "Contour(";
-    return PLATFORM::EqualIgnoringCase(name.substr(0, start.size()), start);
+    return MARLINSUITE::EqualIgnoringCase(name.substr(0, start.size()), start);
 }
 
 // By number, without a gap.
@@ -78,7 +78,7 @@ bool AreSame(const Contour& a, const Contour& b) {
 bool IsSameValue(const std::string& text, const std::string& other) {
     double number = 0.0;
     double otherNumber = 0.0;
-    return PLATFORM::EqualIgnoringCase(text, other) ||
+    return MARLINSUITE::EqualIgnoringCase(text, other) ||
            (ParseLevel(text, number) && ParseLevel(other, otherNumber) && number == otherNumber);
 }
 

@@ -63,12 +63,12 @@ std::optional<RGBColor> ParseColor(std::string_view text) {
     if (text.starts_with('#')) {
         return ParseHex(text.substr(1));
     }
-    if (PLATFORM::EqualIgnoringCase(text.substr(0, dxf.size()), dxf)) {
+    if (MARLINSUITE::EqualIgnoringCase(text.substr(0, dxf.size()), dxf)) {
         const std::optional<int> index = ParseNatural(text.substr(dxf.size()), 10, 255);
         return index ? std::optional<RGBColor>(DXFColor(*index)) : std::nullopt;
     }
     const auto* const name = std::ranges::find_if(names, [text](const auto& entry) {
-        return PLATFORM::EqualIgnoringCase(entry.first, text);
+        return MARLINSUITE::EqualIgnoringCase(entry.first, text);
     });
     if (name != names.end()) {
         return name->second;

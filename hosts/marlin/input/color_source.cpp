@@ -81,7 +81,7 @@ void ReadTable(const std::string& path, ColorTable& table) {
 bool HasExtension(const std::string& path, const char* extension) {
     const auto dot = path.rfind('.');
     return dot != std::string::npos &&
-           PLATFORM::EqualIgnoringCase(std::string_view(path).substr(dot + 1), extension);
+           MARLINSUITE::EqualIgnoringCase(std::string_view(path).substr(dot + 1), extension);
 }
 
 void ReadColors(const std::string& path, ColorTable& table) {

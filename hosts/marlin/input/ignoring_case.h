@@ -11,7 +11,7 @@ namespace HOST {
 /// The order of the names of sections and keys, which have no case.
 struct IgnoringCase {
     [[nodiscard]] bool operator()(std::string_view a, std::string_view b) const noexcept {
-        return PLATFORM::CompareIgnoringCase(a, b) < 0;
+        return MARLINSUITE::CompareIgnoringCase(a, b) < 0;
     }
 };
 

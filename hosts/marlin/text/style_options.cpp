@@ -34,7 +34,7 @@ bool ParseInRange(const std::string& text, int largest, int& code) {
 // The names are in the order of their codes.
 TextInfo::JUSTIFICATION ParseJustification(const std::string& text) {
     const auto* const name = std::ranges::find_if(justifications, [&text](std::string_view entry) {
-        return PLATFORM::EqualIgnoringCase(entry, text);
+        return MARLINSUITE::EqualIgnoringCase(entry, text);
     });
     int code = static_cast<int>(name - justifications.begin());
     if (name == justifications.end() && !ParseInRange(text, TextInfo::BASELINE_RIGHT, code)) {

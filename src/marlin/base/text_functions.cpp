@@ -11,8 +11,8 @@ namespace {
 enum class START { NO_NUMBER, POSITIVE, NEGATIVE };
 
 START StartOf(std::string_view text, bool pointMayLead) noexcept {
-    text.remove_prefix(
-        static_cast<std::size_t>(std::ranges::find_if_not(text, PLATFORM::IsBlank) - text.begin()));
+    text.remove_prefix(static_cast<std::size_t>(
+        std::ranges::find_if_not(text, MARLINSUITE::IsBlank) - text.begin()));
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+')) {
         text.remove_prefix(1);
@@ -20,7 +20,7 @@ START StartOf(std::string_view text, bool pointMayLead) noexcept {
     if (pointMayLead && text.starts_with('.')) {
         text.remove_prefix(1);
     }
-    if (text.empty() || !PLATFORM::IsDigit(text.front())) {
+    if (text.empty() || !MARLINSUITE::IsDigit(text.front())) {
         return START::NO_NUMBER;
     }
     return negative ? START::NEGATIVE : START::POSITIVE;
@@ -40,11 +40,11 @@ CString& AppendItem(CString& text, T value) {
 }  // namespace
 
 bool icompare(std::string_view a, std::string_view b) noexcept {
-    return PLATFORM::EqualIgnoringCase(a, b);
+    return MARLINSUITE::EqualIgnoringCase(a, b);
 }
 
 bool Smaller(std::string_view a, std::string_view b) noexcept {
-    return PLATFORM::CompareIgnoringCase(a, b) < 0;
+    return MARLINSUITE::CompareIgnoringCase(a, b) < 0;
 }
 
 bool Greater(std::string_view a, std::string_view b) noexcept {

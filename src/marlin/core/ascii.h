@@ -6,7 +6,7 @@
 #include <string_view>
 
 /// Characters of ASCII, alike in every locale; bytes above 127 are neither letters nor blanks.
-namespace PLATFORM {
+namespace MARLINSUITE {
 
 [[nodiscard]] constexpr bool IsDigit(char c) noexcept {
     return c >= '0' && c <= '9';
@@ -52,4 +52,4 @@ namespace PLATFORM {
     return static_cast<int>(a.size() > b.size()) - static_cast<int>(a.size() < b.size());
 }
 
-}  // namespace PLATFORM
+}  // namespace MARLINSUITE

@@ -14,9 +14,6 @@ namespace MARLINSUITE {
 
 namespace {
 
-using PLATFORM::IsBlank;
-using PLATFORM::IsDigit;
-
 const char* SkipBlanks(const char* at, const char* end) noexcept {
     while (at != end && IsBlank(*at)) {
         ++at;

@@ -6,7 +6,7 @@ namespace MARLINSUITE {
 
 int ValueOfText(std::span<const NamedValue> values, std::string_view text, int otherwise) noexcept {
     for (const NamedValue& named : values) {
-        if (PLATFORM::EqualIgnoringCase(text, named.Text)) {
+        if (EqualIgnoringCase(text, named.Text)) {
             return named.Value;
         }
     }

@@ -85,7 +85,7 @@ void TextInfo::SetFont(const std::string& font) {
 bool TextInfo::operator<(const TextInfo& other) const noexcept {
     // Styles of one font are the most frequent, and equal bytes are found much faster.
     const int order =
-        m_Font == other.m_Font ? 0 : PLATFORM::CompareIgnoringCase(m_Font, other.m_Font);
+        m_Font == other.m_Font ? 0 : MARLINSUITE::CompareIgnoringCase(m_Font, other.m_Font);
     if (order != 0) {
         return order < 0;
     }

@@ -17,7 +17,7 @@ constexpr std::size_t longestInTables = 32;
 
 // As four bytes of a signed char, also where char is unsigned, so that hashes agree everywhere.
 constexpr unsigned int FedCharacter(char c) noexcept {
-    return static_cast<unsigned int>(static_cast<signed char>(PLATFORM::ToUpper(c)));
+    return static_cast<unsigned int>(static_cast<signed char>(MARLINSUITE::ToUpper(c)));
 }
 
 // [k][c]: what the character c leaves when k characters follow it.

@@ -9,7 +9,7 @@
 
 namespace {
 
-using PLATFORM::LowerCase;
+using MARLINSUITE::LowerCase;
 
 CString TextOf(const std::string& text) {
     return CString(std::string_view(text));

@@ -45,7 +45,7 @@ HGDIOBJ OrStock(HGDIOBJ object, int index) {
 }  // namespace
 
 HDC CreateDCA(const char* driver, const char*, const char*, const void*) {
-    if (!driver || !EqualIgnoringCase(driver, "DISPLAY")) {
+    if (!driver || !MARLINSUITE::EqualIgnoringCase(driver, "DISPLAY")) {
         return nullptr;
     }
     return static_cast<HDC>(Contexts().Add({}));

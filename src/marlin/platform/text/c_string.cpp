@@ -112,23 +112,23 @@ int CString::Compare(const char* other) const noexcept {
 }
 
 int CString::CompareNoCase(const char* other) const noexcept {
-    return PLATFORM::CompareIgnoringCase(View(), ViewOf(other));
+    return MARLINSUITE::CompareIgnoringCase(View(), ViewOf(other));
 }
 
 CString& CString::MakeUpper() noexcept {
-    std::ranges::transform(m_Text, m_Text.begin(), PLATFORM::ToUpper);
+    std::ranges::transform(m_Text, m_Text.begin(), MARLINSUITE::ToUpper);
     return *this;
 }
 
 CString& CString::MakeLower() noexcept {
-    std::ranges::transform(m_Text, m_Text.begin(), PLATFORM::ToLower);
+    std::ranges::transform(m_Text, m_Text.begin(), MARLINSUITE::ToLower);
     return *this;
 }
 
 CString& CString::Trim() {
-    const auto end = std::find_if_not(m_Text.rbegin(), m_Text.rend(), PLATFORM::IsBlank).base();
+    const auto end = std::find_if_not(m_Text.rbegin(), m_Text.rend(), MARLINSUITE::IsBlank).base();
     m_Text.erase(end, m_Text.end());
-    m_Text.erase(m_Text.begin(), std::ranges::find_if_not(m_Text, PLATFORM::IsBlank));
+    m_Text.erase(m_Text.begin(), std::ranges::find_if_not(m_Text, MARLINSUITE::IsBlank));
     return *this;
 }
 

@@ -28,7 +28,7 @@ std::optional<unsigned int> NumberedGray(std::string_view name) {
 }  // namespace
 
 std::optional<unsigned int> NamedColorOf(std::string_view name) {
-    const std::string lower = PLATFORM::LowerCase(name);
+    const std::string lower = LowerCase(name);
     const bool isShade = !lower.empty() && lower.back() >= '1' && lower.back() <= '4';
     const std::string_view plain =
         std::string_view(lower).substr(0, lower.size() - (isShade ? 1 : 0));

@@ -62,7 +62,7 @@ bool FlagOf(FcPattern* pattern, const char* object) noexcept {
 bool HasFamily(FcPattern* pattern, const std::string& family) {
     std::string name;
     for (int i = 0; !(name = TextAt(pattern, FC_FAMILY, i)).empty(); ++i) {
-        if (EqualIgnoringCase(name, family)) {
+        if (MARLINSUITE::EqualIgnoringCase(name, family)) {
             return true;
         }
     }
@@ -116,7 +116,7 @@ FontSet ListLatin(FcConfig* configuration) {
 }
 
 bool ComesBefore(const InstalledFont& a, const InstalledFont& b) noexcept {
-    const int order = CompareIgnoringCase(a.Family, b.Family);
+    const int order = MARLINSUITE::CompareIgnoringCase(a.Family, b.Family);
     return order != 0
                ? order < 0
                : std::tie(a.Weight, a.Italic, a.Style) < std::tie(b.Weight, b.Italic, b.Style);
@@ -186,7 +186,7 @@ std::optional<FontMatch> FontQuery::Match(const FontWish& wish, bool& outline) {
 std::vector<InstalledFont> FontQuery::Families() {
     std::vector<InstalledFont> fonts = Styles("");
     const auto isSameFamily = [](const InstalledFont& a, const InstalledFont& b) {
-        return EqualIgnoringCase(a.Family, b.Family);
+        return MARLINSUITE::EqualIgnoringCase(a.Family, b.Family);
     };
     fonts.erase(std::unique(fonts.begin(), fonts.end(), isSameFamily), fonts.end());
     return fonts;

@@ -27,7 +27,7 @@ public:
     /// Notes the seals that the changes break.
     void Save(Output& output);
 
-    /// Whether there was no file.
+    /// True when there was no file.
     [[nodiscard]] bool IsNew() const noexcept { return m_IsNew; }
     [[nodiscard]] bool Empty() const noexcept { return m_Items.empty(); }
     /// Null for a level that has no definition.

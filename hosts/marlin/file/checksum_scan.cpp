@@ -27,7 +27,8 @@ std::string HexText(std::string_view trailer) {
     return text;
 }
 
-// The checksum stays one piece behind the reading, since the end of the file decides what counts.
+// The checksum covers all pieces but the one read last, since the end of the file decides what
+// counts.
 ChecksumScan::ChecksumScan(const Reader& read) : m_State(CRC32::Start) {
     constexpr std::size_t pieceSize = 128 * 1024;
     std::string next(pieceSize, '\0');

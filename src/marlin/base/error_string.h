@@ -43,7 +43,7 @@ public:
     /// Records a failure, with a cause, for an operation that returns nothing; a host finds it by
     /// `LastError`.
     static void RecordFailure(const std::string& cause);
-    /// Makes `LastError` a success when such an operation is one, since it tells nothing else.
+    /// Makes `LastError` a success when such an operation is one, since it reports nothing else.
     static void RecordSuccess() noexcept;
 
     friend bool operator==(const ErrorString& a, const ErrorString& b) noexcept = default;

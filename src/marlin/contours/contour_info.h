@@ -6,7 +6,7 @@
 
 class Section;
 
-/// Whether contours are drawn and how their lines are smoothed and labelled. By default drawn, with
+/// Settings of the drawing of contours, and of their smoothing and labels. By default drawn, with
 /// a label spacing of 20, no suppression, no smoothing window, one pass, and labels at the optimum
 /// angle. Nothing is checked; units and effect belong to the host's contouring.
 ///

@@ -31,11 +31,11 @@ public:
     [[nodiscard]] unsigned long GridColor() const noexcept { return m_GridColor; }
     [[nodiscard]] int LatLonStyle() const noexcept { return m_LatLonStyle; }
     [[nodiscard]] int LatLonDecimals() const noexcept { return m_LatLonDecimals; }
-    /// Whether the letter of the hemisphere is after the value, as in 54.5 N.
+    /// True when the letter of the hemisphere is after the value, as in 54.5 N.
     [[nodiscard]] bool TrailingHemisphereIndicator() const noexcept {
         return m_TrailingHemisphereIndicator;
     }
-    /// Whether labels show the symbols of degrees, minutes and seconds.
+    /// True when labels show the symbols of degrees, minutes and seconds.
     [[nodiscard]] bool DegMinSecSymbols() const noexcept { return m_DegMinSecSymbols; }
     [[nodiscard]] int GridStyle() const noexcept { return m_GridStyle; }
     [[nodiscard]] double LatInterval() const noexcept { return m_LatInterval; }

@@ -11,8 +11,8 @@
 #include <variant>
 #include <vector>
 
-/// What the settings records say about themselves: each lists its keys once, and reads, writes
-/// and describes itself by that list.
+/// Descriptions of the settings records: each lists its keys once, and reads, writes and describes
+/// itself by that list.
 namespace MARLINSUITE {
 
 /// One of the values that a key has names for.

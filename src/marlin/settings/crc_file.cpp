@@ -168,7 +168,7 @@ unsigned int CRCFile::Tell() const {
 }
 
 void CRCFile::Rewind() {
-    static_cast<void>(Seek(0, SEEK_SET));  // as `rewind`, which tells nothing either
+    static_cast<void>(Seek(0, SEEK_SET));  // as `rewind`, which reports nothing either
     if (IsOpen()) {
         std::clearerr(File());
     }

@@ -34,7 +34,7 @@ public:
     /// with "w" or "W" write; the trailer is computed from the file itself, so such a mode must
     /// also read ("w+b"). With any other mode the trailer is compared, and the position is then 0.
     ErrorString Open(const std::string& path, const char* mode);
-    /// Completes and closes an open file. `ErrorString::LastError()` tells how: it is empty
+    /// Completes and closes an open file. `ErrorString::LastError()` has the outcome: it is empty
     /// after a success and names file and reason when the closing or, since `Open`, any writing
     /// failed. No trailer follows data that is not whole. `Open`, an assignment and the destructor
     /// close in the same way; the last two leave `LastError()` alone after a success.

@@ -84,7 +84,7 @@ private:
     std::vector<std::uint32_t> m_Index;
 };
 
-// What a section's text takes, with a guess for marks and the blanks of the columns.
+// The length of a section's text, with a guess for marks and the blanks of the columns.
 std::size_t AboutSizeOf(const Section& section) {
     constexpr std::size_t marksAndBlanks = 16;
     std::size_t size = section.GetName()->size() + section.GetComments().size() + marksAndBlanks;

@@ -15,7 +15,7 @@ namespace MARLINSUITE {
 /// moves those after it. A list that was filled at once has one block of items, one that grew
 /// has few, each as large as those before it together. A value.
 ///
-/// It stands in for `std::deque`, whose blocks are half empty in a section of a few keys. A file
+/// It replaces `std::deque`, whose blocks are half empty in a section of a few keys. A file
 /// of six keys a section takes more than 6 times its size in deques, and 4 times in such lists,
 /// beside the letters of names and values; a host is to pay at most 5 times. With an allocation
 /// for each key reading it took 1.0 to 1.3 times inih's time, with such lists 0.4, at most 0.5.

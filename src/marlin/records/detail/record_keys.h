@@ -8,7 +8,7 @@
 #include <type_traits>
 #include <utility>
 
-/// What walks over the keys of a record. A record hands each of its keys with the field for it
+/// Visitors of the keys of a record. A record hands each of its keys with the field for it
 /// to one of these classes, so that reading, writing and describing follow a single list.
 ///
 /// Writing and describing walk over a copy of the record, since the list hands out fields that a

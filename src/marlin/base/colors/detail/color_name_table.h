@@ -6,7 +6,7 @@
 namespace MARLINSUITE::detail {
 
 /// A color of X11 by its name, as 0xRRGGBB, and the four shades that have the name with a digit
-/// behind it: "azure1" to "azure4". A color without shades has zeros; no last shade is black.
+/// after it: "azure1" to "azure4". A color without shades has zeros; no last shade is black.
 struct NamedColor {
     std::string_view Name;
     unsigned int Color;

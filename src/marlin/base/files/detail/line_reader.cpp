@@ -29,7 +29,7 @@ bool LineReader::NextAfterRefill(std::string_view& line) {
     return true;
 }
 
-// Moves what is left to the front of the buffer and reads more behind it.
+// Moves what is left to the front of the buffer and reads more after it.
 bool LineReader::Refill() {
     if (!m_File.IsOpen()) {
         return false;

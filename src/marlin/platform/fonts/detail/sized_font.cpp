@@ -53,7 +53,7 @@ TEXTMETRICA SizedFont::CellMetrics() const noexcept {
     TEXTMETRICA tm;
     tm.tmHeight = m_Cell;
     tm.tmAscent = Round(face.CellAscent);
-    // What is left of the cell, so that the two always add up to it.
+    // The rest of the cell, so that the two always add up to it.
     tm.tmDescent = m_Cell - tm.tmAscent;
     tm.tmInternalLeading = m_Cell - Round(face.UnitsPerEm);
     tm.tmExternalLeading = Round(face.ExternalLeading);

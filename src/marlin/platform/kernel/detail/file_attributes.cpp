@@ -15,7 +15,7 @@ namespace {
 
 constexpr unsigned int setIdBits = S_ISUID | S_ISGID;
 
-// Takes the bytes of a call that tells the size it needs and then fills a buffer of that size.
+// Takes the bytes of a call that returns the size it needs and then fills a buffer of that size.
 template <class Call>
 int Fill(std::string& bytes, const Call& call) {
     ssize_t size = 0;

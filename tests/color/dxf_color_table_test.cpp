@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/temporary_folder.h"
 #include <marlin/color/dxf_color_table.h>
 
 #include <cmath>
@@ -114,6 +115,22 @@ TEST(DXFColorTable, GoesThroughAFile) {
     EXPECT_FALSE(loaded.FileSave("/nowhere/at/all.col"));
     EXPECT_FALSE(loaded.FileOpen("/nowhere/at/all.col"));
     EXPECT_EQ(loaded.NumEntries(), 0);
+}
+
+// A table as a derived class may leave it.
+struct EndlessTable : DXFColorTable {
+    EndlessTable() {
+        m_Values.push_back(std::numeric_limits<double>::infinity());
+        m_Colors.push_back(0);
+    }
+};
+
+TEST(DXFColorTable, AValueThatIsNotFiniteIsNotSavedAndTheOldFileStays) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("a.col", "old");
+    EXPECT_FALSE(EndlessTable().FileSave(path.c_str()));
+    EXPECT_EQ(ErrorString::LastError().Cause(), path + ": a value is not finite");
+    EXPECT_EQ(TemporaryFolder::Read(path), "old");
 }
 
 }  // namespace

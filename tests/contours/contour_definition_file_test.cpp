@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "support/temporary_folder.h"
+#include <marlin/base/error_string.h>
 #include <marlin/contours/contour_definition_list.h>
 #include <marlin/core/number_text.h>
 #include <marlin/settings/section.h>
 
+#include <limits>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -228,6 +231,28 @@ TEST(ContourDefinitionFile, KeepsSixDecimalsOfALevelAndNamesUnknownLineTypesCont
     ContourDefinitionList loaded;
     ASSERT_TRUE(loaded.Load(file.Path()));
     EXPECT_EQ(TextOf(loaded), "0.123457/0/0/0/0 1000000000000000.5/0/0/0/0 ");
+}
+
+TEST(ContourDefinitionFile, WhatAFileCannotHoldIsRefusedAndTheOldFileStays) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("a.cdf", "old");
+    const auto isSaved = [&](double first, double second, float width) {
+        ContourDefinitionList list;
+        EXPECT_GE(list.Add({.LineWidth = width, .Level = first}), 0);
+        EXPECT_GE(list.Add({.Level = second}), 0);
+        return list.Save(path.c_str());
+    };
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    EXPECT_FALSE(isSaved(1.0, infinity, 0.0F));
+    EXPECT_FALSE(isSaved(1.0, 2.0, std::numeric_limits<float>::quiet_NaN()));
+    EXPECT_FALSE(isSaved(1.0, 1.0000004, 0.0F));
+    EXPECT_EQ(ErrorString::LastError().Cause(), path + ": two levels would be stored as 1.000000");
+    EXPECT_FALSE(isSaved(-1e-9, 0.0, 0.0F));
+    EXPECT_EQ(TemporaryFolder::Read(path), "old");
+    EXPECT_TRUE(isSaved(1.0, 1.0000006, 0.0F));
+    ContourDefinitionList twice;
+    EXPECT_TRUE(twice.Load(path.c_str()) && twice.Load(path.c_str()) && twice.Save(path.c_str()));
+    EXPECT_EQ(twice.NumContours(), 4);
 }
 
 }  // namespace

@@ -175,6 +175,78 @@ TEST(IniFile, SavingNothingFailsAndLeavesTheOldFile) {
     EXPECT_EQ(error.Cause(), folder.File("none/a.ini") + ": No such file or directory");
 }
 
+TEST(IniFile, RefusesWhatWouldReadBackAsOtherSectionsOrKeys) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("a.ini", "old");
+    const auto causeOf = [&](const Section& section) {
+        IniFile file;
+        file["First"]["k"] << 1;
+        file["Second"] = section;
+        return file.Save(path).Cause();
+    };
+    EXPECT_EQ(causeOf(Section("")), path + ": section \"\": no name");
+    EXPECT_EQ(causeOf(Section("a]")), path + ": section \"a]\": \"]\" in the name");
+    EXPECT_EQ(causeOf(Section("a\n")), path + ": section \"a\n\": line end in the name");
+    Section commented("S");
+    commented.SetComments("a\n[b]");
+    EXPECT_EQ(causeOf(commented), path + ": section \"S\": line end in the comment");
+    struct Case {
+        SectionKey Key;
+        const char* Reason;
+    };
+    for (const Case& c : {Case{SectionKey("k\n", 1), "line end in the name"},
+                          Case{SectionKey(" [k", 1), "\"[\" begins the name"},
+                          Case{SectionKey(";k", 1), "\";\" in the name"},
+                          Case{SectionKey("k=", 1), "\"=\" in the name"},
+                          Case{SectionKey("k", "1\n[b]"), "line end in the value"},
+                          Case{SectionKey("", "", "1\r\nb=2"), "line end in the comment"}}) {
+        Section section("S");
+        section += c.Key;
+        EXPECT_EQ(causeOf(section),
+                  path + ": section \"S\", key \"" + *c.Key.GetName() + "\": " + c.Reason);
+    }
+    EXPECT_EQ(TemporaryFolder::Read(path), "old");
+    EXPECT_EQ(causeOf(Section("[a")), "");
+}
+
+TEST(IniFile, ListsTheKeysThatLoseSomethingInASaveAndLoad) {
+    IniFile file;
+    file["Whole"] += SectionKey("a", "b = [c]", " d ; e");
+    file["Whole"] += SectionKey("", "", " f");
+    for (const SectionKey& key :
+         {SectionKey("whole", ""), SectionKey("a", "b;c"), SectionKey("a", " b"),
+          SectionKey("a", "b\t"), SectionKey(" a", "b"), SectionKey("a", "b", "c "),
+          SectionKey("", "b"), SectionKey("whole", "")}) {
+        file["Cut"] += key;
+    }
+    using Place = IniFile::KeyPlace;
+    EXPECT_EQ(file.LosingKeys(),
+              (std::vector<Place>{{1, 1}, {1, 2}, {1, 3}, {1, 4}, {1, 5}, {1, 6}}));
+}
+
+TEST(IniFile, AFileObjectFindsTheFirstOfTwoKeysOfAName) {
+    IniFile file;
+    file["A"] += SectionKey("k", 1);
+    file["A"] += SectionKey("K", 2);
+    FileObject object;
+    object.SetEntry("A", "k", "old", FileObject::APPEND);
+    EXPECT_TRUE(file.Save(object));
+    IniFile read;
+    EXPECT_TRUE(read.Open(object));
+    EXPECT_EQ(Dump(read), (Lines{"[A|]", "k|1|", "K|2|"}));
+}
+
+TEST(IniFile, OpensAndSavesByAFileName) {
+    const TemporaryFolder folder;
+    const FileName path(CString(std::string_view(folder.Write("a.ini", "[A]\n"))));
+    IniFile file;
+    EXPECT_TRUE(file.Open(path).Empty());
+    EXPECT_TRUE(file.HasSection("A"));
+    file["B"];
+    EXPECT_TRUE(file.Save(path).Empty());
+    EXPECT_EQ(IniFile(folder.File("a.ini")).NumSections(), 2);
+}
+
 TEST(IniFile, AddSectionReplacesInPlace) {
     IniFile file;
     file["A"]["old"] << 1;

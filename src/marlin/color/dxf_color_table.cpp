@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cassert>
 #include <cstddef>
+#include <string>
 
 DXFColorTable::~DXFColorTable() = default;
 
@@ -63,6 +64,9 @@ bool DXFColorTable::FileOpen(const CString& path) {
 
 bool DXFColorTable::FileSave(const CString& path) const {
     FileObject file;
-    static_cast<void>(ColorTable::FileSave(file));
+    if (!ColorTable::FileSave(file)) {
+        ErrorString::RecordFailure(std::string(path.View()) + ": a value is not finite");
+        return false;
+    }
     return file.FileSave(path);
 }

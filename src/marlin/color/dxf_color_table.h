@@ -48,8 +48,8 @@ public:
     /// Reads a color table file into the entries alone; DXF colors stay. False, and no entries,
     /// when it cannot be read or holds no valid table.
     bool FileOpen(const CString& path);
-    /// Writes the entries as a color table file; false when it cannot be written, and an old
-    /// file is then unchanged.
+    /// Writes the entries as a color table file; false when it cannot be written or a value is not
+    /// finite, with the cause in `ErrorString::LastError()`; an old file is then unchanged.
     bool FileSave(const CString& path) const;
 
     /// Values and color words of the entries alone, exactly.

@@ -59,6 +59,39 @@ int CountLevels(double first, double highest, double interval) {
     return count;
 }
 
+double AsStored(double level) {
+    std::string text;
+    MARLINSUITE::AppendFixed(text, level, 6);
+    static_cast<void>(MARLINSUITE::ParseNumber(text, level));  // it is a number
+    return level;
+}
+
+// The reason why a file cannot hold the list; empty when it can. A level that was loaded twice is
+// written twice, but two levels must not become one.
+std::string ReasonAgainstSaving(const ContourDefinitionList& contours) {
+    std::vector<double> levels;
+    levels.reserve(static_cast<std::size_t>(contours.NumContours()));
+    for (int i = 0; i < contours.NumContours(); ++i) {
+        const ContourDefInfo& contour = contours[i];
+        if (!std::isfinite(contour.Level) || !std::isfinite(contour.LineWidth)) {
+            return "a level or width is not finite";
+        }
+        levels.push_back(contour.Level);
+    }
+    std::ranges::sort(levels);
+    const auto areStoredAlike = [](double a, double b) {
+        constexpr double step = 1e-6;  // nearly all levels lie farther apart
+        return a != b && b - a < 2 * step && AsStored(a) == AsStored(b);
+    };
+    const auto found = std::ranges::adjacent_find(levels, areStoredAlike);
+    if (found == levels.end()) {
+        return {};
+    }
+    std::string reason = "two levels would be stored as ";
+    MARLINSUITE::AppendFixed(reason, *found, 6);
+    return reason;
+}
+
 }  // namespace
 
 bool ContourDefInfo::Read(const Section& section) {
@@ -234,6 +267,10 @@ bool ContourDefinitionList::Load(const char* path) {
 
 bool ContourDefinitionList::Save(const char* path) const {
     if (!path || !*path || NumContours() == 0) {
+        return false;
+    }
+    if (const std::string reason = ReasonAgainstSaving(*this); !reason.empty()) {
+        ErrorString::RecordFailure(path + (": " + reason));
         return false;
     }
     // Section by section, since a file of them in memory would look for each name in all others.

@@ -13,7 +13,7 @@ class Section;
 /// The contours to draw, one definition a level. `Add` and `Set` keep them in ascending order of
 /// level, no level twice; `Load` and `Generate` take them in the order of their source, and
 /// look-ups are right only if that was ascending. Levels are compared exactly, but files hold
-/// six decimals: levels nearer to each other than that come back as one level twice. Made empty.
+/// six decimals: levels nearer to each other than that cannot be saved. Made empty.
 /// A value.
 ///
 /// @code
@@ -100,7 +100,9 @@ public:
     /// whether the list is not empty then.
     bool Load(const char* path);
     /// Writes a contour definition file, replacing an old one whole. False, and an old file
-    /// unchanged, for an empty list or path and when the file cannot be written.
+    /// unchanged, for an empty list or path, when the file cannot be written, and for what it
+    /// cannot hold: a level or width that is not finite, and two levels that differ but are one
+    /// with six decimals. `ErrorString::LastError()` has the cause of the last three.
     bool Save(const char* path) const;
 
 private:

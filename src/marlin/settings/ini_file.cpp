@@ -3,17 +3,21 @@
 #include <marlin/base/files/file_replacement.h>
 #include <marlin/core/detail/load_order.h>
 #include <marlin/settings/detail/named_items.h>
+#include <marlin/settings/detail/save_check.h>
 #include <marlin/settings/ini_file.h>
 
 #include <algorithm>
 #include <cassert>
 #include <cstdint>
+#include <unordered_set>
 #include <vector>
 
 using MARLINSUITE::detail::FindNamed;
 using MARLINSUITE::detail::HasNamed;
+using MARLINSUITE::detail::LosesSomething;
 using MARLINSUITE::detail::NamedOr;
 using MARLINSUITE::detail::NamedOrNew;
+using MARLINSUITE::detail::ReasonAgainstSaving;
 using MARLINSUITE::detail::RemoveNamed;
 using MARLINSUITE::detail::SettingsOutcome;
 
@@ -148,6 +152,18 @@ std::string IniFile::Text() const {
     return text;
 }
 
+std::vector<IniFile::KeyPlace> IniFile::LosingKeys() const {
+    std::vector<KeyPlace> places;
+    for (int i = 0; i < NumSections(); ++i) {
+        for (int k = 0; k < (*this)[i].NumKeys(); ++k) {
+            if (LosesSomething((*this)[i][k])) {
+                places.push_back({i, k});
+            }
+        }
+    }
+    return places;
+}
+
 ErrorString IniFile::Save(const FileName& path) const {
     return Save(std::string(path.c_str()));
 }
@@ -155,6 +171,9 @@ ErrorString IniFile::Save(const FileName& path) const {
 ErrorString IniFile::Save(const std::string& path) const {
     if (Empty()) {
         return ErrorString(false);
+    }
+    if (const std::string reason = ReasonAgainstSaving(m_Sections); !reason.empty()) {
+        return ErrorString(false).SetCause(path + ": " + reason);
     }
     const ErrorString written = MARLINSUITE::ReplaceFile(path, Text());
     return written.Empty() ? written : ErrorString(false).SetCause(written.Text());
@@ -181,10 +200,13 @@ bool IniFile::Open(const FileObject& file) {
 bool IniFile::Save(FileObject& file) const {
     for (const Section& section : m_Sections) {
         const CString name{std::string_view(*section.GetName())};
+        std::unordered_set<HashedString> stored;
         for (const SectionKey& key : section.Keys()) {
             if (key.IsValid()) {
+                const bool isFirst = stored.insert(key.GetName()).second;
                 file.SetEntry(name, CString(std::string_view(*key.GetName())),
-                              CString(std::string_view(key.GetValue())), FileObject::REPLACE);
+                              CString(std::string_view(key.GetValue())),
+                              isFirst ? FileObject::REPLACE : FileObject::APPEND);
             }
         }
     }

@@ -10,6 +10,7 @@
 #include <deque>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace MARLINSUITE::detail {
 struct SettingsOutcome;
@@ -47,17 +48,29 @@ public:
     ErrorString Open(const FileName& path);
     /// The same from a text in memory.
     ErrorString OpenText(std::string_view text);
-    /// Writes all sections, replacing the file as a whole. Fails without sections and when
-    /// the file cannot be written; an old file is then unchanged, and the result's `Cause()`
-    /// names the file and the system's reason.
+    /// Writes all sections, replacing the file as a whole. Fails without sections, when the file
+    /// cannot be written, and where it would read back as other sections or keys: a section
+    /// without a name, a line feed anywhere, "]" in a section's name, a key's name that begins
+    /// with "[" or holds ";" or "=". An old file is then unchanged, and the result's `Cause()`
+    /// names the file and the system's reason, or section and key.
     ErrorString Save(const std::string& path) const;
     ErrorString Save(const FileName& path) const;
+    /// A key by its position in a section and that of the section.
+    struct KeyPlace {
+        int Section = 0;
+        int Key = 0;
+        bool operator==(const KeyPlace&) const noexcept = default;
+    };
+    /// The keys that lose something when the text is read back: a value that holds ";", blanks at
+    /// the ends of name or value or at the end of a comment, the value of a key without a name.
+    [[nodiscard]] std::vector<KeyPlace> LosingKeys() const;
     /// The text that `Save` writes.
     [[nodiscard]] std::string Text() const;
 
     /// Replaces the contents by those of a file object; true.
     bool Open(const FileObject& file);
-    /// Stores every named key into the file object, replacing values of the same key; true.
+    /// Stores every named key into the file object, replacing values of the same key; true. Of
+    /// several keys of one name the first stays the first, which look-ups find.
     bool Save(FileObject& file) const;
 
     /// The sections in their order, to walk over.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "color_source.h"
 
+#include "files.h"
 #include "output/failure.h"
 #include "settings_source.h"
 #include <marlin/base/colors/palette_import.h>
@@ -65,12 +66,14 @@ void ReadTable(const std::string& path, ColorTable& table) {
         Require(ImportPalette(path, table));
         return;
     }
+    std::string text;
+    Require(ReadText(path, text));
     SettingsSource source;
-    const ErrorString outcome = source.Open(path);
+    const ErrorString outcome = source.OpenText(path, text);
     if (HasExtension(path, "col")) {
         Require(outcome);
     } else if (!outcome.Empty() || !source.File().HasSection(sectionName)) {
-        Require(ImportPalette(path, table));
+        Require(ImportPalette(path, text, table));
         return;
     }
     TakeColorTable(source, table);

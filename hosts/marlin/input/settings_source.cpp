@@ -14,6 +14,10 @@ ErrorString SettingsSource::Open(const std::string& path) {
     if (ErrorString error = ReadText(path, text); !error.Empty()) {
         return error;
     }
+    return OpenText(path, text);
+}
+
+ErrorString SettingsSource::OpenText(const std::string& path, const std::string& text) {
     m_Path = path;
     m_Scan = SettingsScan::Of(text);
     if (!m_Scan.Fault.empty()) {

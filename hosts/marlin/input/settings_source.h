@@ -23,7 +23,9 @@ public:
     /// than `LargestTextFile` bytes, binary files and endless lines. A fault of syntax leaves
     /// the sections before it.
     [[nodiscard]] ErrorString Open(const std::string& path);
-    /// The same, with a failure for a file without sections.
+    /// The same from the text of a file.
+    [[nodiscard]] ErrorString OpenText(const std::string& path, const std::string& text);
+    /// As `Open`, with a failure for a file without sections.
     [[nodiscard]] ErrorString OpenWithSections(const std::string& path);
 
     /// Keeps other programs from changing the file from before the reading to the end of the

@@ -2,7 +2,10 @@
 #include "record.h"
 
 #include "output/printable.h"
+#include <marlin/base/files/settings_grammar.h>
 #include <marlin/color/dxf_color.h>
+#include <marlin/core/ascii.h>
+#include <marlin/core/number_text.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -50,15 +53,53 @@ std::string MeaningOf(const RecordField& field) {
     return std::visit(meaningOf, field.Value) + (isAngle ? " in degrees" : "");
 }
 
+bool IsNamed(const RecordKey& key, std::string_view text) {
+    return std::ranges::any_of(key.Values, [text](const MARLINSUITE::NamedValue& value) {
+        return PLATFORM::EqualIgnoringCase(value.Text, MARLINSUITE::TrimmedSettingsText(text));
+    });
+}
+
+// Sums of named values are written as their names with commas between them.
+bool AreNamed(const RecordKey& key, std::string_view text) {
+    for (auto comma = text.find(','); key.AreBits && comma != text.npos; comma = text.find(',')) {
+        if (!IsNamed(key, text.substr(0, comma))) {
+            return false;
+        }
+        text.remove_prefix(comma + 1);
+    }
+    return IsNamed(key, text);
+}
+
+bool IsReadable(const RecordField& field, const std::string& text) {
+    const bool hasNames = std::ranges::any_of(
+        field.Key.Values, [](const MARLINSUITE::NamedValue& value) { return *value.Text != '\0'; });
+    if (std::holds_alternative<std::string>(field.Value)) {
+        return !hasNames || AreNamed(field.Key, text);
+    }
+    double number = 0.0;
+    int whole = 0;
+    bool flag = false;
+    if (std::holds_alternative<bool>(field.Value)) {
+        return MARLINSUITE::ParseNumber(text, flag);
+    }
+    const bool isNumber = std::holds_alternative<int>(field.Value)
+                              ? MARLINSUITE::ParseNumber(text, whole)
+                              : MARLINSUITE::ParseNumber(text, number);
+    return isNumber || (hasNames && AreNamed(field.Key, text));
+}
+
 }  // namespace
 
-void Show(Record& record, const RecordField& field, const std::string& name) {
+void Show(Record& record, const RecordField& field, const SectionKey& key) {
     const auto place = static_cast<std::size_t>(field.Key.Field);
     record.Fields.resize(std::max(record.Fields.size(), place));
     ShownField& shown = record.Fields[place - 1];
     // Of several keys of the field the last one has its value, but may be missing in the section.
-    if (!name.empty()) {
-        shown.Key = name;
+    if (key.IsValid()) {
+        shown.Key = *key.GetName();
+        if (!IsReadable(field, key.GetValue())) {
+            shown.Unreadable = *key.GetName() + " = " + key.GetValue();
+        }
     }
     shown.Value = ValueText(field.Value);
     if (const auto* const color = std::get_if<RGBColor>(&field.Value)) {

@@ -3,6 +3,7 @@
 
 #include <marlin/color/rgb_color.h>
 #include <marlin/records/record_field.h>
+#include <marlin/settings/section_key.h>
 
 #include <optional>
 #include <string>
@@ -16,6 +17,7 @@ struct ShownField {
     std::string Value;
     std::optional<RGBColor> Color;  ///< In the place of the value.
     std::string Meaning;
+    std::string Unreadable;  ///< What the key has instead of a value that the record takes.
 };
 
 /// A record that a section holds.
@@ -26,8 +28,8 @@ struct Record {
     std::vector<ShownField> Fields;
 };
 
-/// Shows what a record has under one key. The name is that of the key in the section, empty when
-/// the section lacks it.
-void Show(Record& record, const MARLINSUITE::RecordField& field, const std::string& name);
+/// Shows what a record has under one key. The key is that of the section, not valid when the
+/// section lacks it.
+void Show(Record& record, const MARLINSUITE::RecordField& field, const SectionKey& key);
 
 }  // namespace HOST

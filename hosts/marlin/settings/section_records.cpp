@@ -76,7 +76,7 @@ void AddRecords(const Section& section, const std::string& prefix, std::vector<R
             IsIn(section, start, KeysOfKinds()[i], kind.NumNeeded)) {
             Record& record = records.emplace_back(Record{kind.Name, prefix, {}});
             for (const RecordField& field : kind.Read(section, prefix)) {
-                Show(record, field, section[field.Key.NameIn(start)].GetName());
+                Show(record, field, section[field.Key.NameIn(start)]);
             }
         }
     }

@@ -22,15 +22,19 @@ void AppendRecord(const Section& section, const Record& record, Output& output) 
         } else {
             table << Shown(field.Value);
         }
-        table << field.Meaning;
+        table << field.Meaning + (field.Unreadable.empty() ? "" : "; not read");
     }
     table.AppendTo(output);
 }
 
 Json JsonOf(const ShownField& field) {
-    return {{"key", AsUtf8(field.Key)},
-            {"value", field.Color ? ColorText(*field.Color) : AsUtf8(field.Value)},
-            {"meaning", field.Meaning}};
+    Json json = {{"key", AsUtf8(field.Key)},
+                 {"value", field.Color ? ColorText(*field.Color) : AsUtf8(field.Value)},
+                 {"meaning", field.Meaning}};
+    if (!field.Unreadable.empty()) {
+        json["unreadable"] = AsUtf8(field.Unreadable);
+    }
+    return json;
 }
 
 Json JsonOf(const Section& section, const Record& record) {
@@ -42,6 +46,18 @@ Json JsonOf(const Section& section, const Record& record) {
             {"record", record.Kind},
             {"name", AsUtf8(record.Name)},
             {"fields", std::move(fields)}};
+}
+
+// Returns whether the record can read all its keys.
+bool ReportUnreadable(const std::string& place, const Record& record) {
+    bool isReadable = true;
+    for (const ShownField& field : record.Fields) {
+        if (!field.Unreadable.empty()) {
+            Report(place + field.Unreadable + ": cannot be read");
+            isReadable = false;
+        }
+    }
+    return isReadable;
 }
 
 struct ShowSettings {
@@ -57,8 +73,11 @@ struct ShowSettings {
         SettingsSource source;
         Require(source.OpenWithSections(File));
         Json json = Json::array();
+        int code = DONE;
         for (const Section& section : source.File().Sections()) {
             for (const Record& record : RecordsOf(section)) {
+                const std::string place = File + ": [" + *section.GetName() + "] ";
+                code = ReportUnreadable(place, record) ? code : FOUND;
                 if (IsJson) {
                     json.push_back(JsonOf(section, record));
                 } else {
@@ -69,7 +88,7 @@ struct ShowSettings {
         if (IsJson) {
             AppendJson(json, output);
         }
-        return DONE;
+        return code;
     }
 };
 

@@ -44,7 +44,7 @@ void AddRecord(const char* kind, const SectionKey& key, const MARLINSUITE::Recor
                std::vector<Record>& records) {
     Record& record = records.emplace_back(Record{kind, key.GetName(), {}});
     for (const MARLINSUITE::RecordField& field : fields) {
-        Show(record, field, key.GetName());
+        Show(record, field, SectionKey(*key.GetName(), field.Text, ""));
     }
 }
 

@@ -87,6 +87,10 @@ ErrorString ImportPalette(const std::string& path, ColorTable& table) {
     if (!failure.Empty()) {
         return failure;
     }
+    return ImportPalette(path, text, table);
+}
+
+ErrorString ImportPalette(const std::string& path, std::string_view text, ColorTable& table) {
     MARLINSUITE::detail::PaletteReader reader;
     if (!reader.Read(text)) {
         return FailureAt(path, reader.Line(), reader.Cause());

@@ -6,6 +6,7 @@
 #include <marlin/core/export.h>
 
 #include <string>
+#include <string_view>
 
 /// Replaces a color table by a palette file (extension "cpt") of the GMT programs. A slice of
 /// one color becomes one entry at its lower bound; a slice of two becomes 8 equal steps, each
@@ -16,3 +17,6 @@
 /// message is "file:line: cause", without a line for a file that cannot be read, and the table is
 /// unchanged.
 MARLIN_API ErrorString ImportPalette(const std::string& path, ColorTable& table);
+/// The same from the text of a file; the path is for messages alone.
+MARLIN_API ErrorString ImportPalette(const std::string& path, std::string_view text,
+                                     ColorTable& table);

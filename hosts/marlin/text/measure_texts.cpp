@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "input/input.h"
 #include "measurement.h"
 #include "style_options.h"
 #include "text.h"
@@ -74,8 +73,6 @@ struct MeasureTexts {
 
 int MeasureTexts::Run(Output& output) const {
     const TextInfo style = ParsedStyle();
-    std::vector<std::string> texts;
-    std::ranges::transform(Texts, std::back_inserter(texts), TextOfArgument);
     const Measurement measurement(style);
     Table table{{"Width", Table::RIGHT},
                 {"Height", Table::RIGHT},
@@ -83,7 +80,7 @@ int MeasureTexts::Run(Output& output) const {
                 {"Line height", Table::RIGHT},
                 {"Lines"}};
     Json json = Json::array();
-    for (const std::string& text : texts) {
+    for (const std::string& text : Texts) {
         const MeasuredText measured = Measure(style, text);
         AppendRows(measured, table);
         json.push_back(JsonOf(measured));

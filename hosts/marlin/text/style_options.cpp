@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "style_options.h"
 
-#include "input/input.h"
 #include <marlin/core/ascii.h>
 #include <marlin/core/number_text.h>
 
@@ -80,7 +79,7 @@ void StyleOptions::Declare(Options& options) {
 
 void StyleOptions::ApplyTo(TextInfo& style) const {
     float size = style.Size();
-    style.SetFont(TextOfArgument(Font));  // Arial for an empty name
+    style.SetFont(Font);  // Arial for an empty name
     ParseLength("--size", Size, size);
     style.SetSize(size);
     if (!Justification.empty()) {

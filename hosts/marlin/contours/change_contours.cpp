@@ -62,7 +62,7 @@ std::vector<double> ParseLevels(const std::vector<std::string>& texts) {
 std::vector<double> ParseDifferentLevels(const std::vector<std::string>& texts) {
     std::vector<double> levels = ParseLevels(texts);
     std::ranges::sort(levels);
-    levels.erase(std::ranges::unique(levels).begin(), levels.end());
+    levels.erase(std::unique(levels.begin(), levels.end()), levels.end());
     return levels;
 }
 

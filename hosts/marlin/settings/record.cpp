@@ -55,7 +55,7 @@ std::string MeaningOf(const RecordField& field) {
 
 bool IsNamed(const RecordKey& key, std::string_view text) {
     return std::ranges::any_of(key.Values, [text](const MARLINSUITE::NamedValue& value) {
-        return PLATFORM::EqualIgnoringCase(value.Text, MARLINSUITE::TrimmedSettingsText(text));
+        return MARLINSUITE::EqualIgnoringCase(value.Text, MARLINSUITE::TrimmedSettingsText(text));
     });
 }
 

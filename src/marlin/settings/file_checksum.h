@@ -9,9 +9,10 @@
 /// 32-bit words. A host takes another later and compares, to see whether the file changed. Its
 /// value is 0 when the file cannot be opened, or is a folder, device or pipe. A value.
 /// @code
-/// MARLINSUITE::ReplaceFile("a.ini", "[Chart]\n");
+/// const ErrorString made = MARLINSUITE::ReplaceFile("a.ini", "[Chart]\n");
 /// const FileChecksum before("a.ini", FileChecksum::AllWords);
-/// MARLINSUITE::ReplaceFile("a.ini", "[Plots]\n");
+/// const ErrorString changed = MARLINSUITE::ReplaceFile("a.ini", "[Plots]\n");
+/// assert(made.Empty() && changed.Empty());
 /// assert(FileChecksum("a.ini", FileChecksum::AllWords) != before);
 /// @endcode
 class MARLIN_API FileChecksum {

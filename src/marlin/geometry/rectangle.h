@@ -72,20 +72,15 @@ CLS::CLASSIFICATION Rectangle<P>::Classify(const P& point) const noexcept {
                             origin.y <= point.y && point.y <= this->points[3].y;
         return within ? CLS::INSIDE : CLS::OUTSIDE;
     }
-    const Vector2D<double> way = point - origin;
-    const double reach = std::fabs(width) + std::fabs(height);
-    const double tolerance = Rounding(std::fabs(origin.x) + std::fabs(origin.y) + reach);
-    // No rotation brings a point nearer to the corner it turns about.
-    const double farthest = reach + 4 * tolerance;
-    if (way.x * way.x + way.y * way.y > farthest * farthest) {
-        return CLS::OUTSIDE;
-    }
     const double angle = rotation.Rad();  // sine and cosine of one value come from one call
     const double sine = std::sin(angle);
     const double cosine = std::cos(angle);
+    const Vector2D<double> way = point - origin;
     const double dx = cosine * way.x - sine * way.y;
     const double dy = sine * way.x + cosine * way.y;
     const double depth = std::min(std::min(dx, width - dx), std::min(dy, height - dy));
+    const double tolerance =
+        Rounding(std::fabs(origin.x) + std::fabs(origin.y) + std::fabs(width) + std::fabs(height));
     return depth >= -tolerance ? CLS::INSIDE : CLS::OUTSIDE;
 }
 

@@ -26,10 +26,16 @@ public:
     /// `true` is success; `false` a failure that says "Operation failed.".
     explicit ErrorString(bool success);
 
-    [[nodiscard]] const std::string& Text() const noexcept { return m_Text; }
-    [[nodiscard]] bool Empty() const noexcept { return m_Text.empty(); }
+    [[nodiscard]] const std::string& Text() const noexcept {
+        return m_Text;
+    }
+    [[nodiscard]] bool Empty() const noexcept {
+        return m_Text.empty();
+    }
 
-    [[nodiscard]] const std::string& Cause() const noexcept { return m_Cause; }
+    [[nodiscard]] const std::string& Cause() const noexcept {
+        return m_Cause;
+    }
     ErrorString& SetCause(const std::string& cause);
 
     /// Appends to the message; text appended to a success makes it a failure.

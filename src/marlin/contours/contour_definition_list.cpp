@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cassert>
 #include <cmath>
+#include <deque>
 #include <unordered_map>
 #include <utility>
 
@@ -40,6 +41,36 @@ struct FileReader {
         KeyReader reader(Source);
         reader(key, std::forward<Field>(field));
     }
+};
+
+// Finds the sections of a file by their numbers, which are asked for in ascending order. Sections
+// nearly always lie in that order, and their places then are their numbers. Names are looked up
+// by hash otherwise: comparing all of them each time would take the square of the time.
+class NumberedSections {
+public:
+    explicit NumberedSections(const std::deque<Section>& sections) : m_Sections(sections) {}
+
+    const Section* Find(int number) {
+        const auto place = static_cast<std::size_t>(number);
+        if (m_ByName.empty() && place == m_Sections.size()) {
+            return nullptr;
+        }
+        const HashedString name(ContourDefinitionList::SectionName(number));
+        if (m_ByName.empty() && m_Sections[place].GetName() == name) {
+            return &m_Sections[place];
+        }
+        if (m_ByName.empty()) {
+            for (const Section& section : m_Sections) {
+                m_ByName.emplace(section.GetName(), &section);
+            }
+        }
+        const auto found = m_ByName.find(name);
+        return found == m_ByName.end() ? nullptr : found->second;
+    }
+
+private:
+    const std::deque<Section>& m_Sections;
+    std::unordered_map<HashedString, const Section*> m_ByName;  // empty while they are in order
 };
 
 // The smallest multiple of the interval that is not below the lowest level.
@@ -247,18 +278,12 @@ bool ContourDefinitionList::Load(const char* path) {
     if (file.Empty() || error.Text().starts_with(failure)) {
         return false;
     }
-    // Look-ups in the file itself would take the square of the time for twice the sections.
-    std::unordered_map<HashedString, const Section*> sections;
-    sections.reserve(file.Sections().size());
-    for (const Section& section : file.Sections()) {
-        sections.emplace(section.GetName(), &section);
-    }
+    NumberedSections sections(file.Sections());
     ContourDefInfo definition;
     int paletteIndex = 0;
     int number = 0;
-    for (auto found = sections.find(SectionName(number)); found != sections.end();
-         found = sections.find(SectionName(++number))) {
-        definition.Read(*found->second, paletteIndex);
+    while (const Section* const section = sections.Find(number++)) {
+        definition.Read(*section, paletteIndex);
         m_Storage.push_back(definition);
     }
     NoteOrder();

@@ -3,6 +3,7 @@
 #include <marlin/base/files/file_replacement.h>
 #include <marlin/contours/contour_definition_list.h>
 #include <marlin/contours/detail/contour_keys.h>
+#include <marlin/contours/detail/numbered_sections.h>
 #include <marlin/core/detail/load_order.h>
 #include <marlin/core/number_text.h>
 #include <marlin/resources/texts.h>
@@ -11,8 +12,6 @@
 #include <algorithm>
 #include <cassert>
 #include <cmath>
-#include <deque>
-#include <unordered_map>
 #include <utility>
 
 [[gnu::init_priority(
@@ -41,36 +40,6 @@ struct FileReader {
         KeyReader reader(Source);
         reader(key, std::forward<Field>(field));
     }
-};
-
-// Finds the sections of a file by their numbers, which are asked for in ascending order. Sections
-// nearly always lie in that order, and their places then are their numbers. Names are looked up
-// by hash otherwise: comparing all of them each time would take the square of the time.
-class NumberedSections {
-public:
-    explicit NumberedSections(const std::deque<Section>& sections) : m_Sections(sections) {}
-
-    const Section* Find(int number) {
-        const auto place = static_cast<std::size_t>(number);
-        if (m_ByName.empty() && place == m_Sections.size()) {
-            return nullptr;
-        }
-        const HashedString name(ContourDefinitionList::SectionName(number));
-        if (m_ByName.empty() && m_Sections[place].GetName() == name) {
-            return &m_Sections[place];
-        }
-        if (m_ByName.empty()) {
-            for (const Section& section : m_Sections) {
-                m_ByName.emplace(section.GetName(), &section);
-            }
-        }
-        const auto found = m_ByName.find(name);
-        return found == m_ByName.end() ? nullptr : found->second;
-    }
-
-private:
-    const std::deque<Section>& m_Sections;
-    std::unordered_map<HashedString, const Section*> m_ByName;  // empty while they are in order
 };
 
 // The smallest multiple of the interval that is not below the lowest level.

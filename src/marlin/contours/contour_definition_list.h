@@ -18,8 +18,9 @@ class Section;
 ///
 /// @code
 /// ContourDefinitionList contours;
-/// assert(contours.Generate(0.0, 10.0, 2.5) && contours.NumContours() == 5);
-/// assert(contours.Add({.Level = 6.0, .Color = 0xFF0000}) == 3);
+/// const bool isValid = contours.Generate(0.0, 10.0, 2.5);
+/// const int added = contours.Add({.Level = 6.0, .Color = 0xFF0000});
+/// assert(isValid && added == 3 && contours.NumContours() == 6);
 /// assert(contours.Find(6.0) == 3 && contours.Find(6.1) == -1);
 /// @endcode
 class MARLIN_API ContourDefinitionList {

@@ -117,7 +117,8 @@ void CRCFile::Close() {
     }
 }
 
-// A copy may have closed the stream already; how is told again.
+// When a copy has closed the stream already, its result is recorded once more: the caller of this
+// object has not seen it.
 bool CRCFile::Complete() {
     if (!m_Stream) {
         return true;

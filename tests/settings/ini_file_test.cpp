@@ -229,11 +229,16 @@ TEST(IniFile, AFileObjectFindsTheFirstOfTwoKeysOfAName) {
     file["A"] += SectionKey("k", 1);
     file["A"] += SectionKey("K", 2);
     FileObject object;
-    object.SetEntry("A", "k", "old", FileObject::APPEND);
+    for (const char* const key : {"k", "other", "K"}) {
+        object.SetEntry("A", key, "old", FileObject::APPEND);
+    }
     EXPECT_TRUE(file.Save(object));
+    CString value;
+    EXPECT_TRUE(object.GetEntry("A", "other", value) && value == "old");
+    EXPECT_TRUE(object.GetEntry("A", "K", value) && value == "1");
     IniFile read;
     EXPECT_TRUE(read.Open(object));
-    EXPECT_EQ(Dump(read), (Lines{"[A|]", "k|1|", "K|2|"}));
+    EXPECT_EQ(Dump(read), (Lines{"[A|]", "other|old|", "k|1|", "K|2|"}));
 }
 
 TEST(IniFile, OpensAndSavesByAFileName) {

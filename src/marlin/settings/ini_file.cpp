@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <cassert>
 #include <cstdint>
-#include <unordered_set>
 #include <vector>
 
 using MARLINSUITE::detail::FindNamed;
@@ -200,13 +199,16 @@ bool IniFile::Open(const FileObject& file) {
 bool IniFile::Save(FileObject& file) const {
     for (const Section& section : m_Sections) {
         const CString name{std::string_view(*section.GetName())};
-        std::unordered_set<HashedString> stored;
+        std::vector<CString> names;
+        for (const SectionKey& key : section.Keys()) {
+            names.emplace_back(std::string_view(*key.GetName()));
+        }
+        // Whoever asks the object for a key finds the first: none that it held before may stay.
+        file.RemoveEntries(name, names);
         for (const SectionKey& key : section.Keys()) {
             if (key.IsValid()) {
-                const bool isFirst = stored.insert(key.GetName()).second;
                 file.SetEntry(name, CString(std::string_view(*key.GetName())),
-                              CString(std::string_view(key.GetValue())),
-                              isFirst ? FileObject::REPLACE : FileObject::APPEND);
+                              CString(std::string_view(key.GetValue())), FileObject::APPEND);
             }
         }
     }

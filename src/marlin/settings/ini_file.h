@@ -69,7 +69,7 @@ public:
 
     /// Replaces the contents by those of a file object; true.
     bool Open(const FileObject& file);
-    /// Stores every named key into the file object, replacing values of the same key; true. Of
+    /// Stores every named key into the file object in place of its entries of that name; true. Of
     /// several keys of one name the first stays the first, which look-ups find.
     bool Save(FileObject& file) const;
 

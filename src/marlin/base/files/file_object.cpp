@@ -6,6 +6,7 @@
 #include <marlin/core/ascii.h>
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace {
 
@@ -48,7 +49,7 @@ bool FileObject::SetEntry(const CString& section, const CString& key, const CStr
     if (section.IsEmpty() || key.IsEmpty()) {
         return false;
     }
-    Store(SectionOrNew(section.View()), key.View(), value.View(), mode != APPEND);
+    Store(SectionOrNew(section.View()), key.View(), value.View(), mode == REPLACE);
     return true;
 }
 
@@ -132,6 +133,25 @@ bool FileObject::GetEntry(const CString& section, const CString& key, CString& v
     }
     value = TextOf(found->Entries[entry->second].Value);
     return true;
+}
+
+void FileObject::RemoveEntries(const CString& section, const std::vector<CString>& keys) {
+    const auto found = m_SectionOfName.find(LowerCase(section.View()));
+    if (found == m_SectionOfName.end()) {
+        return;
+    }
+    std::unordered_set<std::string> removed;
+    for (const CString& key : keys) {
+        removed.insert(LowerCase(key.View()));
+    }
+    std::deque<Entry>& entries = m_Sections[found->second].Entries;
+    std::erase_if(entries,
+                  [&](const Entry& entry) { return removed.contains(LowerCase(entry.Key)); });
+    std::unordered_map<std::string, std::size_t>& firstOfKey = m_Sections[found->second].FirstOfKey;
+    firstOfKey.clear();
+    for (std::size_t position = 0; position < entries.size(); ++position) {
+        firstOfKey.try_emplace(LowerCase(entries[position].Key), position);
+    }
 }
 
 bool FileObject::RemoveSection(const CString& section) {

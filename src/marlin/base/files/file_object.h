@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 /// The position of a walk over a `FileObject`: a section, and an entry of the section being
 /// walked. One cursor serves both walks at once.
@@ -42,8 +43,9 @@ public:
 
     /// The treatment by `SetEntry` of an entry whose key the section holds already.
     enum MODE : int {
-        APPEND = 0,   ///< Stores it after the others; look-ups find the first.
-        REPLACE = 1,  ///< Gives the first such entry the new value; so does any other number.
+        REPLACE = 0,  ///< Gives the first such entry the new value.
+        APPEND = 1,   ///< Stores it after the others; look-ups find the first. So does any
+                      ///< other number.
     };
 
     /// Stores one entry, in a new section at the end when there is none of that name. False,
@@ -73,6 +75,8 @@ public:
     [[nodiscard]] bool HasSection(const CString& section) const;
     /// The value of the first entry of that key; false, and the target unchanged, for none.
     bool GetEntry(const CString& section, const CString& key, CString& value) const;
+    /// Removes every entry of these keys from a section; what it does not hold is passed over.
+    void RemoveEntries(const CString& section, const std::vector<CString>& keys);
     /// False when there is no such section.
     bool RemoveSection(const CString& section);
     void Clear();

@@ -2,11 +2,12 @@
 # SPDX-License-Identifier: MIT
 # Usage: check_exports.sh classes|needed|print LIBRARY
 #   classes  the classes, namespaces, functions and variables that the library exports are those
-#            of classes.txt beside this script
+#            of classes.txt beside this script, with the types that templates of GTL are made for
 #   needed   the library needs no toolkit and no display
 #   print    prints what classes.txt should hold
-# Only symbols that the library defines once and for all count: inline code and templates come
-# and go with the compiler's choices.
+# Besides the symbols that the library defines once and for all only the templates of GTL count,
+# which are compiled for all hosts: inline code and other templates come and go with the
+# compiler's choices.
 set -euo pipefail
 here=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")" && pwd)
 
@@ -22,13 +23,16 @@ scopes() {
             s/\(.*$/()/
             s/^.* //' |
         sed -E '/::/{ s/::[^:]*$//; }' |
-        grep -vE '^(std|__gnu_cxx|_init|_fini)(::|$)' | LC_ALL=C sort -u
+        grep -vE '^(std|__gnu_cxx|_init|_fini)(::|$)'
+    nm -D --defined-only -C "$1" |
+        sed -nE 's/^[0-9a-f]* V vtable for (GTL::.*)$/\1/p
+            s/^[0-9a-f]* W (GTL::[A-Za-z0-9]+<[^()]*>)::(operator|[^():]*\().*$/\1/p'
 }
 
 case $1 in
-print) scopes "$2" ;;
+print) scopes "$2" | LC_ALL=C sort -u ;;
 classes)
-    diff -U 0 --label "classes.txt" --label "exported" "$here/classes.txt" <(scopes "$2") ||
+    diff -U 0 --label "classes.txt" --label "exported" "$here/classes.txt" <(scopes "$2" | LC_ALL=C sort -u) ||
         {
             printf 'If the change is meant: %s print %s > tests/exports/classes.txt\n' "$0" "$2"
             exit 1

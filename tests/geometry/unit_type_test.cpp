@@ -1,27 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/geometry/unit_type.h>
 
-#include <utility>
-
 #include <gtest/gtest.h>
 
 namespace {
 
-using enum UnitType::U_TYPE;
+using Type = UnitType::U_TYPE;
 
-constexpr UnitType::U_TYPE UNITS[] = {U_MM, U_CM, U_M, U_INCHES, U_FEET};
-
-TEST(UnitType, HasANameToShow) {
-    const std::pair<int, const char*> cases[] = {
-        {U_MM, "mm"},     {U_CM, "cm"},   {U_M, "m"},     {U_INCHES, "inches"},
-        {U_FEET, "feet"}, {7, "UNKNOWN"}, {5, "UNKNOWN"}, {-1, "UNKNOWN"},
-    };
-    for (const auto& [type, name] : cases) {
-        EXPECT_EQ(UnitType(static_cast<UnitType::U_TYPE>(type)).AsString(), name) << type;
-    }
-}
-
-TEST(UnitType, ConvertsByTheFixedFactors) {
+TEST(UnitType, ConvertsByTheFixedFactorsAndHasAName) {
     const double factors[5][5] = {
         {1.0, 0.1, 0.001, 0.03937007874015748, 0.0032808398950131237},
         {10.0, 1.0, 0.01, 0.39370078740157477, 0.03280839895013123},
@@ -29,15 +15,22 @@ TEST(UnitType, ConvertsByTheFixedFactors) {
         {25.4, 2.54, 0.0254, 1.0, 0.08333333333333333},
         {304.79999999999995, 30.48, 0.3048, 12.0, 1.0},
     };
-    for (const auto from : UNITS) {
-        for (const auto to : UNITS) {
-            EXPECT_EQ(UnitType(from).Convert(to, -2.5), -2.5 * factors[from][to])
+    const char* const names[] = {"mm", "cm", "m", "inches", "feet"};
+    for (int from = UnitType::U_MM; from <= UnitType::U_FEET; ++from) {
+        UnitType unit;
+        unit.SetType(static_cast<Type>(from));
+        EXPECT_EQ(unit, static_cast<Type>(from));
+        EXPECT_EQ(unit.AsString(), names[from]);
+        for (int to = UnitType::U_MM; to <= UnitType::U_FEET; ++to) {
+            EXPECT_EQ(unit.Convert(static_cast<Type>(to), -2.5), -2.5 * factors[from][to])
                 << from << ' ' << to;
         }
     }
-    // A value in its own unit stays as it is, also in one that is not known.
-    const auto unknown = static_cast<UnitType::U_TYPE>(9);
-    EXPECT_EQ(UnitType::Convert(unknown, unknown, 0.1 + 0.2), 0.1 + 0.2);
+    for (const int unknown : {5, 7, -1}) {
+        const UnitType unit(static_cast<Type>(unknown));
+        EXPECT_EQ(unit.AsString(), "UNKNOWN") << unknown;
+        EXPECT_EQ(unit.Convert(unit.GetType(), 0.1 + 0.2), 0.1 + 0.2) << unknown;
+    }
 }
 
 }  // namespace

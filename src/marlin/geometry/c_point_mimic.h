@@ -13,18 +13,24 @@
 class MARLIN_API CPointMimic {
 public:
     constexpr CPointMimic() noexcept = default;
+    /// The point (x, y).
     constexpr CPointMimic(int x, int y) noexcept : m_X(x), m_Y(y) {}
+    /// The framework's point.
     constexpr CPointMimic(const CPoint& point) noexcept : m_X(point.x), m_Y(point.y) {}
+    /// The same integers.
     constexpr CPointMimic(const GTL::Point2D<int>& point) noexcept : m_X(point.x), m_Y(point.y) {}
+    /// Rounded.
     CPointMimic(const GTL::Point2D<float>& point) noexcept;
+    /// Rounded.
     CPointMimic(const GTL::Point2D<double>& point) noexcept;
 
-    [[nodiscard]] constexpr int X() const noexcept { return m_X; }
-    [[nodiscard]] constexpr int Y() const noexcept { return m_Y; }
+    [[nodiscard]] constexpr int X() const noexcept { return m_X; }  ///< In device units.
+    [[nodiscard]] constexpr int Y() const noexcept { return m_Y; }  ///< In device units.
 
-    constexpr void X(int x) noexcept { m_X = x; }
-    constexpr void Y(int y) noexcept { m_Y = y; }
+    constexpr void X(int x) noexcept { m_X = x; }  ///< In device units.
+    constexpr void Y(int y) noexcept { m_Y = y; }  ///< In device units.
 
+    /// The framework's point.
     constexpr operator CPoint() const noexcept { return {m_X, m_Y}; }
 
 private:

@@ -20,17 +20,22 @@
 /// @endcode
 class MARLIN_API CircIterator {
 public:
+    /// At the start of the ring.
     constexpr CircIterator(int start, int range) noexcept
         : m_Start(start), m_Range(range), m_Current(start) {
         assert(range > 0);
     }
+    /// At any position, wrapped into the ring.
     constexpr CircIterator(int start, int range, int current) noexcept
         : CircIterator(start, range) {
         m_Current = Wrap(current);
     }
 
+    /// The first position of the ring.
     [[nodiscard]] constexpr int Start() const noexcept { return m_Start; }
+    /// The number of positions, at least 1.
     [[nodiscard]] constexpr int Range() const noexcept { return m_Range; }
+    /// The position, from start to start + range - 1.
     [[nodiscard]] constexpr int operator*() const noexcept { return m_Current; }
 
     /// Moves the ring; the position stays if it lies in the new ring and is wrapped into it if not.
@@ -38,37 +43,46 @@ public:
     /// Sizes the ring; the position stays if it lies in the new ring and is wrapped into it if not.
     void SetRange(int range) noexcept;
 
+    /// Moves to the position, wrapped into the ring.
     constexpr CircIterator& operator=(int position) noexcept {
         m_Current = Wrap(position);
         return *this;
     }
+    /// So many positions forward.
     constexpr CircIterator& operator+=(int steps) noexcept {
         m_Current = Wrap(std::int64_t{m_Current} + steps);
         return *this;
     }
+    /// So many positions back.
     constexpr CircIterator& operator-=(int steps) noexcept {
         m_Current = Wrap(std::int64_t{m_Current} - steps);
         return *this;
     }
+    /// A copy so many positions forward.
     [[nodiscard]] constexpr CircIterator operator+(int steps) const noexcept {
         return CircIterator(*this) += steps;
     }
+    /// A copy so many positions back.
     [[nodiscard]] constexpr CircIterator operator-(int steps) const noexcept {
         return CircIterator(*this) -= steps;
     }
+    /// One step forward, from the last position to the start.
     constexpr CircIterator& operator++() noexcept {
         m_Current = m_Current == Last() ? m_Start : m_Current + 1;
         return *this;
     }
+    /// One step back, from the start to the last position.
     constexpr CircIterator& operator--() noexcept {
         m_Current = m_Current == m_Start ? Last() : m_Current - 1;
         return *this;
     }
+    /// One step forward; the iterator as it was.
     constexpr CircIterator operator++(int) noexcept {
         const CircIterator before = *this;
         ++*this;
         return before;
     }
+    /// One step back; the iterator as it was.
     constexpr CircIterator operator--(int) noexcept {
         const CircIterator before = *this;
         --*this;

@@ -7,7 +7,7 @@ namespace GTL::CLS {
 /// interface.
 enum CLASSIFICATION : int {
     NONE = 0,      ///< one of the two is empty
-    INSIDE = 1,    ///< wholly within, the boundary included
+    INSIDE = 1,    ///< wholly within; its boundary belongs to it
     OUTSIDE = 2,   ///< wholly outside
     OVERLAP = 10,  ///< the boxes meet, and the one given reaches beyond
 };

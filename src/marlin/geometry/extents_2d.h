@@ -26,12 +26,27 @@ constexpr void Widen(T& low, T& high, T coordinate) noexcept {
     high = std::max(high, coordinate);
 }
 
+/// Makes a box the bound of its transformed corners. All of them are transformed before the box
+/// changes, which the transformation may look at, or keep by throwing.
+template <class Box, class Corners, class T>
+void BoundTransformed(Box& box, Corners corners, const T& transformation) {
+    for (auto& corner : corners) {
+        transformation.Apply(corner);
+    }
+    box.Reset();
+    for (const auto& corner : corners) {
+        box.Update(corner);
+    }
+}
+
 }  // namespace detail
 
 /// A box along the axes that grows with the points given to it; both corners belong to it.
 ///
 /// A box is valid when max >= min on both axes, else empty. A new or reset box is empty, with
-/// min (1, 1) and max (0, 0). The stored corners can be read and set in either state.
+/// min (1, 1) and max (0, 0). The stored corners can be read and set in either state. Units are
+/// the host's. A coordinate that is not a number widens nothing; in the first point of a box, in x
+/// or y, it leaves the box empty for the next point.
 ///
 /// @code
 /// GTL::Extents2D<double> box;
@@ -43,22 +58,26 @@ constexpr void Widen(T& low, T& high, T coordinate) noexcept {
 template <RealCoordinate T>
 class MARLIN_API Extents2D {
 public:
-    Point2D<T> min{1, 1};
-    Point2D<T> max{0, 0};
+    Point2D<T> min{1, 1};  ///< The corner of the least x and y.
+    Point2D<T> max{0, 0};  ///< The corner of the greatest x and y; less than min when empty.
 
     constexpr Extents2D() noexcept = default;
 
+    /// Whether the box is not empty.
     [[nodiscard]] constexpr bool IsValid() const noexcept {
         return max.x >= min.x && max.y >= min.y;
     }
-    [[nodiscard]] constexpr T MinX() const noexcept { return min.x; }
-    [[nodiscard]] constexpr T MinY() const noexcept { return min.y; }
-    [[nodiscard]] constexpr T MaxX() const noexcept { return max.x; }
-    [[nodiscard]] constexpr T MaxY() const noexcept { return max.y; }
+    [[nodiscard]] constexpr T MinX() const noexcept { return min.x; }  ///< 1 in a new box.
+    [[nodiscard]] constexpr T MinY() const noexcept { return min.y; }  ///< 1 in a new box.
+    [[nodiscard]] constexpr T MaxX() const noexcept { return max.x; }  ///< 0 in a new box.
+    [[nodiscard]] constexpr T MaxY() const noexcept { return max.y; }  ///< 0 in a new box.
+    /// The stored corner, whether valid or not.
     [[nodiscard]] constexpr const Point2D<T>& MinPnt() const noexcept { return min; }
+    /// The stored corner, whether valid or not.
     [[nodiscard]] constexpr const Point2D<T>& MaxPnt() const noexcept { return max; }
-    /// 0 for an empty box.
+    /// The width, never negative; 0 for an empty box.
     [[nodiscard]] constexpr T ExtentX() const noexcept { return IsValid() ? max.x - min.x : T{}; }
+    /// The height, never negative; 0 for an empty box.
     [[nodiscard]] constexpr T ExtentY() const noexcept { return IsValid() ? max.y - min.y : T{}; }
     /// min + (max - min) / 2, of the stored corners whether valid or not.
     [[nodiscard]] constexpr Point2D<T> Center() const noexcept {
@@ -69,9 +88,11 @@ public:
     /// NONE when this box is empty.
     [[nodiscard]] constexpr CLS::CLASSIFICATION Classify(const Point2D<T>& point) const noexcept;
 
+    /// Empties the box.
     constexpr void Reset() noexcept { *this = Extents2D(); }
     /// Grows to include the point; an empty box becomes that point.
     constexpr void Update(const Point2D<T>& point) noexcept;
+    /// Grows to include the point of these coordinates.
     constexpr void Update(T x, T y) noexcept { Update(Point2D<T>(x, y)); }
     /// Grows to include the other box; an empty one changes nothing.
     constexpr void Update(const Extents2D& box) noexcept;
@@ -79,10 +100,12 @@ public:
     /// transformed box. An empty box stays as it is.
     void Transform(const Transformation<Point2D<T>>& transformation);
 
+    /// Grows to include the other box.
     constexpr Extents2D& operator+=(const Extents2D& box) noexcept {
         Update(box);
         return *this;
     }
+    /// The box around both, which is the other one where one is empty.
     [[nodiscard]] constexpr Extents2D operator+(const Extents2D& box) const noexcept {
         return Extents2D(*this) += box;
     }
@@ -135,14 +158,10 @@ constexpr void Extents2D<T>::Update(const Extents2D& box) noexcept {
 
 template <RealCoordinate T>
 void Extents2D<T>::Transform(const Transformation<Point2D<T>>& transformation) {
-    if (!IsValid()) {
-        return;
-    }
-    std::array<Point2D<T>, 4> corners{min, Point2D<T>{max.x, min.y}, max, Point2D<T>{min.x, max.y}};
-    Reset();
-    for (Point2D<T>& corner : corners) {
-        transformation.Apply(corner);
-        Update(corner);
+    if (IsValid()) {
+        using P = Point2D<T>;
+        const std::array<P, 4> corners{min, P{max.x, min.y}, max, P{min.x, max.y}};
+        detail::BoundTransformed(*this, corners, transformation);
     }
 }
 

@@ -17,29 +17,37 @@ namespace GTL {
 ///
 /// A box is valid when max >= min in x and in y, else empty; z takes no part in that. A new or
 /// reset box is empty, with min (1, 1, 0) and max (0, 0, 0). The stored corners can be read and
-/// set in either state.
+/// set in either state. Units are the host's.
+///
+/// The first point of an empty box sets all six coordinates. When its z is not a number, no later
+/// point mends the box: `ExtentZ` stays not a number and every point is OUTSIDE until `Reset`.
 template <RealCoordinate T>
 class MARLIN_API Extents3D {
 public:
-    Point3D<T> min{1, 1, 0};
-    Point3D<T> max{0, 0, 0};
+    Point3D<T> min{1, 1, 0};  ///< The corner of the least x, y and z.
+    Point3D<T> max{0, 0, 0};  ///< The corner of the greatest; in x or y less than min when empty.
 
     constexpr Extents3D() noexcept = default;
 
+    /// Whether the box is not empty.
     [[nodiscard]] constexpr bool IsValid() const noexcept {
         return max.x >= min.x && max.y >= min.y;
     }
-    [[nodiscard]] constexpr T MinX() const noexcept { return min.x; }
-    [[nodiscard]] constexpr T MinY() const noexcept { return min.y; }
-    [[nodiscard]] constexpr T MinZ() const noexcept { return min.z; }
-    [[nodiscard]] constexpr T MaxX() const noexcept { return max.x; }
-    [[nodiscard]] constexpr T MaxY() const noexcept { return max.y; }
-    [[nodiscard]] constexpr T MaxZ() const noexcept { return max.z; }
+    [[nodiscard]] constexpr T MinX() const noexcept { return min.x; }  ///< 1 in a new box.
+    [[nodiscard]] constexpr T MinY() const noexcept { return min.y; }  ///< 1 in a new box.
+    [[nodiscard]] constexpr T MinZ() const noexcept { return min.z; }  ///< 0 in a new box.
+    [[nodiscard]] constexpr T MaxX() const noexcept { return max.x; }  ///< 0 in a new box.
+    [[nodiscard]] constexpr T MaxY() const noexcept { return max.y; }  ///< 0 in a new box.
+    [[nodiscard]] constexpr T MaxZ() const noexcept { return max.z; }  ///< 0 in a new box.
+    /// The stored corner, whether valid or not.
     [[nodiscard]] constexpr const Point3D<T>& MinPnt() const noexcept { return min; }
+    /// The stored corner, whether valid or not.
     [[nodiscard]] constexpr const Point3D<T>& MaxPnt() const noexcept { return max; }
-    /// 0 for an empty box. `ExtentZ` is negative when a valid box has min.z above max.z.
+    /// The width, never negative; 0 for an empty box.
     [[nodiscard]] constexpr T ExtentX() const noexcept { return IsValid() ? max.x - min.x : T{}; }
+    /// The height in the plane, never negative; 0 for an empty box.
     [[nodiscard]] constexpr T ExtentY() const noexcept { return IsValid() ? max.y - min.y : T{}; }
+    /// The span of z, negative when a valid box has min.z above max.z; 0 for an empty box.
     [[nodiscard]] constexpr T ExtentZ() const noexcept { return IsValid() ? max.z - min.z : T{}; }
     /// min + (max - min) / 2, of the stored corners whether valid or not.
     [[nodiscard]] constexpr Point3D<T> Center() const noexcept {
@@ -51,9 +59,11 @@ public:
     /// NONE when this box is empty.
     [[nodiscard]] constexpr CLS::CLASSIFICATION Classify(const Point3D<T>& point) const noexcept;
 
+    /// Empties the box.
     constexpr void Reset() noexcept { *this = Extents3D(); }
     /// Grows to include the point; an empty box becomes that point.
     constexpr void Update(const Point3D<T>& point) noexcept;
+    /// Grows to include the point of these coordinates.
     constexpr void Update(T x, T y, T z) noexcept { Update(Point3D<T>(x, y, z)); }
     /// Grows to include the other box; an empty one changes nothing.
     constexpr void Update(const Extents3D& box) noexcept;
@@ -63,10 +73,12 @@ public:
 
     /// The box without z; an empty one becomes the empty box of the plane.
     constexpr operator Extents2D<T>() const noexcept { return Plane(); }
+    /// Grows to include the other box.
     constexpr Extents3D& operator+=(const Extents3D& box) noexcept {
         Update(box);
         return *this;
     }
+    /// The box around both, which is the other one where one is empty.
     [[nodiscard]] constexpr Extents3D operator+(const Extents3D& box) const noexcept {
         return Extents3D(*this) += box;
     }
@@ -134,11 +146,7 @@ void Extents3D<T>::Transform(const Transformation<Point3D<T>>& transformation) {
         corners[i] = {(i & 1U) != 0 ? max.x : min.x, (i & 2U) != 0 ? max.y : min.y,
                       (i & 4U) != 0 ? max.z : min.z};
     }
-    Reset();
-    for (Point3D<T>& corner : corners) {
-        transformation.Apply(corner);
-        Update(corner);
-    }
+    detail::BoundTransformed(*this, corners, transformation);
 }
 
 extern template class Extents3D<float>;

@@ -17,9 +17,12 @@ class MARLIN_API GeoPrimitive : public GeoPrimitiveBase<P> {
     static_assert(N > 0);
 
 public:
+    /// In index order.
     std::array<P, static_cast<std::size_t>(N)> points{};
 
+    /// The point of an index in [0, N), to be changed.
     [[nodiscard]] P& Point(int index) override { return points[Checked(index)]; }
+    /// The point of an index in [0, N).
     [[nodiscard]] const P& Point(int index) const { return points[Checked(index)]; }
     P& SetPoint(int index, const P& point) override { return points[Checked(index)] = point; }
     [[nodiscard]] int NumPoints() const override { return N; }

@@ -19,6 +19,7 @@ public:
     [[nodiscard]] virtual P& Point(int index) = 0;
     /// Copies the point into place and returns the point there.
     virtual P& SetPoint(int index, const P& point) = 0;
+    /// How many points the shape has, always the same.
     [[nodiscard]] virtual int NumPoints() const = 0;
     /// The position of the point relative to the shape.
     [[nodiscard]] virtual CLS::CLASSIFICATION Classify(const P& point) const = 0;
@@ -30,7 +31,9 @@ public:
 protected:
     GeoPrimitiveBase() = default;
     GeoPrimitiveBase(const GeoPrimitiveBase&) = default;
+    GeoPrimitiveBase(GeoPrimitiveBase&&) = default;
     GeoPrimitiveBase& operator=(const GeoPrimitiveBase&) = default;
+    GeoPrimitiveBase& operator=(GeoPrimitiveBase&&) = default;
 };
 
 template <class P>

@@ -13,8 +13,8 @@
 
 namespace GTL {
 
-/// A position in the plane. Default (0, 0); no value is checked or clamped, and keeping
-/// integer results within 32 bits is up to the caller.
+/// A position in the plane, in the host's units. Default (0, 0); no value is checked or clamped,
+/// and keeping integer results within 32 bits is up to the caller.
 ///
 /// Equality is tolerant (`MATH::Equal` on each coordinate), the order is exact: x first, then
 /// y where x is exactly equal. So two points may be equal and yet ordered; containers keyed by
@@ -29,18 +29,21 @@ namespace GTL {
 template <Coordinate T>
 class MARLIN_API Point2D {
 public:
-    T x{};
-    T y{};
+    T x{};  ///< Any value.
+    T y{};  ///< Any value.
 
     constexpr Point2D() noexcept = default;
+    /// The point (x, y).
     constexpr Point2D(T xValue, T yValue) noexcept : x(xValue), y(yValue) {}
+    /// The end of the vector from (0, 0).
     constexpr Point2D(const Vector2D<T>& vector) noexcept : x(vector.x), y(vector.y) {}
 
-    [[nodiscard]] constexpr T X() const noexcept { return x; }
-    [[nodiscard]] constexpr T Y() const noexcept { return y; }
+    [[nodiscard]] constexpr T X() const noexcept { return x; }  ///< A copy.
+    [[nodiscard]] constexpr T Y() const noexcept { return y; }  ///< A copy.
 
     /// The distance to the other point in the plane, or its square. For `int` the squares and
-    /// their sum are formed in 32 bits; for `float` the differences are single, the rest double.
+    /// their sum are formed in 32 bits, which a difference of 46,341 or more overflows; for
+    /// `float` the differences are single, the rest double.
     [[nodiscard]] double Dist2D(const Point2D& other, bool squared) const noexcept {
         using Term = std::conditional_t<std::same_as<T, int>, int, double>;
         const Term dx = static_cast<T>(other.x - x);
@@ -49,15 +52,19 @@ public:
         return squared ? sum : std::sqrt(sum);
     }
 
-    [[nodiscard]] constexpr T& X() noexcept { return x; }
-    [[nodiscard]] constexpr T& Y() noexcept { return y; }
-    constexpr void X(T value) noexcept { x = value; }
-    constexpr void Y(T value) noexcept { y = value; }
+    [[nodiscard]] constexpr T& X() noexcept { return x; }  ///< To be changed.
+    [[nodiscard]] constexpr T& Y() noexcept { return y; }  ///< To be changed.
+    constexpr void X(T value) noexcept { x = value; }      ///< Any value.
+    constexpr void Y(T value) noexcept { y = value; }      ///< Any value.
+    /// Has the transformation move this point.
     void Transform(const Transformation<Point2D>& transformation) { transformation.Apply(*this); }
 
+    /// The way from (0, 0) to this point.
     constexpr operator Vector2D<T>() const noexcept { return {x, y}; }
 
+    /// The point that the way leads to.
     constexpr Point2D operator+(const Vector2D<T>& v) const noexcept { return {x + v.x, y + v.y}; }
+    /// The point from which the way leads here.
     constexpr Point2D operator-(const Vector2D<T>& v) const noexcept { return {x - v.x, y - v.y}; }
     /// The sum of the coordinates.
     constexpr Vector2D<T> operator+(const Point2D& p) const noexcept { return {x + p.x, y + p.y}; }
@@ -70,9 +77,11 @@ public:
     constexpr Point2D& operator+=(const Vector2D<T>& v) noexcept { return *this = *this + v; }
     constexpr Point2D& operator-=(const Vector2D<T>& v) noexcept { return *this = *this - v; }
 
+    /// With the tolerance of `MATH::Equal` in x and in y.
     [[nodiscard]] bool operator==(const Point2D& other) const noexcept {
         return MATH::Equal(x, other.x) && MATH::Equal(y, other.y);
     }
+    /// Exactly by x, then by y.
     [[nodiscard]] constexpr bool operator<(const Point2D& other) const noexcept {
         return x < other.x || (x == other.x && y < other.y);
     }

@@ -11,7 +11,7 @@
 
 namespace GTL {
 
-/// A position in space. Default (0, 0, 0); no value is checked or clamped.
+/// A position in space, in the host's units. Default (0, 0, 0); no value is checked or clamped.
 ///
 /// Its base is a whole `Point2D` of its x and y: a reference to that base views and changes the
 /// same object and leaves z alone. X, Y, `Dist2D` (z takes no part) and the conversion to
@@ -22,16 +22,18 @@ class MARLIN_API Point3D : public Point2D<T> {
 public:
     using Point2D<T>::x;
     using Point2D<T>::y;
-    T z{};
+    T z{};  ///< Any value, upwards or downwards as the host has it.
 
     constexpr Point3D() noexcept = default;
+    /// The point (x, y, z).
     constexpr Point3D(T xValue, T yValue, T zValue) noexcept
         : Point2D<T>(xValue, yValue), z(zValue) {}
+    /// The point of the plane, raised to z.
     constexpr Point3D(const Point2D<T>& point, T zValue) noexcept : Point2D<T>(point), z(zValue) {}
-    /// Serves the assignment of a vector too.
+    /// The end of the vector from (0, 0, 0). Serves the assignment of a vector too.
     constexpr Point3D(const Vector3D<T>& vector) noexcept : Point3D(vector.x, vector.y, vector.z) {}
 
-    [[nodiscard]] constexpr T Z() const noexcept { return z; }
+    [[nodiscard]] constexpr T Z() const noexcept { return z; }  ///< A copy.
 
     /// The distance to the other point, or its square. For `float` the differences are single and
     /// the sum of the squares double; the root is taken in single precision.
@@ -43,15 +45,19 @@ public:
         return squared ? sum : std::sqrt(static_cast<T>(sum));
     }
 
-    [[nodiscard]] constexpr T& Z() noexcept { return z; }
-    constexpr void Z(T value) noexcept { z = value; }
+    [[nodiscard]] constexpr T& Z() noexcept { return z; }  ///< To be changed.
+    constexpr void Z(T value) noexcept { z = value; }      ///< Any value.
+    /// Has the transformation move this point.
     void Transform(const Transformation<Point3D>& transformation) { transformation.Apply(*this); }
 
+    /// The way from (0, 0, 0) to this point.
     constexpr operator Vector3D<T>() const noexcept { return {x, y, z}; }
 
+    /// The point that the way leads to.
     constexpr Point3D operator+(const Vector3D<T>& v) const noexcept {
         return {x + v.x, y + v.y, z + v.z};
     }
+    /// The point from which the way leads here.
     constexpr Point3D operator-(const Vector3D<T>& v) const noexcept {
         return {x - v.x, y - v.y, z - v.z};
     }
@@ -59,24 +65,29 @@ public:
     constexpr Vector3D<T> operator-(const Point3D& p) const noexcept {
         return {x - p.x, y - p.y, z - p.z};
     }
+    /// Each coordinate divided.
     constexpr Point3D operator/(const T& divisor) const noexcept {
         return {x / divisor, y / divisor, z / divisor};
     }
     constexpr Point3D& operator+=(const Vector3D<T>& v) noexcept { return *this = *this + v; }
     constexpr Point3D& operator-=(const Vector3D<T>& v) noexcept { return *this = *this - v; }
 
+    /// Exact, in all three coordinates.
     [[nodiscard]] constexpr bool operator==(const Point3D& other) const noexcept {
         return x == other.x && y == other.y && z == other.z;
     }
+    /// Exactly by x, then by y, then by z.
     [[nodiscard]] constexpr bool operator<(const Point3D& other) const noexcept {
         return x < other.x || (x == other.x && (y < other.y || (y == other.y && z < other.z)));
     }
     [[nodiscard]] constexpr bool operator>(const Point3D& other) const noexcept {
         return other < *this;
     }
+    /// The negation of `>`, so true where a coordinate is not a number.
     [[nodiscard]] constexpr bool operator<=(const Point3D& other) const noexcept {
         return !(*this > other);
     }
+    /// The negation of `<`, so true where a coordinate is not a number.
     [[nodiscard]] constexpr bool operator>=(const Point3D& other) const noexcept {
         return !(*this < other);
     }

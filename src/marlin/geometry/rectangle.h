@@ -19,7 +19,11 @@ namespace GTL {
 ///
 /// Corner 0 is the origin corner, 1 lies `width` along the rectangle's own x axis, 3 lies `height`
 /// along its own y axis, 2 opposite. Set corner 0, the size, the rotation and the anchor, then
-/// call `UpdateCorners`. Several threads may classify against one rectangle at a time.
+/// call `UpdateCorners`. Lengths are in the host's units. Several threads may classify against one
+/// rectangle at a time.
+///
+/// `Transform` moves the corners alone and leaves rotation, width and height as they are, which
+/// `Classify` and `UpdateCorners` go by: after a turn or a change of scale set them as well.
 ///
 /// @code
 /// GTL::Rectangle<GTL::Point2D<double>> label;
@@ -34,10 +38,10 @@ namespace GTL {
 template <PlanePoint P>
 class MARLIN_API Rectangle : public GeoPrimitive<P, 4> {
 public:
-    Angle rotation;     ///< clockwise when y points up
-    double width = 0;   ///< along its own x axis
-    double height = 0;  ///< along its own y axis
-    int anchor = 0;  ///< the point that the rotation leaves in place: a corner, or 8 for the centre
+    Angle rotation;     ///< In degrees, clockwise when y points up.
+    double width = 0;   ///< Along its own x axis; a negative one holds no point.
+    double height = 0;  ///< Along its own y axis; a negative one holds no point.
+    int anchor = 0;     ///< What the rotation leaves in place: corner 0 to 3, or 8 for the centre.
 
     /// INSIDE, the boundary included, or OUTSIDE. Without rotation the corners decide exactly.
     /// Otherwise corner 0, the rotation and the size do, and a point that leaves a side by no

@@ -26,7 +26,9 @@ namespace GTL {
 template <PlanePoint P>
 class MARLIN_API Transformation2D final : public Transformation<P> {
 public:
+    /// x' = m00 x + m01 y + m02, y' = m10 x + m11 y + m12.
     void Apply(P& point) const noexcept override { Apply(std::span<P, 1>(&point, 1)); }
+    /// Moves each of the points.
     void Apply(std::span<P> points) const noexcept {
         // Copies, of which no point can be a part, stay in registers.
         const double xx = m_Matrix[0][0];
@@ -40,11 +42,13 @@ public:
         }
     }
 
+    /// By a distance along each axis, after all that was composed before.
     void Translate(double dx, double dy) noexcept {
         m_Matrix[0][2] += dx;
         m_Matrix[1][2] += dy;
     }
-    /// About the origin, clockwise when y points up: 90 degrees turn (1, 0) to (0, -1).
+    /// About the origin, clockwise when y points up: 90 degrees turn (1, 0) to (0, -1). After all
+    /// that was composed before.
     void Rotate(const Angle& angle) noexcept;
 
 private:

@@ -15,10 +15,11 @@ namespace GTL {
 template <Coordinate T>
 class MARLIN_API Vector2D {
 public:
-    T x{};
-    T y{};
+    T x{};  ///< Any value, in the unit of the points.
+    T y{};  ///< Any value, in the unit of the points.
 
     constexpr Vector2D() noexcept = default;
+    /// The displacement (x, y).
     constexpr Vector2D(T xValue, T yValue) noexcept : x(xValue), y(yValue) {}
 };
 

@@ -10,11 +10,12 @@ namespace GTL {
 template <RealCoordinate T>
 class MARLIN_API Vector3D {
 public:
-    T x{};
-    T y{};
-    T z{};
+    T x{};  ///< Any value, in the unit of the points.
+    T y{};  ///< Any value, in the unit of the points.
+    T z{};  ///< Any value, in the unit of the points.
 
     constexpr Vector3D() noexcept = default;
+    /// The displacement (x, y, z).
     constexpr Vector3D(T xValue, T yValue, T zValue) noexcept : x(xValue), y(yValue), z(zValue) {}
 };
 

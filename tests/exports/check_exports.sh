@@ -13,7 +13,7 @@ here=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")" && pwd)
 
 # The scope of a demangled name: "GTL::Extents2D", "MARLINSUITE", or the name itself where it is
 # global, with "()" after a function.
-scopes() {
+all_scopes() {
     nm -D --defined-only -C "$1" | sed -nE 's/^[0-9a-f]* [TDBR] //p' |
         sed -E 's/^(vtable|typeinfo( name)?|VTT|guard variable) for (.*)$/\3::/
             s/^(non-)?virtual thunk to (.*)$/\2::/
@@ -26,13 +26,15 @@ scopes() {
         grep -vE '^(std|__gnu_cxx|_init|_fini)(::|$)'
     nm -D --defined-only -C "$1" |
         sed -nE 's/^[0-9a-f]* V vtable for (GTL::.*)$/\1/p
-            s/^[0-9a-f]* W (GTL::[A-Za-z0-9]+<[^()]*>)::(operator|[^():]*\().*$/\1/p'
+            s/^[0-9a-f]* W (GTL::[A-Za-z0-9]+<[^()]*>)::(op|[^():]*\().*$/\1/p'
 }
 
+scopes() { all_scopes "$1" | LC_ALL=C sort -u; }
+
 case $1 in
-print) scopes "$2" | LC_ALL=C sort -u ;;
+print) scopes "$2" ;;
 classes)
-    diff -U 0 --label "classes.txt" --label "exported" "$here/classes.txt" <(scopes "$2" | LC_ALL=C sort -u) ||
+    diff -U 0 --label "classes.txt" --label "exported" "$here/classes.txt" <(scopes "$2") ||
         {
             printf 'If the change is meant: %s print %s > tests/exports/classes.txt\n' "$0" "$2"
             exit 1

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/gdi/gdi_selector.h>
 #include <marlin/platform/drawing/c_brush.h>
-#include <marlin/platform/drawing/c_dc.h>
-#include <marlin/platform/drawing/gdi_objects.h>
+#include <marlin/platform/drawing/c_client_dc.h>
+#include <marlin/platform/drawing/c_font.h>
 
 #include <gtest/gtest.h>
 
@@ -10,31 +10,34 @@ namespace {
 
 class GDISelectorOnDisplay : public testing::Test {
 protected:
-    GDISelectorOnDisplay() { m_DC.CreateDCA("DISPLAY", nullptr, nullptr, nullptr); }
-    [[nodiscard]] HGDIOBJ Brush() const { return GetCurrentObject(m_DC, OBJ_BRUSH); }
+    // The selected brush, which is taken out to look at it and put back.
+    HGDIOBJ Brush() {
+        CGdiObject* const selected = m_DC.SelectStockObject(WHITE_BRUSH);
+        m_DC.SelectObject(selected);
+        return selected->m_hObject;
+    }
 
     CBrush m_Red{0x0000FF};
-    CDC m_DC;
+    CClientDC m_DC{nullptr};
 };
 
 TEST_F(GDISelectorOnDisplay, PutsTheObjectBeforeBack) {
-    const HBRUSH raw = CreateSolidBrush(0x00FF00);
+    const CBrush green(0x00FF00);
     {
         const GDISelector outer(&m_DC, m_Red);
         EXPECT_TRUE(!outer);
         {
-            const GDISelector inner(&m_DC, raw);
-            EXPECT_EQ(Brush(), raw);
+            const GDISelector inner(&m_DC, green.m_hObject);
+            EXPECT_EQ(Brush(), green.m_hObject);
             EXPECT_TRUE(!inner);
         }
         EXPECT_EQ(Brush(), m_Red.m_hObject);
     }
     EXPECT_EQ(Brush(), GetStockObject(WHITE_BRUSH));
-    EXPECT_NE(DeleteObject(raw), 0);
 }
 
 TEST_F(GDISelectorOnDisplay, SelectsNothingWithoutObjectOrContextAndLeavesStockObjects) {
-    CBrush none;
+    CFont none;
     EXPECT_FALSE(!GDISelector(&m_DC, none));
     EXPECT_FALSE(!GDISelector(&m_DC, nullptr));
     EXPECT_FALSE(!GDISelector(&m_DC, static_cast<void*>(&none)));

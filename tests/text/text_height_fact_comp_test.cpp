@@ -21,7 +21,7 @@ public:
     NoFonts() { FontCatalog::SetFolders({"/nonexistent"}); }
     NoFonts(const NoFonts&) = delete;
     NoFonts& operator=(const NoFonts&) = delete;
-    ~NoFonts() { FontCatalog::UseSystemFonts(); }
+    ~NoFonts() { FontCatalog::SetFolders({}); }
 };
 
 float Factor(const TextInfo& ti) {

@@ -15,9 +15,11 @@ class CGdiObject;
 /// CClientDC dc(nullptr);
 /// {
 ///     const GDISelector selected(&dc, red);
-///     assert(GetCurrentObject(dc, OBJ_BRUSH) == red.m_hObject);
+///     CGdiObject* const before = dc.SelectStockObject(BLACK_BRUSH);
+///     assert(before->m_hObject == red.m_hObject);
 /// }
-/// assert(GetCurrentObject(dc, OBJ_BRUSH) == GetStockObject(WHITE_BRUSH));
+/// CGdiObject* const before = dc.SelectStockObject(BLACK_BRUSH);
+/// assert(before->m_hObject == GetStockObject(WHITE_BRUSH));
 /// @endcode
 class MARLIN_API GDISelector {
 public:

@@ -1,28 +1,52 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/drawing/c_bitmap.h>
-#include <marlin/platform/drawing/c_dc.h>
+#include <marlin/platform/drawing/detail/drawing_objects.h>
 
 #include <algorithm>
-#include <limits>
+#include <cstring>
+#include <new>
 
-CBitmap* CBitmap::FromHandle(HBITMAP handle) noexcept {
-    return dynamic_cast<CBitmap*>(CGdiObject::FromHandle(handle));
-}
+using namespace PLATFORM::detail;
 
-CBitmap::operator HBITMAP() const noexcept {
-    return static_cast<HBITMAP>(m_hObject);
-}
+namespace {
+
+constexpr int MaxSide = 32767;
+constexpr int MaxPixels = 1 << 26;  // 256 MiB
+
+}  // namespace
 
 bool CBitmap::CreateCompatibleBitmap(CDC* dc, int width, int height) {
-    return dc && Attach(::CreateCompatibleBitmap(dc->m_hDC, width, height));
+    // Two sides within the limit multiply without overflow.
+    const bool sized = width > 0 && width <= MaxSide && height > 0 && height <= MaxSide &&
+                       width * height <= MaxPixels;
+    if (!sized || !dc || !Contexts().Find(dc->m_hDC)) {
+        return false;
+    }
+    BitmapRecord bitmap{width, height, {}};
+    try {
+        bitmap.Pixels.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    return Own(Objects().Add(std::move(bitmap)));
 }
 
 int CBitmap::GetBitmap(BITMAP* bitmap) const noexcept {
-    return ::GetObjectA(m_hObject, sizeof(BITMAP), bitmap);
+    const auto* const found = FindObject<BitmapRecord>(m_hObject);
+    if (!found || !bitmap) {
+        return 0;
+    }
+    *bitmap = {0, found->Width, found->Height, found->Width * 4};
+    return sizeof *bitmap;
 }
 
 unsigned long CBitmap::GetBitmapBits(unsigned long count, void* bits) const noexcept {
-    constexpr auto most = static_cast<unsigned long>(std::numeric_limits<int>::max());
-    const int copied = ::GetBitmapBits(*this, static_cast<int>(std::min(count, most)), bits);
-    return static_cast<unsigned long>(copied);
+    const auto* const found = FindObject<BitmapRecord>(m_hObject);
+    if (!found || !bits) {
+        return 0;
+    }
+    const std::size_t copied =
+        std::min<std::size_t>(count, found->Pixels.size() * sizeof(std::uint32_t));
+    std::memcpy(bits, found->Pixels.data(), copied);
+    return copied;
 }

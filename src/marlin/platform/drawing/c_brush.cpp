@@ -1,15 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/drawing/c_brush.h>
-#include <marlin/platform/drawing/gdi_objects.h>
+#include <marlin/platform/drawing/detail/drawing_objects.h>
 
-CBrush* CBrush::FromHandle(HBRUSH handle) noexcept {
-    return dynamic_cast<CBrush*>(CGdiObject::FromHandle(handle));
-}
-
-CBrush::operator HBRUSH() const noexcept {
-    return static_cast<HBRUSH>(m_hObject);
-}
-
-bool CBrush::CreateSolidBrush(COLORREF color) {
-    return Attach(::CreateSolidBrush(color));
+CBrush::CBrush(COLORREF color) {
+    using namespace PLATFORM::detail;
+    Own(Objects().Add(BrushRecord{color & EveryColorBit}));
 }

@@ -4,8 +4,8 @@
 #include <marlin/core/export.h>
 #include <marlin/platform/drawing/handles.h>
 
-/// Wraps a drawing object by its handle and owns it: destruction deletes the object, unless it
-/// was detached. Made empty. A wrapper from `FromHandle` owns nothing.
+/// Wraps a font, brush or bitmap by its handle and owns it: destruction deletes the object. Made
+/// empty. A wrapper from `FromHandle` owns nothing.
 class MARLIN_API CGdiObject {
 public:
     HGDIOBJ m_hObject = nullptr;
@@ -15,19 +15,18 @@ public:
     CGdiObject& operator=(const CGdiObject&) = delete;
     virtual ~CGdiObject();
 
-    /// The wrapper that the handle is attached to, or else one that lives as long as the object;
-    /// null when the handle is not that of an object.
+    /// A wrapper that lives as long as the object; null when the handle is not that of an object.
     [[nodiscard]] static CGdiObject* FromHandle(HGDIOBJ handle) noexcept;
+    [[nodiscard]] operator HGDIOBJ() const noexcept { return m_hObject; }
 
-    [[nodiscard]] HGDIOBJ GetSafeHandle() const noexcept;
-    [[nodiscard]] operator HGDIOBJ() const noexcept { return GetSafeHandle(); }
-
-    /// Takes over the object of a handle. False, and the wrapper unchanged, when there is none.
-    bool Attach(HGDIOBJ handle) noexcept;
-    /// Gives the object up without deleting it.
-    HGDIOBJ Detach() noexcept;
-    /// Deletes the object. False when there is none, or a bitmap that a context holds.
+    /// Deletes the object; a context that has it selected then has none of the kind. False when
+    /// there is no object and for one in stock, which stays.
     bool DeleteObject() noexcept;
-    /// Takes a stock object, which is not deleted with the wrapper. False for an unknown number.
-    bool CreateStockObject(int index) noexcept;
+
+protected:
+    /// Owns a new object, which takes the place of none. False for null.
+    bool Own(HGDIOBJ object) noexcept;
 };
+
+/// A brush or font of the platform, the same one at each call; null for an unknown number.
+[[nodiscard]] MARLIN_API HGDIOBJ GetStockObject(int index);

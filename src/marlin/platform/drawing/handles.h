@@ -11,6 +11,3 @@ using COLORREF = unsigned long;
 
 using HDC = struct HDC__*;
 using HGDIOBJ = void*;
-using HFONT = struct HFONT__*;
-using HBRUSH = struct HBRUSH__*;
-using HBITMAP = struct HBITMAP__*;

@@ -22,10 +22,6 @@ public:
 
     [[nodiscard]] constexpr int Width() const noexcept { return right - left; }
     [[nodiscard]] constexpr int Height() const noexcept { return bottom - top; }
-    [[nodiscard]] constexpr CSize Size() const noexcept { return {Width(), Height()}; }
-    [[nodiscard]] constexpr CPoint TopLeft() const noexcept { return {left, top}; }
-    [[nodiscard]] constexpr CPoint BottomRight() const noexcept { return {right, bottom}; }
-
     [[nodiscard]] constexpr operator const RECT*() const noexcept { return this; }
 
     [[nodiscard]] constexpr bool operator==(const CRect& other) const noexcept {

@@ -28,8 +28,4 @@ void FontCatalog::SetFolders(const std::vector<std::string>& folders) {
     FontStore::SetFolders(folders);
 }
 
-void FontCatalog::UseSystemFonts() {
-    FontStore::UseSystemFonts();
-}
-
 }  // namespace PLATFORM

@@ -41,15 +41,14 @@ class MARLIN_API FontCatalog {
 public:
     /// The families with Latin letters, sorted without regard to case; UTF-8.
     [[nodiscard]] static std::vector<std::string> Families();
-    /// Finds the face for a font of this name , weight (400 normal, 700 bold) and
+    /// Finds the face for a font of this name, weight (400 normal, 700 bold) and
     /// slant. Returns false, and leaves the target as it was, when there is none.
     [[nodiscard]] static bool Find(const char* faceName, int weight, bool italic, FontMatch& match);
     [[nodiscard]] static FontCosts Costs() noexcept;
 
-    /// Takes fonts from the files in these folders alone, or from the system again. Fonts made
+    /// Takes fonts from the files in these folders alone, or from the system for none. Fonts made
     /// before keep their faces. No other thread may use fonts during the call.
     static void SetFolders(const std::vector<std::string>& folders);
-    static void UseSystemFonts();
 };
 
 }  // namespace PLATFORM

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+// The records in which programs ask for fonts (`EnumFontFamiliesExA`) and get their measures
+// (`CDC::GetOutlineTextMetricsA`, `TextHeightFactComp::GetMetrics`).
+
 #include <marlin/platform/drawing/point.h>
 #include <marlin/platform/drawing/rect.h>
 
 inline constexpr int LF_FACESIZE = 32;
 
-/// A font as it is asked for; `CreateFontA` explains the fields. The face name ends with a null
-/// character, so it has at most 31 others.
+/// A font as it is asked for; `CFont::CreateFontA` explains the fields. The face name ends with a
+/// null character, so it has at most 31 others.
 struct LOGFONTA {
     int lfHeight = 0;
     int lfWidth = 0;
@@ -56,9 +59,8 @@ struct PANOSE {
     unsigned char bNumbers[10] = {};
 };
 
-/// The measures of an outline font, in logical units unless said otherwise. The last four are the
-/// offsets of texts in the buffer that starts with this structure; 0 when the buffer has no room
-/// for the texts.
+/// The measures of an outline font, in logical units unless said otherwise. The last four, the
+/// offsets of names, are 0.
 struct OUTLINETEXTMETRICA {
     unsigned int otmSize = 0;
     TEXTMETRICA otmTextMetrics;

@@ -10,25 +10,8 @@
 #include <QFontInfo>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
-#include <algorithm>
 
 namespace PLATFORM::detail {
-
-namespace {
-
-// The dialog's font for drawing in pixels of the screen, of which a dense one has several for each
-// pixel of Qt.
-LOGFONTA LogFontOf(const QWidget& widget) {
-    const QFontInfo shown(widget.font());
-    LOGFONTA font;
-    font.lfHeight = -qRound(shown.pixelSize() * widget.devicePixelRatioF());
-    font.lfWeight = shown.weight();
-    const QByteArray face = shown.family().toLatin1().left(LF_FACESIZE - 1);
-    std::ranges::copy(face, font.lfFaceName);
-    return font;
-}
-
-}  // namespace
 
 void OwnerButton::DrawAgain() {
     const QSize pixels = size() * devicePixelRatioF();
@@ -38,11 +21,15 @@ void OwnerButton::DrawAgain() {
         !surface.CreateCompatibleBitmap(&dc, pixels.width(), pixels.height())) {
         return;
     }
+    // The dialog's font, in pixels of the screen, of which a dense one has several for each pixel
+    // of Qt.
+    const QFontInfo shown(this->font());
     CFont font;
-    const LOGFONTA wanted = LogFontOf(*this);
-    font.CreateFontIndirectA(&wanted);
-    CBitmap* const surfaceBefore = dc.SelectObject(&surface);
-    CFont* const fontBefore = dc.SelectObject(&font);
+    font.CreateFontA(-qRound(shown.pixelSize() * devicePixelRatioF()), 0, 0, 0, shown.weight(), 0,
+                     0, 0, ANSI_CHARSET, OUT_TT_ONLY_PRECIS, CLIP_LH_ANGLES, PROOF_QUALITY,
+                     DEFAULT_PITCH, shown.family().toUtf8());
+    CGdiObject* const surfaceBefore = dc.SelectObject(&surface);
+    CGdiObject* const fontBefore = dc.SelectObject(&font);
     SendDraw(m_Handle, ODA_DRAWENTIRE, dc, {0, 0, pixels.width(), pixels.height()});
     // The pixels of a surface are in the order of the image's.
     m_Face = QImage(pixels, QImage::Format_RGB32);

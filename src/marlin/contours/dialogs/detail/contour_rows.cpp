@@ -37,7 +37,7 @@ void FillSwatches(const ContourDefinitionList& definitions, CImageList& swatches
     swatches.Create(swatchSize, swatchSize, ILC_COLOR32 | ILC_MASK, definitions.NumContours(), 1);
     dc.CreateCompatibleDC(nullptr);
     surface.CreateCompatibleBitmap(&dc, swatchSize, swatchSize);
-    CBitmap* const before = dc.SelectObject(&surface);
+    CGdiObject* const before = dc.SelectObject(&surface);
     const RECT swatch = {0, 0, swatchSize, swatchSize};
     for (int index = 0; index < definitions.NumContours(); ++index) {
         CBrush brush(definitions[index].Color);

@@ -2,46 +2,25 @@
 #include <marlin/platform/drawing/detail/drawing_objects.h>
 
 #include <memory>
-#include <utility>
 
 namespace PLATFORM::detail {
 
-namespace {
-
-template <typename Table>
-Table& TheTable() {
-    static Table& table = *std::make_unique<Table>().release();
+ContextTable& Contexts() {
+    static ContextTable& table = *std::make_unique<ContextTable>().release();
     return table;
 }
 
-}  // namespace
-
-ContextTable& Contexts() {
-    return TheTable<ContextTable>();
-}
-
-FontTable& Fonts() {
-    return TheTable<FontTable>();
-}
-
-BrushTable& Brushes() {
-    return TheTable<BrushTable>();
-}
-
-BitmapTable& Bitmaps() {
-    return TheTable<BitmapTable>();
+ObjectTable& Objects() {
+    static ObjectTable& table = *std::make_unique<ObjectTable>().release();
+    return table;
 }
 
 BitmapRecord* SurfaceOf(const ContextRecord& context) noexcept {
-    return Bitmaps().Find(context.Bitmap);
+    return FindObject<BitmapRecord>(context.Selected[BitmapKind]);
 }
 
 HGDIOBJ EmptyBitmap() {
-    static void* const empty = [] {
-        BitmapRecord bitmap;
-        bitmap.Stock = true;
-        return Bitmaps().Add(std::move(bitmap));
-    }();
+    static const HGDIOBJ empty = Objects().Add(BitmapRecord());
     return empty;
 }
 

@@ -1,36 +1,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <marlin/platform/drawing/c_bitmap.h>
-#include <marlin/platform/drawing/c_brush.h>
-#include <marlin/platform/drawing/c_dc.h>
-#include <marlin/platform/drawing/c_font.h>
 #include <marlin/platform/drawing/detail/handle_table.h>
 #include <marlin/platform/drawing/detail/mapping.h>
 
+#include <array>
 #include <cstdint>
+#include <variant>
 #include <vector>
 
 namespace PLATFORM::detail {
 
 class FontFace;
 
+/// The bits of a color word that mean something.
+inline constexpr COLORREF EveryColorBit = 0xFFFFFF;
+
 struct FontRecord {
     int Height = 0;
-    int Escapement = 0;
-    /// Null when the font cannot be measured.
+    /// Null when the font cannot be measured, and for one in stock, whose face is found when it is
+    /// needed.
     const FontFace* Face = nullptr;
     bool Underline = false;
     bool StrikeOut = false;
     bool Stock = false;
-    /// A stock font has this in place of its face, which is found when it is needed.
-    const char* StockFace = nullptr;
 };
 
 struct BrushRecord {
     COLORREF Color = 0;
-    bool Hollow = false;
-    bool Stock = false;
 };
 
 struct BitmapRecord {
@@ -38,34 +35,35 @@ struct BitmapRecord {
     int Height = 0;
     /// Rows from the top; blue in the low byte, then green and red.
     std::vector<std::uint32_t> Pixels;
-    /// The context that holds it; none holds a stock bitmap for itself.
-    HDC Holder = nullptr;
-    bool Stock = false;
 };
+
+using ObjectRecord = std::variant<FontRecord, BrushRecord, BitmapRecord>;
+inline constexpr std::size_t FontKind = 0;
+inline constexpr std::size_t BitmapKind = 2;
 
 struct ContextRecord {
     Mapping Map;
-    HGDIOBJ Font = nullptr;
-    HGDIOBJ Brush = nullptr;
-    HGDIOBJ Bitmap = nullptr;
+    /// The object of each kind; no bitmap for a context of the display.
+    std::array<HGDIOBJ, std::variant_size_v<ObjectRecord>> Selected = {
+        GetStockObject(SYSTEM_FONT), GetStockObject(WHITE_BRUSH), nullptr};
     COLORREF TextColor = 0;
     COLORREF BackColor = 0xFFFFFF;
-    int BackMode = OPAQUE;
     unsigned int Alignment = 0;
-    bool Memory = false;
 };
 
-using ContextTable = HandleTable<ContextRecord, CDC, CDC, OBJECT_KIND::CONTEXT>;
-using FontTable = HandleTable<FontRecord, CFont, CGdiObject, OBJECT_KIND::FONT>;
-using BrushTable = HandleTable<BrushRecord, CBrush, CGdiObject, OBJECT_KIND::BRUSH>;
-using BitmapTable = HandleTable<BitmapRecord, CBitmap, CGdiObject, OBJECT_KIND::BITMAP>;
+using ContextTable = HandleTable<ContextRecord, CDC, 1>;
+using ObjectTable = HandleTable<ObjectRecord, CGdiObject, 2>;
 
 /// The tables of the process. Made when first asked for and never destroyed, because objects that
 /// draw may be made earlier and destroyed later than any of the library's.
 [[nodiscard]] ContextTable& Contexts();
-[[nodiscard]] FontTable& Fonts();
-[[nodiscard]] BrushTable& Brushes();
-[[nodiscard]] BitmapTable& Bitmaps();
+[[nodiscard]] ObjectTable& Objects();
+
+/// Null when the handle is not that of an object of this kind.
+template <typename Kind>
+[[nodiscard]] Kind* FindObject(HGDIOBJ handle) noexcept {
+    return std::get_if<Kind>(Objects().Find(handle));
+}
 
 /// The bitmap that a context paints on; null for the display and for a context without one.
 [[nodiscard]] BitmapRecord* SurfaceOf(const ContextRecord& context) noexcept;

@@ -13,8 +13,6 @@
 
 namespace PLATFORM::detail {
 
-enum class OBJECT_KIND : unsigned char { CONTEXT = 1, FONT, BRUSH, BITMAP };
-
 inline void SetHandle(CDC& wrapper, void* handle) noexcept {
     wrapper.m_hDC = wrapper.m_hAttribDC = static_cast<HDC>(handle);
 }
@@ -22,55 +20,30 @@ inline void SetHandle(CGdiObject& wrapper, void* handle) noexcept {
     wrapper.m_hObject = handle;
 }
 
-/// The objects of one kind, found by their handles. A handle holds the object's slot (bits 0 to
-/// 15), its kind (16 to 23) and how often the slot was used before it (24 to 55), so one of a
-/// deleted object matches nothing. Up to 65,536 objects exist at a time. Slots are used again and
-/// never given up, so a pointer to a deleted object or to its wrapper is stale but harmless.
+/// Records found by their handles. A handle holds the record's slot (bits 0 to 15), the number of
+/// the table (16 to 23) and how often the slot was used before it (24 to 55), so one of a deleted
+/// record matches nothing. Up to 65,536 records exist at a time. Slots are used again and never
+/// given up, so a pointer to a deleted record or to its wrapper is stale but harmless.
 ///
-/// Each slot carries the wrapper that a caller has attached to the object, and one of its own
-/// that takes its place until then.
-///
-/// Tables may be used from any thread, an object from one at a time.
-template <typename Record, typename Wrapper, typename AttachedWrapper, OBJECT_KIND Kind>
+/// Tables may be used from any thread, a record from one at a time.
+template <typename Record, typename Wrapper, unsigned char Number>
 class HandleTable {
 public:
-    /// Null when the handle names no object of this table.
+    /// Null when the handle names no record of this table.
     [[nodiscard]] Record* Find(const void* handle) noexcept {
         const std::scoped_lock lock(m_Lock);
-        Slot* slot = SlotOf(handle);
+        Slot* const slot = SlotOf(handle);
         return slot ? &slot->Content : nullptr;
     }
 
-    /// The attached wrapper or the slot's own; null when the handle names no object.
-    [[nodiscard]] AttachedWrapper* WrapperOf(const void* handle) noexcept {
+    /// The wrapper of the slot, which is the table's own; null when the handle names no record.
+    [[nodiscard]] Wrapper* WrapperOf(const void* handle) noexcept {
         const std::scoped_lock lock(m_Lock);
-        Slot* slot = SlotOf(handle);
-        if (!slot) {
-            return nullptr;
-        }
-        return slot->Attached ? slot->Attached : &slot->Own;
+        Slot* const slot = SlotOf(handle);
+        return slot ? &slot->Own : nullptr;
     }
 
-    /// False when the handle names no object.
-    bool Attach(const void* handle, AttachedWrapper* wrapper) noexcept {
-        const std::scoped_lock lock(m_Lock);
-        Slot* slot = SlotOf(handle);
-        if (slot) {
-            slot->Attached = wrapper;
-        }
-        return slot != nullptr;
-    }
-
-    /// Nothing happens where another wrapper is attached.
-    void Detach(const void* handle, const AttachedWrapper* wrapper) noexcept {
-        const std::scoped_lock lock(m_Lock);
-        Slot* slot = SlotOf(handle);
-        if (slot && slot->Attached == wrapper) {
-            slot->Attached = nullptr;
-        }
-    }
-
-    /// The new object's handle, or null when there are too many objects.
+    /// The new record's handle, or null when there are too many.
     [[nodiscard]] void* Add(Record&& record) {
         const std::scoped_lock lock(m_Lock);
         if (m_Free.empty() && !Grow()) {
@@ -80,8 +53,7 @@ public:
         m_Free.pop_back();
         Slot& slot = m_Slots[index];
         slot.Content = std::move(record);
-        slot.Handle = index | std::uintptr_t{static_cast<unsigned char>(Kind)} << 16U |
-                      std::uintptr_t{++slot.Turn} << 24U;
+        slot.Handle = index | std::uintptr_t{Number} << 16U | std::uintptr_t{++slot.Turn} << 24U;
         void* const handle = reinterpret_cast<void*>(slot.Handle);
         SetHandle(slot.Own, handle);
         return handle;
@@ -89,26 +61,14 @@ public:
 
     bool Remove(const void* handle) noexcept {
         const std::scoped_lock lock(m_Lock);
-        Slot* slot = SlotOf(handle);
+        Slot* const slot = SlotOf(handle);
         if (!slot) {
             return false;
         }
         slot->Handle = 0;
-        slot->Attached = nullptr;
         slot->Content = Record();
         m_Free.push_back(reinterpret_cast<std::uintptr_t>(handle) & IndexMask);
         return true;
-    }
-
-    /// How many objects satisfy the condition.
-    template <typename Condition>
-    [[nodiscard]] std::size_t CountIf(Condition condition) {
-        const std::scoped_lock lock(m_Lock);
-        std::size_t count = 0;
-        for (const Slot& slot : m_Slots) {
-            count += slot.Handle != 0 && condition(slot.Content) ? 1U : 0U;
-        }
-        return count;
     }
 
 private:
@@ -117,7 +77,6 @@ private:
     struct Slot {
         std::uintptr_t Handle = 0;  // 0 while free
         std::uint32_t Turn = 0;
-        AttachedWrapper* Attached = nullptr;
         Wrapper Own;
         Record Content;
     };

@@ -3,66 +3,40 @@
 #include <marlin/platform/drawing/detail/rounding.h>
 
 #include <cmath>
+#include <utility>
 
 namespace PLATFORM::detail {
 
 namespace {
 
-// Logical units per inch; 0 for modes without a fixed unit.
-int UnitsPerInch(int mode) noexcept {
-    switch (mode) {
-        case MM_LOMETRIC:
-            return 254;
-        case MM_HIMETRIC:
-            return 2540;
-        case MM_LOENGLISH:
-            return 100;
-        case MM_HIENGLISH:
-            return 1000;
-        case MM_TWIPS:
-            return 1440;
-        default:
-            return 0;
-    }
-}
-
-int Map(int value, int fromOrigin, int fromExtent, int toOrigin, int toExtent) noexcept {
-    // In double precision, which 32-bit coordinates neither overflow nor lose digits in.
-    const double offset = static_cast<double>(value) - fromOrigin;
-    return RoundToInt(offset * toExtent / fromExtent + toOrigin);
+// In double precision, which 32-bit coordinates neither overflow nor lose digits in.
+int Map(int value, int fromExtent, int toExtent) noexcept {
+    return RoundToInt(static_cast<double>(value) * toExtent / fromExtent);
 }
 
 }  // namespace
 
-bool Mapping::SetMode(int mode) noexcept {
-    if (mode < MM_TEXT || mode > MM_ANISOTROPIC) {
-        return false;
-    }
-    Mode = mode;
-    // The free mode of square units starts with tenths of a millimetre; the other keeps what is
-    // set.
+int Mapping::SetMode(int mode) noexcept {
     if (mode == MM_TEXT) {
         WindowExtent = ViewportExtent = {1, 1};
-    } else if (mode != MM_ANISOTROPIC) {
-        const int units = mode == MM_ISOTROPIC ? UnitsPerInch(MM_LOMETRIC) : UnitsPerInch(mode);
+    } else if (mode == MM_HIMETRIC || mode == MM_ISOTROPIC) {
+        // Hundredths of a millimetre an inch; the free mode starts with tenths.
+        const int units = mode == MM_HIMETRIC ? 2540 : 254;
         WindowExtent = {units, units};
         ViewportExtent = {DotsPerInch, -DotsPerInch};
+    } else {
+        return 0;
     }
-    return true;
+    return std::exchange(Mode, mode);
 }
 
-bool Mapping::SetExtent(SIZE Mapping::*extent, SIZE value) noexcept {
-    if (!IsFree()) {
-        return true;
+SIZE Mapping::SetExtent(SIZE Mapping::*extent, SIZE value) noexcept {
+    if (Mode != MM_ISOTROPIC || value.cx == 0 || value.cy == 0) {
+        return this->*extent;
     }
-    if (value.cx == 0 || value.cy == 0) {
-        return false;
-    }
-    this->*extent = value;
-    if (Mode == MM_ISOTROPIC) {
-        MakeSquare();
-    }
-    return true;
+    const SIZE before = std::exchange(this->*extent, value);
+    MakeSquare();
+    return before;
 }
 
 // Shrinks the axis of larger units, so that the picture stays within the viewport that was asked.
@@ -89,13 +63,8 @@ double Mapping::ScaleY() const noexcept {
 }
 
 POINT Mapping::ToDevice(POINT logical) const noexcept {
-    return {Map(logical.x, WindowOrigin.x, WindowExtent.cx, ViewportOrigin.x, ViewportExtent.cx),
-            Map(logical.y, WindowOrigin.y, WindowExtent.cy, ViewportOrigin.y, ViewportExtent.cy)};
-}
-
-POINT Mapping::ToLogical(POINT device) const noexcept {
-    return {Map(device.x, ViewportOrigin.x, ViewportExtent.cx, WindowOrigin.x, WindowExtent.cx),
-            Map(device.y, ViewportOrigin.y, ViewportExtent.cy, WindowOrigin.y, WindowExtent.cy)};
+    return {Map(logical.x, WindowExtent.cx, ViewportExtent.cx),
+            Map(logical.y, WindowExtent.cy, ViewportExtent.cy)};
 }
 
 }  // namespace PLATFORM::detail

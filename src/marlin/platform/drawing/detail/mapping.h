@@ -10,23 +10,18 @@ namespace PLATFORM::detail {
 /// The resolution of the display and of every surface.
 inline constexpr int DotsPerInch = 96;
 
-/// The mapping between logical and device coordinates. Default MM_TEXT. Extents are never 0.
+/// The mapping from logical to device coordinates. Default MM_TEXT. Extents are never 0.
 struct Mapping {
     int Mode = MM_TEXT;
-    POINT WindowOrigin;
-    POINT ViewportOrigin;
     SIZE WindowExtent{1, 1};
     SIZE ViewportExtent{1, 1};
 
-    [[nodiscard]] bool SetMode(int mode) noexcept;
-    [[nodiscard]] bool IsFree() const noexcept {
-        return Mode == MM_ISOTROPIC || Mode == MM_ANISOTROPIC;
-    }
-    /// False, and nothing changed, for an extent of 0. True, and nothing changed, in a fixed mode.
-    [[nodiscard]] bool SetExtent(SIZE Mapping::*extent, SIZE value) noexcept;
+    /// The mode before; 0, and nothing changed, for an unknown one.
+    int SetMode(int mode) noexcept;
+    /// The extent before. Nothing is changed for an extent of 0 and in a mode of a fixed unit.
+    SIZE SetExtent(SIZE Mapping::*extent, SIZE value) noexcept;
 
     [[nodiscard]] POINT ToDevice(POINT logical) const noexcept;
-    [[nodiscard]] POINT ToLogical(POINT device) const noexcept;
     /// Device units per logical unit, without signs.
     [[nodiscard]] double ScaleX() const noexcept;
     [[nodiscard]] double ScaleY() const noexcept;

@@ -31,8 +31,8 @@ constexpr std::size_t MostPoints = 32000;
 
 // The rows of FreeType count upwards, those of a surface downwards.
 void Contours::Add(OutlinePoint point, const Placement& at, int tag) {
-    const double x = at.X + point.X * at.RightX + point.Y * at.UpX;
-    const double y = at.Y + point.X * at.RightY + point.Y * at.UpY;
+    const double x = at.X + point.X * at.ScaleX;
+    const double y = at.Y - point.Y * at.ScaleY;
     Fits = Fits && std::fabs(x) < LargestPixel && std::fabs(y) < LargestPixel &&
            Points.size() < MostPoints;
     if (Fits) {

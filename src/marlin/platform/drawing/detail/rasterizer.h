@@ -8,15 +8,12 @@
 
 namespace PLATFORM::detail {
 
-/// Where a shape is painted: the pixel of its origin, and the ways in pixels of one unit to the
-/// right and of one unit up.
+/// Where a shape is painted: the pixel of its origin, and the pixels of one unit.
 struct Placement {
     double X = 0;
     double Y = 0;
-    double RightX = 1;
-    double RightY = 0;
-    double UpX = 0;
-    double UpY = -1;
+    double ScaleX = 1;
+    double ScaleY = 1;
 };
 
 /// Paints the inside of the contours, with smooth edges, on the surface. A shape that reaches

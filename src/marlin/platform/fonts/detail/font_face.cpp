@@ -19,10 +19,6 @@ namespace {
 
 constexpr std::size_t LargestFile = std::size_t{1} << 28U;
 
-std::string TextOrEmpty(const char* text) {
-    return text ? text : "";
-}
-
 }  // namespace
 
 FT_LibraryRec_* FreeType() noexcept {
@@ -59,15 +55,8 @@ std::unique_ptr<const FontFace> FontFace::Open(FontBytes bytes, int index) {
         !ReadMetrics(opened, face->m_Metrics)) {
         return nullptr;
     }
-    face->ReadNames();
     face->ReadAdvances();
     return face;
-}
-
-void FontFace::ReadNames() {
-    const std::string family = TextOrEmpty(m_Face->family_name);
-    const std::string style = TextOrEmpty(m_Face->style_name);
-    m_Names = {family, family, style, style.empty() ? family : family + ' ' + style};
 }
 
 unsigned int FontFace::GlyphOf(char32_t codePoint) const noexcept {

@@ -45,8 +45,6 @@ public:
     /// The sum of the advances of the text's characters, in design units.
     [[nodiscard]] long long Advance(std::string_view text) const noexcept;
     [[nodiscard]] int Advance(char32_t codePoint) const noexcept;
-    /// Family, face, style and full name.
-    [[nodiscard]] const std::array<std::string, 4>& Names() const noexcept { return m_Names; }
 
     /// The outline of a character's glyph in design units, good until the next call; null for a
     /// glyph that cannot be read.
@@ -57,7 +55,6 @@ private:
         void operator()(FT_FaceRec_* face) const noexcept;
     };
 
-    void ReadNames();
     void ReadAdvances() noexcept;
     [[nodiscard]] int ReadAdvance(char32_t codePoint) const noexcept;
     [[nodiscard]] unsigned int GlyphOf(char32_t codePoint) const noexcept;
@@ -66,7 +63,6 @@ private:
     std::unique_ptr<FT_FaceRec_, Closer> m_Face;  // reads the bytes as long as it lives
     FaceMetrics m_Metrics;
     std::array<int, 256> m_Advances{};  // of the bytes of Windows-1252
-    std::array<std::string, 4> m_Names;
 };
 
 }  // namespace PLATFORM::detail

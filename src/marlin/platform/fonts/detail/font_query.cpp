@@ -83,9 +83,8 @@ Pattern PatternOf(const FontWish& wish, const std::string& family) {
     FcPatternAddString(pattern.get(), FC_LANG, reinterpret_cast<const FcChar8*>("en"));
     // A variable font would have to be set to the weight before each use.
     FcPatternAddBool(pattern.get(), FC_VARIABLE, FcFalse);
-    if (wish.OutlineFirst) {
-        FcPatternAddBool(pattern.get(), FC_SCALABLE, FcTrue);
-    }
+    // An outline font rather than a bitmap font of that name, which cannot be measured.
+    FcPatternAddBool(pattern.get(), FC_SCALABLE, FcTrue);
     return pattern;
 }
 
@@ -130,26 +129,19 @@ void FontQuery::Deleter::operator()(FcConfig* configuration) const noexcept {
 
 void FontQuery::SetFolders(const std::vector<std::string>& folders) {
     m_Folders = folders;
-    m_OnlyFolders = true;
-    m_Configuration.reset();
-}
-
-void FontQuery::UseSystem() {
-    m_Folders.clear();
-    m_OnlyFolders = false;
     m_Configuration.reset();
 }
 
 void FontQuery::Refresh() {
-    if (m_OnlyFolders) {
-        m_Configuration.reset();  // reads the folders again
-    } else {
+    if (m_Folders.empty()) {
         FcInitBringUptoDate();
+    } else {
+        m_Configuration.reset();  // reads the folders again
     }
 }
 
 bool FontQuery::Prepare() {
-    if (!m_OnlyFolders) {
+    if (m_Folders.empty()) {
         return FcInit() == FcTrue;
     }
     if (m_Configuration) {
@@ -184,23 +176,16 @@ std::optional<FontMatch> FontQuery::Match(const FontWish& wish, bool& outline) {
 }
 
 std::vector<InstalledFont> FontQuery::Families() {
-    std::vector<InstalledFont> fonts = Styles("");
+    std::vector<InstalledFont> fonts;
+    const FontSet set = Prepare() ? ListLatin(m_Configuration.get()) : nullptr;
+    for (int i = 0; set && i < set->nfont; ++i) {
+        fonts.push_back(FontOf(set->fonts[i]));
+    }
+    std::ranges::sort(fonts, ComesBefore);
     const auto isSameFamily = [](const InstalledFont& a, const InstalledFont& b) {
         return MARLINSUITE::EqualIgnoringCase(a.Family, b.Family);
     };
     fonts.erase(std::unique(fonts.begin(), fonts.end(), isSameFamily), fonts.end());
-    return fonts;
-}
-
-std::vector<InstalledFont> FontQuery::Styles(const std::string& family) {
-    std::vector<InstalledFont> fonts;
-    const FontSet set = Prepare() ? ListLatin(m_Configuration.get()) : nullptr;
-    for (int i = 0; set && i < set->nfont; ++i) {
-        if (family.empty() || HasFamily(set->fonts[i], family)) {
-            fonts.push_back(FontOf(set->fonts[i]));
-        }
-    }
-    std::ranges::sort(fonts, ComesBefore);
     return fonts;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+// Asks fontconfig, at the request of `FontStore` alone, which holds its lock meanwhile.
+
 #include <marlin/platform/fonts/font_catalog.h>
 
 #include <compare>
@@ -18,8 +20,6 @@ struct FontWish {
     std::string Face;
     int Weight = 400;
     bool Italic = false;
-    /// An outline font rather than a bitmap font of that name.
-    bool OutlineFirst = true;
 
     [[nodiscard]] auto operator<=>(const FontWish& other) const = default;
 };
@@ -33,21 +33,19 @@ struct InstalledFont {
     bool FixedPitch = false;
 };
 
-/// Asks fontconfig for fonts, at the request of the font store, whose lock guards it.
+/// The fonts that fontconfig knows.
 class FontQuery {
 public:
-    /// Files in these folders alone, or those of the system.
+    /// Files in these folders alone, or those of the system for none.
     void SetFolders(const std::vector<std::string>& folders);
-    void UseSystem();
     /// Takes note of fonts that came or went.
     void Refresh();
 
     /// The font that comes nearest to the wish; `outline` is true when its shapes are outlines.
     [[nodiscard]] std::optional<FontMatch> Match(const FontWish& wish, bool& outline);
-    /// The outline fonts with Latin letters: of each family the one of lowest weight and slant,
-    /// or all of one family. Sorted by family, weight and slant.
+    /// The outline fonts with Latin letters, of each family the one of lowest weight and slant;
+    /// sorted by family.
     [[nodiscard]] std::vector<InstalledFont> Families();
-    [[nodiscard]] std::vector<InstalledFont> Styles(const std::string& family);
 
 private:
     struct Deleter {
@@ -57,8 +55,7 @@ private:
     bool Prepare();
 
     std::vector<std::string> m_Folders;
-    bool m_OnlyFolders = false;
-    // None for the system's.
+    // Null for the system's.
     std::unique_ptr<_FcConfig, Deleter> m_Configuration;
 };
 

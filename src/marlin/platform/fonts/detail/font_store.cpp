@@ -114,23 +114,10 @@ std::vector<InstalledFont> FontStore::Families() {
     return TheCache().Query.Families();
 }
 
-std::vector<InstalledFont> FontStore::Styles(const std::string& family) {
-    const std::scoped_lock lock(Lock());
-    ++TheCache().Costs.Queries;
-    return TheCache().Query.Styles(family);
-}
-
 void FontStore::SetFolders(const std::vector<std::string>& folders) {
     const std::scoped_lock lock(Lock());
     TheCache().Forget();
     TheCache().Query.SetFolders(folders);
-    m_Edition.fetch_add(1, std::memory_order_release);
-}
-
-void FontStore::UseSystemFonts() {
-    const std::scoped_lock lock(Lock());
-    TheCache().Forget();
-    TheCache().Query.UseSystem();
     m_Edition.fetch_add(1, std::memory_order_release);
 }
 

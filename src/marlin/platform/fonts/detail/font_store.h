@@ -24,14 +24,12 @@ public:
     [[nodiscard]] static const FontFace* Find(FontWish wish);
     /// The face found and where it comes from. False, and the target unchanged, without one.
     [[nodiscard]] static bool Match(FontWish wish, FontMatch& match);
-    /// The first font of each family, or all styles of one; sorted.
+    /// The first font of each family, sorted.
     [[nodiscard]] static std::vector<InstalledFont> Families();
-    [[nodiscard]] static std::vector<InstalledFont> Styles(const std::string& family);
 
-    /// From now on wishes are looked up anew, in these folders or in the system.
+    /// From now on wishes are looked up anew, in these folders or, for none, in the system.
     static void SetFolders(const std::vector<std::string>& folders);
-    static void UseSystemFonts();
-    /// Grows with each of the two, for those who keep what they have found.
+    /// Grows with that, for those who keep what they have found.
     [[nodiscard]] static std::size_t Edition() noexcept {
         return m_Edition.load(std::memory_order_acquire);
     }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/drawing/detail/rounding.h>
-#include <marlin/platform/drawing/gdi_objects.h>
 #include <marlin/platform/fonts/detail/font_store.h>
 #include <marlin/platform/fonts/detail/selected_font.h>
 
@@ -17,7 +16,7 @@ int DefaultCell(const Mapping& mapping) noexcept {
 
 // Stock fonts are made before anybody draws with them, and looking for their faces takes long.
 const FontFace* FaceOf(const FontRecord& font) {
-    return font.Stock ? FontStore::Find({font.StockFace}) : font.Face;
+    return font.Stock ? FontStore::Find({"Arial"}) : font.Face;
 }
 
 }  // namespace
@@ -27,8 +26,7 @@ SelectedFont FontOf(HDC dc) {
     if (!context) {
         return {};
     }
-    const FontRecord* font =
-        Fonts().Find(context->Font ? context->Font : GetStockObject(SYSTEM_FONT));
+    const auto* const font = FindObject<FontRecord>(context->Selected[FontKind]);
     if (!font) {
         return {};
     }

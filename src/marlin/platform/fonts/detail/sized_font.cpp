@@ -104,9 +104,6 @@ void SizedFont::SetMarks(OUTLINETEXTMETRICA& otm) const noexcept {
 OUTLINETEXTMETRICA SizedFont::Metrics() const noexcept {
     OUTLINETEXTMETRICA otm;
     otm.otmSize = sizeof otm;
-    for (const std::string& name : m_Face->Names()) {
-        otm.otmSize += static_cast<unsigned int>(name.size() + 1);
-    }
     otm.otmTextMetrics = CellMetrics();
     SetStyle(otm, m_Face->Metrics());
     SetLines(otm);

@@ -30,7 +30,6 @@ public:
     [[nodiscard]] SIZE Extent(std::string_view text) const noexcept {
         return m_Face ? SIZE{Round(static_cast<double>(m_Face->Advance(text))), m_Cell} : SIZE{};
     }
-    /// Without the offsets of the names, whose lengths count in `otmSize`.
     [[nodiscard]] OUTLINETEXTMETRICA Metrics() const noexcept;
 
 private:

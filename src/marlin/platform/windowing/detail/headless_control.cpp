@@ -22,7 +22,7 @@ SIZE HeadlessControl::FaceSize() const noexcept {
 
 void HeadlessControl::Draw(UINT action) const {
     const SIZE size = FaceSize();
-    if (Face.GetSafeHdc()) {
+    if (Face.m_hDC) {
         SendDraw(Window, action, Face, {0, 0, size.cx, size.cy});
     }
 }

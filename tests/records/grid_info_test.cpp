@@ -26,9 +26,18 @@ TEST(GridInfo, ComparesIntervalsWithATolerance) {
 
 TEST(GridInfo, FindsTheWordsOfAStyle) {
     const std::pair<const char*, int> cases[] = {
-        {"", 0},        {"Y_LINES,POINTS", 5},           {"POINTS", 1},   {"X_MINORTICKS,", 32},
-        {"x_ticks", 0}, {"LONG_NORTHTICK,X_LINES", 130}, {"X_TICKS2", 0}, {"POINTS,POINTS", 1},
-        {"248", 0},     {"GRID,X_TICKS,,", 8},
+        {"", 0},
+        {"Y_LINES,POINTS", 5},
+        {"POINTS", 1},
+        {"X_MINORTICKS,", 32},
+        {"x_ticks", 0},
+        {"LONG_NORTHTICK,X_LINES", 130},
+        {"X_TICKS2", 0},
+        {"POINTS,POINTS", 1},
+        {"248", 0},
+        {"GRID,X_TICKS,,", 8},
+        {" X_LINES, Y_LINES\t", 6},
+        {"X_ LINES", 0},
     };
     for (const auto& [text, style] : cases) {
         EXPECT_EQ(ReadFrom(GridInfo(), "GridStyle", text).Style, style) << text;

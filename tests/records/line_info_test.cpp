@@ -10,66 +10,51 @@
 
 namespace {
 
-using enum LineInfo::LINESTYLE;
-
 // What another object's constructor finds before main.
 const std::string textOfStaticLine = LineInfo().ToString();
 
-LineInfo Line(float width, unsigned long color, LineInfo::LINESTYLE style, bool enable) {
+LineInfo Line(const std::string& text) {
     LineInfo line;
-    line.SetWidth(width);
-    line.SetColor(color);
-    line.SetStyle(style);
-    line.SetEnable(enable);
+    line.FromString("8,1,Dash dot,255,0");
+    line.FromString(text);
     return line;
 }
 
-TEST(LineInfo, ReadsBackItsText) {
-    EXPECT_EQ(textOfStaticLine, "0.1,0,Solid Line,0,1");
-    for (const LineInfo& line :
-         {LineInfo(), Line(0.0F, 0xABCDEFUL, DASHED_LINE, false),
-          Line(12.25F, 0xFFFFFFFFUL, DOTTED_LINE, true), Line(1e6F, 1, DASH_DOT_LINE, false)}) {
-        LineInfo read = Line(7.0F, 7, SOLID_LINE, true);
-        read.FromString(line.ToString());
-        EXPECT_EQ(read, line) << line.ToString();
+TEST(LineInfo, ReadsTextFormsAndWritesThem) {
+    const std::string plain = "0.1,0,Solid Line,0,1";
+    EXPECT_EQ(textOfStaticLine, plain);
+    // Of the palette 0 is black, 1 and 10 are red, 7 is white, 90 green, 170 blue.
+    const std::pair<const char*, std::string> cases[] = {
+        {"2.5,1,Dashed", "2.5,10,Dashed,255,1"},
+        {"2.5,1", plain},
+        {"", plain},
+        {",,", plain},
+        {"x,y,z,w,v", plain},
+        {"1,256,Solid Line", "1,0,Solid Line,0,1"},
+        {"2.5,1,dot,16711680", "2.5,170,Dot,16711680,1"},
+        {"1e+20,1,DASH DOT,,0", "1e+20,10,Dash dot,255,0"},
+        {"2.5,1,Dot,4294967295,0,more", "2.5,7,Dot,4294967295,0"},
+        {"-2.5,1,Dot,-1", "-2.5,7,Dot,4294967295,1"},
+    };
+    for (const auto& [text, expected] : cases) {
+        EXPECT_EQ(Line(text).ToString(), expected) << text;
+        EXPECT_EQ(Line(text), Line(expected)) << text;
     }
 }
 
 TEST(LineInfo, ReadsSettingsOfEveryKind) {
-    const std::tuple<const char*, const char*, LineInfo> cases[] = {
-        {"LineColor", "5", Line(3.0F, 0xFF0000, SOLID_LINE, false)},
-        {"linecolor", "300", Line(3.0F, 0, SOLID_LINE, false)},
-        {"LineTrueColor", "4294967295", Line(3.0F, 0xFFFFFFFF, SOLID_LINE, false)},
-        {"LineTrueColor", "4294967296", Line(3.0F, 0, SOLID_LINE, false)},
-        {"LineStyle", "dash DOT", Line(3.0F, 0, DASH_DOT_LINE, false)},
-        {"LineStyle", "Dash-dot", Line(3.0F, 0, SOLID_LINE, false)},
-        {"LineWidth", "1.5 mm", Line(1.5F, 0, SOLID_LINE, false)},
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"LineColor", "5", "3,170,Solid Line,16711680,0"},
+        {"linecolor", "300", "3,0,Solid Line,0,0"},
+        {"LineTrueColor", "4294967295", "3,7,Solid Line,4294967295,0"},
+        {"LineTrueColor", "4294967296", "3,0,Solid Line,0,0"},
+        {"LineStyle", "dash DOT", "3,0,Dash dot,0,0"},
+        {"LineStyle", "Dash-dot", "3,0,Solid Line,0,0"},
+        {"LineWidth", "-1.5 mm", "-1.5,0,Solid Line,0,0"},
     };
     for (const auto& [name, value, expected] : cases) {
-        const LineInfo line = Line(3.0F, 0x123456, DOTTED_LINE, false);
-        EXPECT_EQ(ReadFrom(line, name, value), expected) << name << " = " << value;
-    }
-    // Only the setter takes the sign away.
-    EXPECT_EQ(ReadFrom(LineInfo(), "LineWidth", "-2").Width(), -2.0F);
-}
-
-TEST(LineInfo, ReadsTextForms) {
-    const std::pair<const char*, LineInfo> cases[] = {
-        {"2.5,1,Dashed", Line(2.5F, 0x0000FF, DASHED_LINE, true)},
-        {"2.5,1", LineInfo()},
-        {"", LineInfo()},
-        {",,", LineInfo()},
-        {"2.5,1,dot,66051", Line(2.5F, 66051, DOTTED_LINE, true)},
-        {"2.5,1,Dot,,0", Line(2.5F, 0x0000FF, DOTTED_LINE, false)},
-        {"2.5,1,Dot,4294967295,0,more", Line(2.5F, 0xFFFFFFFF, DOTTED_LINE, false)},
-        {"2.5,1,Dot,-1", Line(2.5F, 0xFFFFFFFF, DOTTED_LINE, true)},
-        {"x,y,z,w,v", LineInfo()},
-        {"1,256,Solid Line", Line(1.0F, 0, SOLID_LINE, true)},
-    };
-    for (const auto& [text, expected] : cases) {
-        LineInfo line = Line(8.0F, 8, DASH_DOT_LINE, false);
-        line.FromString(text);
-        EXPECT_EQ(line, expected) << text;
+        const LineInfo line = Line("3,90,Dot,65280,0");
+        EXPECT_EQ(ReadFrom(line, name, value).ToString(), expected) << name << " = " << value;
     }
 }
 

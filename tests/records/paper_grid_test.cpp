@@ -3,7 +3,6 @@
 #include <marlin/settings/section.h>
 
 #include <cmath>
-#include <limits>
 #include <tuple>
 #include <utility>
 
@@ -11,38 +10,30 @@
 
 namespace {
 
-TEST(PaperGrid, ReadsStepsOfAnySizeWithoutTheirSign) {
+TEST(PaperGrid, TakesStepsOfAnySizeButBySetters) {
+    PaperGrid grid = {};
+    EXPECT_EQ(grid.Origin(), GTL::Point2D<float>());
+    grid = PaperGrid(7.0, -0.5, {1, 2});
+    EXPECT_EQ(grid.YStep(), 0.5);
+    EXPECT_EQ(grid.Origin(), GTL::Point2D<float>(1, 2));
     Section section("Paper");
     section["XStep"] << "-0.5 mm";
-    PaperGrid grid(7.0, -8.0);
     EXPECT_TRUE(grid.Read(section).Empty());
     EXPECT_EQ(grid.XStep(), 0.5);
-    EXPECT_EQ(grid.YStep(), 8.0);
     EXPECT_TRUE(grid.Write(section).Empty());
-}
-
-TEST(PaperGrid, IsShownAndHiddenInTurn) {
-    PaperGrid grid;
+    const std::pair<double, double> cases[] = {
+        {0.5, 1},   {0, 1},       {-3, 3},  {1, 1},
+        {-0.25, 1}, {2.75, 2.75}, {NAN, 1}, {-INFINITY, INFINITY}};
+    for (const auto& [step, stored] : cases) {
+        grid.XStep(step);
+        EXPECT_EQ(grid.XStep(), stored) << step;
+        grid.YStep(step);
+        EXPECT_EQ(grid.YStep(), stored) << step;
+    }
     grid.ToggleVisible();
     EXPECT_FALSE(grid.Visible());
     grid.ToggleVisible();
     EXPECT_TRUE(grid.Visible());
-}
-
-TEST(PaperGrid, SettersKeepStepsAtOneOrAbove) {
-    constexpr double infinity = std::numeric_limits<double>::infinity();
-    const std::pair<double, double> cases[] = {
-        {0.5, 1},   {0, 1},       {-3, 3},  {1, 1},
-        {-0.25, 1}, {2.75, 2.75}, {NAN, 1}, {-infinity, infinity}};
-    for (const auto& [step, stored] : cases) {
-        PaperGrid grid(0.5, -0.25);
-        EXPECT_EQ(grid.XStep(), 0.5);
-        grid.XStep(step);
-        EXPECT_EQ(grid.XStep(), stored) << step;
-        EXPECT_EQ(grid.YStep(), 0.25) << step;
-        grid.YStep(step);
-        EXPECT_EQ(grid.YStep(), stored) << step;
-    }
 }
 
 TEST(PaperGrid, SnapsToTheNearestLine) {
@@ -60,6 +51,19 @@ TEST(PaperGrid, SnapsToTheNearestLine) {
         const PaperGrid across(3.0, step, {0.5F, origin}, true, false);
         EXPECT_DOUBLE_EQ(across.SnapToGrid({-2.4, position}).x, -2.5) << position;
         EXPECT_DOUBLE_EQ(across.SnapToGrid({-2.4, position}).y, expected) << position;
+    }
+}
+
+TEST(PaperGrid, LeavesAPositionWhereItHasNoFiniteLineForIt) {
+    const std::tuple<double, float> cases[] = {
+        {0, 0}, {5e-324, 0}, {1e308, 3e38F}, {INFINITY, 0}, {NAN, 0}, {1, INFINITY}, {1, NAN}};
+    for (const auto& [step, origin] : cases) {
+        const PaperGrid grid(step, step, {origin, origin});
+        for (const double position : {0.0, -4.7, 1e300, 1.7e308}) {
+            const GTL::Point2D<double> snapped = grid.SnapToGrid({position, -position});
+            EXPECT_TRUE(std::isfinite(snapped.x) && std::isfinite(snapped.y)) << step << origin;
+        }
+        EXPECT_EQ(grid.SnapToGrid({1.7e308, 0}).x, 1.7e308) << step << ' ' << origin;
     }
 }
 

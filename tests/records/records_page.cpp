@@ -37,6 +37,9 @@ is what a record writes that nobody changed.
   those names; the other records write theirs in the place of those. Readers take the first key
   of a name.
 - Codes have the meaning that the host gives them.
+- `SunIllumunationEnable` and its like, `OringinX` and `OringinY` are spelt as in the files that
+  are in use, and so is the comment "A value of 0 disables suppresion". Other spellings are other
+  keys, which nothing reads.
 )";
 
 constexpr const char* ValuesIntroduction =

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The rules that all records share which keep themselves as keys of a section.
+#include <marlin/base/format_string.h>
+#include <marlin/contours/contour_definition_list.h>
 #include <marlin/contours/contour_info.h>
 #include <marlin/records/bias_info.h>
+#include <marlin/records/depth_label_info.h>
 #include <marlin/records/dxf_info.h>
 #include <marlin/records/geo_grid_info.h>
 #include <marlin/records/grid_info.h>
@@ -13,6 +16,8 @@
 
 #include <algorithm>
 #include <concepts>
+#include <fstream>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <variant>
@@ -22,11 +27,12 @@
 
 namespace {
 
-// What `KeysOf` lists of a record with its defaults, of one with another value in every key, and
-// which of the latter's keys change once it has read a section without keys.
+// The class's name, whether it appends its keys, what `KeysOf` lists of a record with a value other
+// than the default in every key, and which of these keys change once it has read a section without
+// keys.
 struct Expected {
+    const char* Class;
     bool Appends;
-    const char* Default;
     const char* Changed;
     const char* Reset;
 };
@@ -36,55 +42,44 @@ const Expected Keys{};
 
 template <>
 const Expected Keys<LineInfo>{
-    true, "LineColor=0\nLineWidth=0.100000\nLineStyle=Solid Line\nLineTrueColor=0\nEnable=1\n",
+    "LineInfo", true,
     // (1, 2, 255) is nearest to pure blue, index 170.
     "LineColor=170\nLineWidth=2.500000\nLineStyle=Dash dot\nLineTrueColor=16712193\nEnable=0\n",
     "LineColor=0\nLineStyle=Solid Line\nLineTrueColor=0\n"};
 
 template <>
 const Expected Keys<DXFInfo>{
-    true, "DXFLineColor=0\nDXFLineTrueColor=0\nDXFLineWidth=0.000000\nDXFColorMode=0\n",
+    "DXFInfo", true,
     "DXFLineColor=90\nDXFLineTrueColor=65281\nDXFLineWidth=3.000000\nDXFColorMode=-7\n",
     "DXFLineColor=0\nDXFLineTrueColor=0\n"};
 
 template <>
-const Expected Keys<BiasInfo>{false, "BiasMode=0\n", "BiasMode=-3\n", ""};
+const Expected Keys<BiasInfo>{"BiasInfo", false, "BiasMode=-3\n", ""};
 
 template <>
 const Expected Keys<SunIlluminationInfo>{
-    false,
-    "SunIllumunationEnable=0\nSunIllumunationAzimuth=290.000000\n"
-    "SunIllumunationElevation=30.000000\nSunIllumunationContrast=1.000000\n",
+    "SunIlluminationInfo", false,
     "SunIllumunationEnable=1\nSunIllumunationAzimuth=0.123457\n"
     "SunIllumunationElevation=-12.500000\nSunIllumunationContrast=2.250000\n",
     ""};
 
 template <>
 const Expected Keys<CMapInfo>{
-    true,
-    "SymbolizationType=0\nScaleLevel=0\nDisplayType=2\nShowTextGeneric=1\nShowTextOther=0\n"
-    "ShowChartContour=1\nShowLightsInfo=0\nAntiCluttering=1\nShowBoundaries=1\n",
+    "CMapInfo", true,
     "SymbolizationType=-5\nScaleLevel=6\nDisplayType=7\nShowTextGeneric=0\nShowTextOther=1\n"
     "ShowChartContour=0\nShowLightsInfo=1\nAntiCluttering=0\nShowBoundaries=0\n",
     ""};
 
 template <>
 const Expected Keys<GridInfo>{
-    true,
-    "XInterval=50.000000\nYInterval=50.000000\n"
-    "GridStyle=X_TICKS,Y_TICKS,X_MINORTICKS,Y_MINORTICKS,LONG_NORTHTICK\n"
-    "TickSize=2.500000\nMinorTickSize=1.000000\nEastingMark=\"\"\nNorthingMark=\"\"\n",
+    "GridInfo", true,
     "XInterval=50.000001\nYInterval=-0.250000\nGridStyle=POINTS\n"
     "TickSize=2.500001\nMinorTickSize=-1.500000\nEastingMark=\" mE\"\nNorthingMark=\"m N \"\n",
     "GridStyle=\nEastingMark=\"\"\nNorthingMark=\"\"\n"};
 
 template <>
 const Expected Keys<GeoGridInfo>{
-    true,
-    // 1/1800 takes 19 decimals to read back, and as a double is 0.000555555555555555555073...
-    "LonInterval=0.000555555555555555555\nLatInterval=0.000555555555555555555\n"
-    "LatLonStyle=0\nLatLonDecimals=2\nTrailingHemisphereIndicator=0\nDegMinSecSymbols=0\n"
-    "GridStyle=1\nGridColor=0\nGridTrueColor=0\n",
+    "GeoGridInfo", true,
     // 0.25 takes 2 decimals; 1/3 is 0.3333333333333333 (16), as a double 0.333...33314829...
     "LonInterval=0.333333333333333315\nLatInterval=0.2500\n"
     "LatLonStyle=3\nLatLonDecimals=-1\nTrailingHemisphereIndicator=1\nDegMinSecSymbols=1\n"
@@ -93,32 +88,29 @@ const Expected Keys<GeoGridInfo>{
 
 template <>
 const Expected Keys<PaperGrid>{
-    true,
-    "XStep=1.000000\nYStep=1.000000\nVisible=1\nSnapOn=1\nOringinX=0.000000\n"
-    "OringinY=0.000000\n",
+    "PaperGrid", true,
     "XStep=0.500000\nYStep=2.500000\nVisible=0\nSnapOn=0\nOringinX=1.250000\n"
     "OringinY=-3.000000\n",
     ""};
 
 template <>
 const Expected Keys<PanelInfo>{
-    false,
-    "Width=0.000000\nHeight=0.000000\nPosX=0.000000\nPosY=0.000000\nLockPosSize=0\n"
-    "Justification=0\n",
+    "PanelInfo", false,
     "Width=0.001000\nHeight=40.500000\nPosX=12.500000\nPosY=-0.250000\nLockPosSize=1\n"
     "Justification=7\n",
     "Justification=0\n"};
 
 template <>
 const Expected Keys<ContourInfo>{
-    false,
-    "SmoothingWindow=0;Values between 0 and 8\nContourLabelSpacing=20.000000\n"
-    "SuppressionLength=0.000000;A value of 0 disables suppresion\nSmoothingPasses=1\n"
-    "EnableContouring=1\nLabelOrientation=OptimumTextAngle\n",
+    "ContourInfo", false,
     "SmoothingWindow=99;Values between 0 and 8\nContourLabelSpacing=20.000999\n"
     "SuppressionLength=-3.250000;A value of 0 disables suppresion\nSmoothingPasses=-4\n"
     "EnableContouring=0\nLabelOrientation=LowToHigh\n",
     "LabelOrientation=OptimumTextAngle\n"};
+
+template <>
+const Expected Keys<ContourDefinitionList::ContourDefInfo>{"ContourDefinitionList::ContourDefInfo",
+                                                           false, "", ""};
 
 // The section of which `KeysOf` makes the text; the later of two lines for one key counts. With a
 // value, all keys have that one.
@@ -135,6 +127,22 @@ Section SectionOf(const std::string& keys, const char* value = nullptr) {
         }
     }
     return section;
+}
+
+// The keys and defaults in the table of a class in docs/formats/records.md.
+std::string TableOf(const std::string& name) {
+    const std::regex row("\\| `?(\\w+)`? \\| [^|]* \\| [^|]* \\| `([^|]*)` \\|.*");
+    std::ifstream page(MARLIN_SOURCE_DIR "/docs/formats/records.md");
+    std::string keys;
+    bool isInTable = false;
+    for (std::string line; std::getline(page, line);) {
+        isInTable = line.starts_with("## ") ? line.ends_with(" `" + name + "`") : isInTable;
+        std::smatch cells;
+        if (isInTable && std::regex_match(line, cells, row)) {
+            keys += cells.str(1) + "=" + cells.str(2) + "\n";
+        }
+    }
+    return keys;
 }
 
 template <class Record>
@@ -157,8 +165,31 @@ using Kinds = testing::Types<LineInfo, DXFInfo, BiasInfo, SunIlluminationInfo, C
                              GeoGridInfo, PaperGrid, PanelInfo, ContourInfo>;
 TYPED_TEST_SUITE(Records, Kinds);
 
-TYPED_TEST(Records, WriteTheirDefaultsAndReadBackEveryKey) {
-    EXPECT_EQ(Written(TypeParam()), Keys<TypeParam>.Default);
+// Of these the page alone has what they write that nobody changed.
+template <class Record>
+class RecordsPage : public testing::Test {};
+
+using KindsOfPage = testing::Types<LineInfo, DXFInfo, BiasInfo, SunIlluminationInfo, CMapInfo,
+                                   GridInfo, GeoGridInfo, PaperGrid, PanelInfo, ContourInfo,
+                                   ContourDefinitionList::ContourDefInfo>;
+TYPED_TEST_SUITE(RecordsPage, KindsOfPage);
+
+TYPED_TEST(RecordsPage, HasWhatARecordWritesThatNobodyChanged) {
+    const std::regex comments(";[^\n]*");
+    EXPECT_EQ(std::regex_replace(Written(TypeParam()), comments, ""),
+              TableOf(Keys<TypeParam>.Class));
+}
+
+TEST(RecordsPage, HasTheItemsOfTextsAndDepthLabels) {
+    const FormatString items(DepthLabelInfo().ToString(), ',');
+    std::string lines;
+    for (int i = 0; i < items.Size(); ++i) {
+        lines += std::to_string(i) + "=" + items[i] + "\n";
+    }
+    EXPECT_EQ(TableOf("TextInfo") + TableOf("DepthLabelInfo"), lines);
+}
+
+TYPED_TEST(Records, ReadBackEveryKey) {
     const std::string changed = Keys<TypeParam>.Changed;
     EXPECT_EQ(Written(ReadFrom<TypeParam>(SectionOf(changed))), changed);
 }
@@ -185,16 +216,16 @@ TYPED_TEST(Records, KeepOrResetTheFieldsOfMissingAndUnreadableKeys) {
 }
 
 TYPED_TEST(Records, DifferWhenOneKeyDoes) {
-    const Expected& keys = Keys<TypeParam>;
-    const Section changed = SectionOf(keys.Changed);
+    const std::string plain = Written(TypeParam());
+    const Section changed = SectionOf(Keys<TypeParam>.Changed);
     for (const SectionKey& key : changed.Keys()) {
         const std::string& name = key.GetName();
         const bool isPaletteIndex = name.ends_with("Color") && !name.ends_with("TrueColor");
-        Section section = SectionOf(keys.Default);
+        Section section = SectionOf(plain);
         section[name] << key.GetValue();
         const auto record = ReadFrom<TypeParam>(section);
         // The exact color beside a palette index wins.
-        EXPECT_EQ(Written(record) == keys.Default, isPaletteIndex) << name;
+        EXPECT_EQ(Written(record) == plain, isPaletteIndex) << name;
         if constexpr (std::equality_comparable<TypeParam>) {
             EXPECT_EQ(record == TypeParam(), isPaletteIndex) << name;
         }
@@ -203,11 +234,11 @@ TYPED_TEST(Records, DifferWhenOneKeyDoes) {
 
 TYPED_TEST(Records, AppendOrReplaceKeysOfWhichTheFirstCount) {
     const Expected& keys = Keys<TypeParam>;
-    Section section = SectionOf(keys.Default);
+    const std::string plain = Written(TypeParam());
+    Section section = SectionOf(plain);
     static_cast<void>(ReadFrom<TypeParam>(SectionOf(keys.Changed)).Write(section));
-    const std::string both = Written(TypeParam()) + keys.Changed;
-    EXPECT_EQ(section.NumKeys(), SectionOf(both).NumKeys() * (keys.Appends ? 2 : 1));
-    EXPECT_EQ(Written(ReadFrom<TypeParam>(section)), keys.Appends ? keys.Default : keys.Changed);
+    EXPECT_EQ(section.NumKeys(), SectionOf(plain).NumKeys() * (keys.Appends ? 2 : 1));
+    EXPECT_EQ(Written(ReadFrom<TypeParam>(section)), keys.Appends ? plain : keys.Changed);
 }
 
 TYPED_TEST(Records, ListTheKeysThatTheyWrite) {

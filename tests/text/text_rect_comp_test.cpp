@@ -15,6 +15,16 @@
 
 namespace {
 
+// A depth needs the style of depth labels, and 0 is no text.
+template <class Style>
+concept TakesDepths = requires(TextRectComp rects, Style style) {
+    rects(style, 7.25);
+}
+|| requires(TextRectComp rects, Style style) {
+    rects(style, 0);
+};
+static_assert(TakesDepths<DepthLabelInfo> && !TakesDepths<TextInfo>);
+
 // A monospaced style that is wrapped to so many characters, and a little.
 TextInfo Wrapped(double characters) {
     TextRectComp rects;

@@ -20,21 +20,27 @@ class MARLIN_API DXFInfo {
 public:
     constexpr DXFInfo() noexcept = default;
 
+    /// In drawing units; negative where a file or a text says so.
     [[nodiscard]] constexpr float Width() const noexcept { return m_Width; }
+    /// A color word of 32 bits: red is the lowest byte.
     [[nodiscard]] constexpr unsigned long Color() const noexcept { return m_Color; }
+    /// A code of the host, any integer.
     [[nodiscard]] constexpr int ColorMode() const noexcept { return m_ColorMode; }
 
     /// Stores the absolute value.
     void SetWidth(float width) noexcept;
-    constexpr void SetColor(unsigned long color) noexcept { m_Color = color; }
+    /// Stores the lower 32 bits.
+    constexpr void SetColor(unsigned long color) noexcept { m_Color = color & 0xFFFFFFFF; }
+    /// Stores the code unchecked.
     constexpr void SetColorMode(int mode) noexcept { m_ColorMode = mode; }
 
+    /// Exact, in all fields.
     constexpr bool operator==(const DXFInfo& other) const noexcept = default;
 
     /// "width,palette index,color mode,color word".
     [[nodiscard]] std::string ToString() const;
     /// Starts from the defaults, and keeps them if there are fewer than 3 items. A color word wins
-    /// over the palette index; an item that does not convert is ignored.
+    /// over the palette index; an item that does not convert is ignored. The width keeps its sign.
     void FromString(const std::string& text);
 
     /// Returns true. Without a readable key width and color mode stay as they were, but the color

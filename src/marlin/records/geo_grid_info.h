@@ -24,12 +24,16 @@ class MARLIN_API GeoGridInfo {
 public:
     GeoGridInfo() = default;
     GeoGridInfo(const GeoGridInfo&) = default;
+    GeoGridInfo(GeoGridInfo&&) = default;
     GeoGridInfo& operator=(const GeoGridInfo&) = default;
+    GeoGridInfo& operator=(GeoGridInfo&&) = default;
     virtual ~GeoGridInfo();
 
-    /// A color word.
+    /// A color word of 32 bits: red is the lowest byte.
     [[nodiscard]] unsigned long GridColor() const noexcept { return m_GridColor; }
+    /// A code of the host's labels, any integer.
     [[nodiscard]] int LatLonStyle() const noexcept { return m_LatLonStyle; }
+    /// The number of decimals of the labels, not checked.
     [[nodiscard]] int LatLonDecimals() const noexcept { return m_LatLonDecimals; }
     /// True when the letter of the hemisphere is after the value, as in 54.5 N.
     [[nodiscard]] bool TrailingHemisphereIndicator() const noexcept {
@@ -37,22 +41,33 @@ public:
     }
     /// True when labels show the symbols of degrees, minutes and seconds.
     [[nodiscard]] bool DegMinSecSymbols() const noexcept { return m_DegMinSecSymbols; }
+    /// A code of the host's lines, any integer.
     [[nodiscard]] int GridStyle() const noexcept { return m_GridStyle; }
+    /// The distance of the parallels in degrees, never negative.
     [[nodiscard]] double LatInterval() const noexcept { return m_LatInterval; }
+    /// The distance of the meridians in degrees, never negative.
     [[nodiscard]] double LonInterval() const noexcept { return m_LonInterval; }
 
-    void GridColor(const unsigned long& color) noexcept { m_GridColor = color; }
+    /// Stores the lower 32 bits.
+    void GridColor(const unsigned long& color) noexcept { m_GridColor = color & 0xFFFFFFFF; }
+    /// Stores the code unchecked.
     void LatLonStyle(int style) noexcept { m_LatLonStyle = style; }
+    /// Stores the number unchecked.
     void LatLonDecimals(int decimals) noexcept { m_LatLonDecimals = decimals; }
+    /// True puts the letter of the hemisphere after the value.
     void TrailingHemisphereIndicator(bool trailing) noexcept {
         m_TrailingHemisphereIndicator = trailing;
     }
+    /// True shows the symbols of degrees, minutes and seconds.
     void DegMinSecSymbols(bool shown) noexcept { m_DegMinSecSymbols = shown; }
+    /// Stores the code unchecked.
     void GridStyle(int style) noexcept { m_GridStyle = style; }
     /// Stores the absolute value.
     void LatInterval(double interval) noexcept;
+    /// Stores the absolute value.
     void LonInterval(double interval) noexcept;
 
+    /// Intervals within the tolerance of `MATH::Equal`, all else exactly.
     bool operator==(const GeoGridInfo& other) const noexcept;
 
     /// Returns true. Without a readable key a field stays as it was, but the color becomes black.

@@ -12,14 +12,14 @@ namespace {
 
 constexpr NamedValue parts[] = {
     {0, "", "nothing is drawn"},
-    {1, "POINTS", "points"},
-    {2, "X_LINES", "x lines"},
-    {4, "Y_LINES", "y lines"},
-    {8, "X_TICKS", "x ticks"},
-    {16, "Y_TICKS", "y ticks"},
-    {32, "X_MINORTICKS", "x minor ticks"},
-    {64, "Y_MINORTICKS", "y minor ticks"},
-    {128, "LONG_NORTHTICK", "long tick at north"},
+    {GridInfo::POINTS, "POINTS", "points"},
+    {GridInfo::X_LINES, "X_LINES", "x lines"},
+    {GridInfo::Y_LINES, "Y_LINES", "y lines"},
+    {GridInfo::X_TICKS, "X_TICKS", "x ticks"},
+    {GridInfo::Y_TICKS, "Y_TICKS", "y ticks"},
+    {GridInfo::X_MINORTICKS, "X_MINORTICKS", "x minor ticks"},
+    {GridInfo::Y_MINORTICKS, "Y_MINORTICKS", "y minor ticks"},
+    {GridInfo::LONG_NORTHTICK, "LONG_NORTHTICK", "long tick at north"},
 };
 
 // A mark is kept between double quotes, which save its blanks from being trimmed.
@@ -99,12 +99,16 @@ std::string GridInfo::FormatGridStyle() const {
 
 void GridInfo::UnFormatGridStyle(const std::string& text) {
     Style = 0;
-    const FormatString words(text, ',');
+    const FormatString items(text, ',');
+    FormatString words(',');
+    for (int i = 0; i < items.Size(); ++i) {
+        std::string word = items[i];
+        trim(word, " \t");  // people put a blank after a comma
+        words += word;
+    }
     // Whole words count: "X_MINORTICKS" does not hold "X_TICKS". The part without a word has no
     // bit.
     for (const auto& [bit, word, meaning] : parts) {
-        if (words.HasSubString(word)) {
-            Style |= bit;
-        }
+        Style |= words.HasSubString(word) ? bit : 0;
     }
 }

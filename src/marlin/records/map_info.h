@@ -20,18 +20,30 @@ class MARLIN_API CMapInfo {
 public:
     constexpr CMapInfo() noexcept = default;
 
+    /// A code of the host's chart renderer, any integer.
     [[nodiscard]] constexpr int SymbolizationType() const noexcept { return m_SymbolizationType; }
+    /// A code of the host's chart renderer, any integer.
     [[nodiscard]] constexpr int ScaleLevel() const noexcept { return m_ScaleLevel; }
+    /// A code of the host's chart renderer, any integer.
     [[nodiscard]] constexpr int DisplayType() const noexcept { return m_DisplayType; }
+    /// Whether generic texts are shown.
     [[nodiscard]] constexpr bool TextGeneric() const noexcept { return m_TextGeneric; }
+    /// Whether other texts are shown.
     [[nodiscard]] constexpr bool TextOther() const noexcept { return m_TextOther; }
+    /// Whether the chart's own contours are shown.
     [[nodiscard]] constexpr bool ChartContour() const noexcept { return m_ChartContour; }
+    /// Whether lights are described.
     [[nodiscard]] constexpr bool LightsInfo() const noexcept { return m_LightsInfo; }
+    /// Whether crowded symbols are thinned out.
     [[nodiscard]] constexpr bool AntiCluttering() const noexcept { return m_AntiCluttering; }
+    /// Whether boundaries are shown.
     [[nodiscard]] constexpr bool Boundaries() const noexcept { return m_Boundaries; }
 
+    /// Stores the code unchecked.
     constexpr void SetSymbolizationType(int type) noexcept { m_SymbolizationType = type; }
+    /// Stores the code unchecked.
     constexpr void SetScaleLevel(int level) noexcept { m_ScaleLevel = level; }
+    /// Stores the code unchecked.
     constexpr void SetDisplayType(int type) noexcept { m_DisplayType = type; }
     constexpr void SetTextGeneric(bool show) noexcept { m_TextGeneric = show; }
     constexpr void SetTextOther(bool show) noexcept { m_TextOther = show; }
@@ -40,6 +52,7 @@ public:
     constexpr void SetAntiCluttering(bool on) noexcept { m_AntiCluttering = on; }
     constexpr void SetBoundaries(bool show) noexcept { m_Boundaries = show; }
 
+    /// Exact, in all fields.
     constexpr bool operator==(const CMapInfo& other) const noexcept = default;
 
     /// Returns true. A key that is missing or unreadable leaves its field as it was.

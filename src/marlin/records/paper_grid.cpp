@@ -16,14 +16,12 @@ double SetStep(double step) noexcept {
 }
 
 double Snap(double position, double step, double origin) noexcept {
-    if (step == 0.0) {
-        return position;
-    }
     // Rounding the distance without its sign takes halves away from the origin on either side.
     const double distance = position - origin;
     const double steps = std::floor(std::fabs(distance) / step + 0.5);
     const double sign = distance >= 0.0 ? 1.0 : -1.0;
-    return steps * sign * step + origin;
+    const double snapped = steps * sign * step + origin;
+    return std::isfinite(snapped) ? snapped : position;
 }
 
 // Files hold steps of any size, also below the 1 of the setters.

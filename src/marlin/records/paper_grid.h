@@ -20,27 +20,42 @@ class Section;
 /// @endcode
 class MARLIN_API PaperGrid {
 public:
+    /// Steps of 1 from (0, 0).
+    PaperGrid() noexcept : PaperGrid(1.0) {}
     /// Stores the absolute values of the steps.
-    explicit PaperGrid(double xStep = 1.0, double yStep = 1.0,
-                       const GTL::Point2D<float>& origin = {}, bool snapOn = true,
-                       bool visible = true) noexcept;
+    explicit PaperGrid(double xStep, double yStep = 1.0, const GTL::Point2D<float>& origin = {},
+                       bool snapOn = true, bool visible = true) noexcept;
     PaperGrid(const PaperGrid&) = default;
+    PaperGrid(PaperGrid&&) = default;
     PaperGrid& operator=(const PaperGrid&) = default;
+    PaperGrid& operator=(PaperGrid&&) = default;
     virtual ~PaperGrid();
 
+    /// Never negative.
     [[nodiscard]] double XStep() const noexcept { return m_XStep; }
+    /// Never negative.
     [[nodiscard]] double YStep() const noexcept { return m_YStep; }
+    /// One of the points of the grid, not checked.
+    [[nodiscard]] const GTL::Point2D<float>& Origin() const noexcept { return m_Origin; }
+    /// Whether the grid is drawn.
     [[nodiscard]] bool Visible() const noexcept { return m_Visible; }
+    /// Whether the host is to snap positions.
     [[nodiscard]] bool SnapOn() const noexcept { return m_SnapOn; }
     /// The nearest point of the grid; halfway between two lines, that of the line farther from the
-    /// grid's own point. `SnapOn()` plays no part. A step of 0 leaves its coordinate as it is.
+    /// grid's own point. `SnapOn()` plays no part. A coordinate stays as it is where the grid has
+    /// no finite line for it: with a step of 0, or one too small or too great, or an origin that is
+    /// not finite. So the result of a finite point is finite.
     [[nodiscard]] GTL::Point2D<double> SnapToGrid(const GTL::Point2D<double>& point) const noexcept;
 
     /// Stores the absolute value, or 1 when that is less or not a number.
     void XStep(double step) noexcept;
+    /// Stores the absolute value, or 1 when that is less or not a number.
     void YStep(double step) noexcept;
+    /// Whether the grid is to be drawn.
     void Visible(bool visible) noexcept { m_Visible = visible; }
+    /// Whether the host is to snap positions.
     void SnapOn(bool on) noexcept { m_SnapOn = on; }
+    /// Shows a hidden grid and hides a shown one.
     void ToggleVisible() noexcept { m_Visible = !m_Visible; }
 
     /// Returns success. A key that is missing or unreadable leaves its field as it was; steps lose

@@ -17,9 +17,9 @@ namespace MARLINSUITE {
 
 /// One of the values that a key has names for.
 struct NamedValue {
-    int Value;
+    int Value;            ///< The number of an enumeration or the bit, or 0 or 1 of a flag.
     const char* Text;     ///< As the key holds it; empty for a plain number.
-    const char* Meaning;  ///< For people.
+    const char* Meaning;  ///< For people, a few words in small letters.
 };
 
 /// The value that has the text, ignoring case, or else `otherwise`.
@@ -37,14 +37,14 @@ struct MARLIN_API RecordKey {
     /// The unit of lengths in a plot.
     static constexpr const char* Plot = "plot units";
 
-    const char* Name = "";
+    const char* Name = "";  ///< In a section without a prefix, letter for letter.
     /// The place of its field among the fields of the record as people read them, from 1. Of
     /// several keys with one field the last one that is readable counts.
     int Field = 0;
-    const char* Meaning = "";  ///< For people, without the unit.
-    const char* Unit = "";
-    std::span<const NamedValue> Values = {};
-    bool AreBits = false;           ///< Whether values are sums of the named ones.
+    const char* Meaning = "";                 ///< For people, without the unit.
+    const char* Unit = "";                    ///< For people; empty for a value without one.
+    std::span<const NamedValue> Values = {};  ///< Empty where every value means itself.
+    bool AreBits = false;                     ///< Whether values are sums of the named ones.
     bool IsCommon = false;          ///< Whether other records have a key of that name as well.
     bool IsOlder = false;           ///< Whether it is only read, in the files of older programs.
     const char* PrefixedName = "";  ///< The name after a prefix, where it is another one.
@@ -57,13 +57,14 @@ struct MARLIN_API RecordKey {
     [[nodiscard]] std::string MeaningOf(double value) const;
 };
 
+/// The value of a field: a flag, a number, a text, a color word or an index into the palette.
 using RecordValue = std::variant<bool, int, float, double, std::string, RGBColor, DXFColor>;
 
 /// A key with the value that a record has for it.
 struct RecordField {
-    RecordKey Key;
-    RecordValue Value;
-    std::string Text;  ///< The value as the record writes it.
+    RecordKey Key;      ///< The key, the same for every record of a class.
+    RecordValue Value;  ///< What the record has.
+    std::string Text;   ///< The value as the record writes it.
 };
 
 /// The keys in the order in which the record writes them.

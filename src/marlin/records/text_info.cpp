@@ -34,8 +34,7 @@ constexpr NamedValue justifications[] = {
     {TextInfo::BASELINE_RIGHT, "", "baseline right"},
 };
 
-constexpr auto AllStyles =
-    static_cast<TextInfo::STYLE>(TextInfo::BOLD | TextInfo::ITALIC | TextInfo::UNDERLINE);
+constexpr TextInfo::STYLE AllStyles = TextInfo::BOLD | TextInfo::ITALIC | TextInfo::UNDERLINE;
 
 constexpr int NumItems = 10;
 // A record that extends this one once wrote 14 items, none of them a color word.

@@ -21,8 +21,8 @@ class FormatString;
 /// @code
 /// TextInfo title;
 /// title.SetFont("Times");
-/// title.SetStyle(TextInfo::BOLD);
-/// assert(title.ToString() == "Times,2.5,1,0,0,0,0,0,0,0");
+/// title.SetStyle(TextInfo::BOLD | TextInfo::ITALIC);
+/// assert(title.ToString() == "Times,2.5,3,0,0,0,0,0,0,0");
 /// TextInfo read;
 /// read.FromString(title.ToString());
 /// assert(read == title);
@@ -31,65 +31,87 @@ class MARLIN_API TextInfo {
 public:
     /// Bits; any combination from 0 to 7.
     enum STYLE : int {
-        BOLD = 1,
-        ITALIC = 2,
-        UNDERLINE = 4,
+        BOLD = 1,       ///< weight 700 instead of 400
+        ITALIC = 2,     ///< slanted
+        UNDERLINE = 4,  ///< with a line below
     };
+    /// Both styles at once.
+    friend constexpr STYLE operator|(STYLE a, STYLE b) noexcept {
+        return static_cast<STYLE>(static_cast<int>(a) | static_cast<int>(b));
+    }
     /// Codes to which the host gives a meaning.
     enum ANNOTATION : int {
-        ANNOTATION_0 = 0,
-        ANNOTATION_1 = 1,
-        ANNOTATION_2 = 2,
-        ANNOTATION_3 = 3,
+        ANNOTATION_0 = 0,  ///< the default
+        ANNOTATION_1 = 1,  ///< as the host says
+        ANNOTATION_2 = 2,  ///< as the host says
+        ANNOTATION_3 = 3,  ///< as the host says
     };
-    /// The point of the text's box that lies on the anchor.
+    /// The point of the text's box that lies on the anchor. 0 to 7 go round the box,
+    /// counter-clockwise.
     enum JUSTIFICATION : int {
-        BOTTOM_LEFT = 0,
-        BOTTOM_CENTER = 1,
-        BOTTOM_RIGHT = 2,
-        MIDDLE_RIGHT = 3,
-        TOP_RIGHT = 4,
-        TOP_CENTER = 5,
-        TOP_LEFT = 6,
-        MIDDLE_LEFT = 7,
-        MIDDLE_CENTER = 8,
-        BASELINE_LEFT = 9,
-        BASELINE_CENTER = 10,
-        BASELINE_RIGHT = 11,
+        BOTTOM_LEFT = 0,       ///< the lower left corner
+        BOTTOM_CENTER = 1,     ///< the middle of the lower side
+        BOTTOM_RIGHT = 2,      ///< the lower right corner
+        MIDDLE_RIGHT = 3,      ///< the middle of the right side
+        TOP_RIGHT = 4,         ///< the upper right corner
+        TOP_CENTER = 5,        ///< the middle of the upper side
+        TOP_LEFT = 6,          ///< the upper left corner
+        MIDDLE_LEFT = 7,       ///< the middle of the left side
+        MIDDLE_CENTER = 8,     ///< the centre
+        BASELINE_LEFT = 9,     ///< the left end of the line that the letters stand on
+        BASELINE_CENTER = 10,  ///< the middle of that line
+        BASELINE_RIGHT = 11,   ///< the right end of that line
     };
 
     TextInfo() = default;
 
+    /// The name of the face; empty only where a text says so.
     [[nodiscard]] const std::string& Font() const noexcept { return m_Font; }
+    /// The height of the characters in plot units; negative where a text says so.
     [[nodiscard]] float Size() const noexcept { return m_Size; }
+    /// 0 to 7, a sum of bits.
     [[nodiscard]] STYLE Style() const noexcept { return m_Style; }
+    /// 0 to 3, a code of the host.
     [[nodiscard]] ANNOTATION Annotation() const noexcept { return m_Annotation; }
+    /// In degrees, clockwise when y points up.
     [[nodiscard]] const Angle& Rotation() const noexcept { return m_Rotation; }
+    /// One of the twelve, unless a host has stored another number.
     [[nodiscard]] JUSTIFICATION Justification() const noexcept { return m_Justification; }
+    /// A color word of 32 bits: red is the lowest byte.
     [[nodiscard]] const unsigned long& Color() const noexcept { return m_Color; }
-    /// The width into which a text of several lines is fitted.
+    /// The width in plot units into which a text of several lines is fitted; negative where a text
+    /// says so.
     [[nodiscard]] float RectWidth() const noexcept { return m_RectWidth; }
+    /// Whether the text is broken into lines.
     [[nodiscard]] bool MultiLine() const noexcept { return m_MultiLine; }
 
     /// Stores "Arial" for an empty name.
     void SetFont(const std::string& font);
     /// Stores the absolute value.
     void SetSize(float size) noexcept { m_Size = std::fabs(size); }
+    /// Stores the bits unchecked.
     void SetStyle(STYLE style) noexcept { m_Style = style; }
+    /// Stores the code unchecked.
     void SetAnnotation(ANNOTATION annotation) noexcept { m_Annotation = annotation; }
+    /// In degrees, clockwise when y points up.
     void SetRotation(const Angle& rotation) noexcept { m_Rotation = rotation; }
+    /// Stores the number unchecked.
     void SetJustification(JUSTIFICATION justification) noexcept { m_Justification = justification; }
-    void SetColor(const unsigned long& color) noexcept { m_Color = color; }
+    /// Stores the lower 32 bits.
+    void SetColor(const unsigned long& color) noexcept { m_Color = color & 0xFFFFFFFF; }
     /// Stores the absolute value.
     void SetRectWidth(float width) noexcept { m_RectWidth = std::fabs(width); }
+    /// True has the text broken into lines.
     void SetMultiLine(bool multiLine) noexcept { m_MultiLine = multiLine; }
 
     /// The flags for `SetTextAlign`, which knows no middle: it counts as the bottom.
     [[nodiscard]] int WinAlignment() const noexcept;
-    /// The group codes 72 and 73 of a DXF TEXT entity.
+    /// The group code 72 of a DXF TEXT entity: 0 left, 1 centre, 2 right.
     [[nodiscard]] int AcadHJust() const noexcept;
+    /// The group code 73 of a DXF TEXT entity: 0 baseline, 1 bottom, 2 middle, 3 top.
     [[nodiscard]] int AcadVJust() const noexcept;
-    /// The group code 71 of a DXF MTEXT entity, which knows no baseline: it counts as the bottom.
+    /// The group code 71 of a DXF MTEXT entity, 1 to 9 row by row from the top left. It knows no
+    /// baseline, which counts as the bottom.
     [[nodiscard]] int AcadAttachmentPoint() const noexcept;
     /// Takes the justification of the group code; `BOTTOM_LEFT` for a code outside 1 to 9.
     void AcadAttachmentPoint(int attachmentPoint) noexcept;

@@ -54,6 +54,8 @@ public:
     /// above `MaxDecimals` counts as that.
     [[nodiscard]] std::pair<LabelPart, LabelPart> operator()(const DepthLabelInfo& dli,
                                                              double depth);
+    /// A depth needs the style of depth labels; a 0 for a text is ambiguous because of this.
+    void operator()(const TextInfo& ti, double depth) = delete;
 
     /// As many decimals as the smallest double has.
     static constexpr int MaxDecimals = 1074;

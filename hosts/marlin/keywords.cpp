@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "families.h"
 #include "input/files.h"
-#include "input/input.h"
 #include "input/settings_source.h"
 #include "output/json.h"
 #include "output/table.h"
@@ -28,7 +27,7 @@ bool IsPredefined(const CKeyword& keyword) {
 std::string ReadTextOrFile(const std::string& argument) {
     std::error_code unknown;
     if (argument.find('%') != std::string::npos && !std::filesystem::exists(argument, unknown)) {
-        return TextOfArgument(argument);
+        return argument;
     }
     std::string text;
     Require(ReadText(argument, text));

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "files.h"
 
-#include "input.h"
 #include <marlin/base/files/file_replacement.h>
 
 #include <cerrno>

@@ -4,10 +4,14 @@
 #include "output/output.h"
 #include <marlin/platform/kernel/file_lock.h>
 
+#include <cstddef>
 #include <string>
 
 /// The files that commands name, where "-" is standard input or standard output.
 namespace HOST {
+
+/// The program refuses larger text files: somebody has mistaken the file.
+inline constexpr std::size_t LargestTextFile = 256U * 1024U * 1024U;
 
 [[nodiscard]] bool IsStandard(const std::string& path);
 

@@ -2,7 +2,7 @@
 #include "settings_text.h"
 
 #include "ignoring_case.h"
-#include "input.h"
+#include "output/failure.h"
 #include <marlin/base/files/settings_grammar.h>
 #include <marlin/platform/text/code_page.h>
 
@@ -94,10 +94,15 @@ std::string SettingsText::Bytes() const {
 }
 
 std::string SettingsText::FromArgument(const std::string& typed) const {
-    if (!m_IsUtf8) {
-        return TextOfArgument(typed);
+    const std::string utf8 = PLATFORM::ToUtf8(typed);
+    if (m_IsUtf8) {
+        return utf8;
     }
-    return PLATFORM::IsUtf8(typed) ? typed : PLATFORM::ToUtf8(typed);
+    const std::string text = PLATFORM::FromUtf8(utf8);
+    if (PLATFORM::ToUtf8(text) != utf8) {
+        Fail("\"" + typed + "\" holds a character that Windows-1252 lacks");
+    }
+    return text;
 }
 
 std::string SettingsText::Updated(const std::string& block, const Section& section) const {

@@ -42,7 +42,7 @@ std::string Shown(std::string_view text) {
 }
 
 std::string AsUtf8(std::string_view bytes) {
-    return PLATFORM::IsUtf8(bytes) ? std::string(bytes) : PLATFORM::ToUtf8(bytes);
+    return PLATFORM::ToUtf8(bytes);
 }
 
 std::string NumberText(int value) {

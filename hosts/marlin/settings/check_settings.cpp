@@ -30,6 +30,7 @@ struct Check {
 
     explicit Check(const std::string& path);
     void ReportAll() const;
+    void ReportRemarks() const;
 };
 
 Check::Check(const std::string& path) {
@@ -46,11 +47,26 @@ Check::Check(const std::string& path) {
     }
 }
 
-void Check::ReportAll() const {
+void Check::ReportRemarks() const {
+    constexpr std::size_t most = 20;  // for a file of another kind has a fault on each line
+    std::size_t numErrors = 0;
+    std::size_t numWarnings = 0;
     for (const SettingsRemark& remark : Source.Scan().Remarks) {
         const bool isError = remark.Kind == SettingsRemark::ERROR;
-        Report(AtLine(Source.Path(), remark.Line, isError ? "" : "warning: ") + remark.Cause);
+        if (++(isError ? numErrors : numWarnings) <= most) {
+            Report(AtLine(Source.Path(), remark.Line, isError ? "" : "warning: ") + remark.Cause);
+        }
     }
+    if (numErrors > most) {
+        Report(Source.Path() + ": and " + CountText(numErrors - most, "more error"));
+    }
+    if (numWarnings > most) {
+        Report(Source.Path() + ": and " + CountText(numWarnings - most, "more warning"));
+    }
+}
+
+void Check::ReportAll() const {
+    ReportRemarks();
     if (!Failure.empty()) {
         Report(Failure);
     }

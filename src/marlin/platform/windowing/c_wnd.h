@@ -23,7 +23,8 @@ class CDataExchange;
 /// };
 /// Receiver receiver;
 /// receiver.Create();
-/// assert(receiver.SendMessage(WM_USER) == 7);
+/// const LRESULT answer = receiver.SendMessage(WM_USER);
+/// assert(answer == 7);
 /// @endcode
 class MARLIN_API CWnd {
 public:

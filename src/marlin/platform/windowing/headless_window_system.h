@@ -22,7 +22,8 @@ class HeadlessUser;
 /// PLATFORM::HeadlessWindowSystem windows;
 /// PLATFORM::WindowSystem::SetCurrent(&windows);
 /// windows.Script().InDialog([](PLATFORM::DialogUser& user) { user.Click(IDOK); });
-/// assert(DLG::EditContourList("sheet.cdf"));
+/// const bool isChanged = DLG::EditContourList("sheet.cdf");
+/// assert(isChanged);
 /// PLATFORM::WindowSystem::SetCurrent(nullptr);
 /// @endcode
 class MARLIN_API HeadlessWindowSystem final : public WindowSystem {

@@ -217,8 +217,13 @@ int ReadWhole(const std::string& path, std::size_t limit, std::string& bytes,
               File::WAITING waiting) {
     constexpr std::size_t smallestStep = 64 * 1024;
     File file;
-    if (const int error = file.OpenForReading(path, waiting); error != 0) {
-        return error;
+    FileStatus status;
+    int error = file.OpenForReading(path, waiting);
+    if (error == 0) {
+        error = file.Status(status);
+    }
+    if (error != 0 || status.Size > limit) {  // a pipe or a device has no size
+        return error != 0 ? error : EFBIG;
     }
     std::string read;
     std::size_t count = 1;
@@ -227,8 +232,8 @@ int ReadWhole(const std::string& path, std::size_t limit, std::string& bytes,
         const std::size_t step = std::max(smallestStep, size);
         read.resize(size + std::min(step, limit - size) +
                     1);  // the last byte is one beyond the limit
-        if (const int error = file.Read(read.data() + size, read.size() - size, count);
-            error != 0) {
+        error = file.Read(read.data() + size, read.size() - size, count);
+        if (error != 0) {
             return error;
         }
         read.resize(size + count);

@@ -11,51 +11,61 @@
 
 namespace {
 
-std::string Seal(const TemporaryFolder& folder, const std::string& payload) {
-    const std::string path = folder.File("sealed");
-    CRCFile file;
-    EXPECT_TRUE(file.Open(path, "w+b").Empty());
-    EXPECT_EQ(file.Write(payload.data(), 1, static_cast<unsigned int>(payload.size())),
-              payload.size());
-    file.Close();
-    EXPECT_FALSE(file.IsOpen());
-    return path;
+class CRCFileTest : public testing::Test {
+protected:
+    const TemporaryFolder m_Folder;
+    const std::string m_Path = m_Folder.File("sealed");
+    CRCFile m_File;
+
+    // Opens the file for writing.
+    void SetUp() override { ASSERT_TRUE(m_File.Open(m_Path, "w+b").Empty()); }
+
+    static unsigned int Write(CRCFile& file, const std::string& bytes) {
+        return file.Write(bytes.data(), 1, static_cast<unsigned int>(bytes.size()));
+    }
+    // The bytes of the closed file.
+    std::string Sealed(const std::string& payload) {
+        EXPECT_EQ(Write(m_File, payload), payload.size());
+        m_File.Close();
+        return TemporaryFolder::Read(m_Path);
+    }
+    static bool Opens(const std::string& path) { return CRCFile().Open(path, "rb").Empty(); }
+
+    // The cause that the last error has: of closing, empty after a success.
+    static std::string CauseOfClosing(CRCFile& file) {
+        file.Close();
+        const ErrorString error = ErrorString::LastError();
+        EXPECT_EQ(error.Text(), error.Cause().empty() ? "" : "Operation failed.");
+        return error.Cause();
+    }
+};
+
+const char* const sealedDigits = "123456789\x26\x39\xF4\xCB";
+
+TEST_F(CRCFileTest, AppendsTheChecksumLowByteFirstAndReadsBackWhatWasSealed) {
+    EXPECT_EQ(Sealed("123456789"), sealedDigits);
+    EXPECT_FALSE(m_File.IsOpen());
+    EXPECT_EQ(CRCFile::GetCRC(m_Path), 0xCBF43926U);
+    ASSERT_TRUE(m_File.Open(m_Path, "rb").Empty());
+    EXPECT_EQ(m_File.Tell(), 0U);
+    std::array<char, 14> bytes{};
+    EXPECT_EQ(m_File.Read(bytes.data(), 1, 14), 13U);  // the trailer is there to be read too
+    EXPECT_STREQ(bytes.data(), sealedDigits);
+    EXPECT_TRUE(m_File.Seek(-4, SEEK_END));
+    EXPECT_EQ(m_File.Tell(), 9U);
+    m_File.Rewind();
+    EXPECT_EQ(m_File.Read(bytes.data(), 4, 4), 3U);
+    EXPECT_EQ(CauseOfClosing(m_File), "");
+    EXPECT_EQ(TemporaryFolder::Read(m_Path), sealedDigits);
 }
 
-TEST(CRCFile, AppendsTheChecksumLowByteFirst) {
-    const TemporaryFolder folder;
-    const std::string path = Seal(folder, "123456789");
-    EXPECT_EQ(TemporaryFolder::Read(path), "123456789\x26\x39\xF4\xCB");
-    EXPECT_EQ(CRCFile::GetCRC(path), 0xCBF43926U);
-    EXPECT_EQ(TemporaryFolder::Read(Seal(folder, "")), std::string(4, '\0'));
-}
-
-TEST(CRCFile, ReadsBackFromTheStartWhatWasSealed) {
-    const TemporaryFolder folder;
-    const std::string path = Seal(folder, "123456789");
-    CRCFile file;
-    ASSERT_TRUE(file.Open(path, "rb").Empty());
-    EXPECT_EQ(file.Tell(), 0U);
-    std::array<char, 10> bytes{};
-    EXPECT_EQ(file.Read(bytes.data(), 2, 5), 5U);  // the trailer is there to be read too
-    EXPECT_TRUE(file.Seek(-4, SEEK_END));
-    EXPECT_EQ(file.Tell(), 9U);
-    file.Rewind();
-    EXPECT_EQ(file.Read(bytes.data(), 1, 9), 9U);
-    EXPECT_EQ(std::string(bytes.data(), 9), "123456789");
-    file.Close();
-    EXPECT_EQ(TemporaryFolder::Read(path).size(), 13U);
-}
-
-TEST(CRCFile, RefusesEverySingleChangedByteAndShortFiles) {
-    const TemporaryFolder folder;
-    const std::string whole = TemporaryFolder::Read(Seal(folder, "payload"));
+TEST_F(CRCFileTest, RefusesEverySingleChangedByteAndShortFiles) {
+    const std::string whole = Sealed("payload");
     const auto refused = [&](const std::string& bytes) {
-        const std::string path = folder.Write("changed", bytes);
-        CRCFile file;
-        const ErrorString error = file.Open(path, "rb");
+        const std::string path = m_Folder.Write("changed", bytes);
+        const ErrorString error = m_File.Open(path, "rb");
         return error.Text() == "Error opening \"" + path + "\". The file has an invalid checksum" &&
-               !file.IsOpen();
+               !m_File.IsOpen();
     };
     for (std::size_t i = 0; i < whole.size(); ++i) {
         std::string changed = whole;
@@ -65,131 +75,98 @@ TEST(CRCFile, RefusesEverySingleChangedByteAndShortFiles) {
     }
     EXPECT_TRUE(refused(whole + "x"));
     EXPECT_FALSE(refused(whole));
+    EXPECT_FALSE(refused(std::string(4, '\0'))) << "no payload";
+    EXPECT_EQ(CRCFile::GetCRC(m_Folder.Write("short", "abc")), 0U);
 }
 
-TEST(CRCFile, SaysWhichFileCannotBeOpened) {
-    const TemporaryFolder folder;
-    const std::string path = folder.File("none");
-    CRCFile file;
-    EXPECT_EQ(file.Open(path, "rb").Text(), "Error opening \"" + path + "\".");
-    EXPECT_EQ(CRCFile::GetCRC(path), 0U);
-    EXPECT_EQ(CRCFile::GetCRC(folder.Write("short", "abc")), 0U);
-    EXPECT_EQ(file.Write("x", 1, 1), 0U);
-    EXPECT_FALSE(file.Seek(0, SEEK_SET));
-    EXPECT_FALSE(file.Flush());
+TEST_F(CRCFileTest, CoversPayloadsLargerThanItsBlocks) {
+    std::string bytes = Sealed(std::string(700'001, 'a'));
+    EXPECT_TRUE(Opens(m_Path));
+    bytes[600'000] = 'b';
+    EXPECT_FALSE(Opens(m_Folder.Write("changed", bytes)));
 }
 
-TEST(CRCFile, OpeningASecondFileCompletesTheFirst) {
-    const TemporaryFolder folder;
-    CRCFile file;
-    ASSERT_TRUE(file.Open(folder.File("first"), "w+b").Empty());
-    file.Write("123456789", 1, 9);
-    EXPECT_TRUE(file.Flush());
-    ASSERT_TRUE(file.Open(folder.File("second"), "w+b").Empty());
-    EXPECT_TRUE(CRCFile().Open(folder.File("first"), "rb").Empty());
-}
-
-TEST(CRCFile, AssignedFilesShareOneStreamThatIsClosedOnce) {
-    const TemporaryFolder folder;
-    {
-        CRCFile first;
-        CRCFile second;
-        ASSERT_TRUE(first.Open(folder.File("shared"), "w+b").Empty());
-        second = first;
-        first.Write("1234", 4, 1);
-        second.Write("56789", 5, 1);
-        first.Close();
-        EXPECT_FALSE(second.IsOpen());
-        EXPECT_EQ(second.Write("x", 1, 1), 0U);
-        second.Close();
+TEST_F(CRCFileTest, SaysWhichFileCannotBeOpenedAndIsClosedThen) {
+    for (const auto& [path, reason] :
+         {std::pair(m_Folder.File("none"), "No such file or directory"),
+          std::pair(m_Folder.File(""), "Is a directory")}) {
+        const ErrorString error = m_File.Open(path, "rb");
+        EXPECT_EQ(error.Text(), "Error opening \"" + path + "\".");
+        EXPECT_EQ(error.Cause(), path + ": " + reason);
+        EXPECT_EQ(CRCFile::GetCRC(path), 0U);
+        char byte = 0;
+        EXPECT_EQ(m_File.Write("x", 1, 1) + m_File.Read(&byte, 1, 1), 0U);
+        EXPECT_EQ(m_File.Tell(), 0xFFFFFFFFU);
+        EXPECT_FALSE(m_File.Seek(0, SEEK_SET));
+        EXPECT_FALSE(m_File.Flush());
     }
-    EXPECT_EQ(CRCFile::GetCRC(folder.File("shared")), 0xCBF43926U);
-    EXPECT_EQ(TemporaryFolder::Read(folder.File("shared")).size(), 13U);
 }
 
-TEST(CRCFile, IsClosedWhenItIsDestroyedAndWhenAnotherIsAssigned) {
-    const TemporaryFolder folder;
+TEST_F(CRCFileTest, IsCompletedByOpeningDestroyingAndAssigning) {
     CRCFile assigned;
     {
         CRCFile destroyed;
-        ASSERT_TRUE(destroyed.Open(folder.File("destroyed"), "w+b").Empty());
-        ASSERT_TRUE(assigned.Open(folder.File("assigned"), "w+b").Empty());
-        destroyed.Write("123456789", 1, 9);
-        assigned.Write("123456789", 1, 9);
+        ASSERT_TRUE(destroyed.Open(m_Folder.File("destroyed"), "w+b").Empty());
+        ASSERT_TRUE(assigned.Open(m_Folder.File("assigned"), "w+b").Empty());
+        for (CRCFile* const file : {&m_File, &destroyed, &assigned}) {
+            EXPECT_EQ(Write(*file, "123456789"), 9U);
+        }
     }
     assigned = CRCFile();
-    EXPECT_EQ(CRCFile::GetCRC(folder.File("destroyed")), 0xCBF43926U);
-    EXPECT_EQ(CRCFile::GetCRC(folder.File("assigned")), 0xCBF43926U);
+    ASSERT_TRUE(m_File.Open(m_Folder.File("second"), "w+b").Empty());
+    for (const char* const name : {"sealed", "destroyed", "assigned"}) {
+        EXPECT_EQ(TemporaryFolder::Read(m_Folder.File(name)), sealedDigits) << name;
+    }
 }
 
-// The cause that the last error has: of closing, empty after a success.
-std::string CauseOfClosing(CRCFile& file) {
-    file.Close();
-    return ErrorString::LastError().Cause();
+TEST_F(CRCFileTest, AssignedFilesShareOneStreamThatIsClosedOnce) {
+    {
+        CRCFile second;
+        second = m_File;
+        m_File.Write("1234", 4, 1);
+        CRCFile third = second;
+        EXPECT_EQ(Write(second, "56789"), 5U);
+        third = CRCFile();
+        EXPECT_TRUE(m_File.IsOpen());
+        m_File.Close();
+        EXPECT_FALSE(second.IsOpen());
+        EXPECT_EQ(second.Write("x", 1, 1), 0U);
+    }
+    EXPECT_EQ(TemporaryFolder::Read(m_Path), sealedDigits);
 }
 
-TEST(CRCFile, ReportsAPayloadThatCannotBeReadBack) {
-    const TemporaryFolder folder;
-    CRCFile file;
-    ASSERT_TRUE(file.Open(folder.File("written"), "wb").Empty());
-    file.Write("123", 1, 3);
-    EXPECT_EQ(CauseOfClosing(file), folder.File("written") + ": Bad file descriptor");
-    EXPECT_EQ(ErrorString::LastError().Text(), "Operation failed.");
-}
-
-TEST(CRCFile, RemembersAFailedWriteUntilItIsClosedAndAddsNoChecksum) {
-    const TemporaryFolder folder;
-    const std::string path = folder.File("short");
+TEST_F(CRCFileTest, RemembersAFailedWriteUntilItIsClosedAndAddsNoChecksum) {
     const std::string payload(100'000, 'p');
-    for (const bool held : {false, true}) {
-        CRCFile file;
-        ASSERT_TRUE(file.Open(path, "w+b").Empty());
+    for (const unsigned int size : {100'000U, 2000U}) {  // the second is held back at first
+        ASSERT_TRUE(m_File.Open(m_Path, "w+b").Empty());
         {
             const FullDisk full(1000);
-            const unsigned int size = held ? 2000 : 100'000;
-            EXPECT_EQ(file.Write(payload.data(), 1, size) == size, held);
-            EXPECT_TRUE(!held || !file.Flush());
-            file.Rewind();
+            EXPECT_EQ(m_File.Write(payload.data(), 1, size) == size, size == 2000);
+            EXPECT_TRUE(size != 2000 || !m_File.Flush());
+            m_File.Rewind();
         }
-        CRCFile copy = file;
-        EXPECT_EQ(CauseOfClosing(file), path + ": File too large");
-        EXPECT_EQ(CauseOfClosing(copy), path + ": File too large");
-        EXPECT_EQ(TemporaryFolder::Read(path).find_first_not_of('p'), std::string::npos);
+        CRCFile copy = m_File;
+        EXPECT_EQ(CauseOfClosing(m_File), m_Path + ": File too large");
+        EXPECT_EQ(CauseOfClosing(copy), m_Path + ": File too large");
+        EXPECT_EQ(TemporaryFolder::Read(m_Path).find_first_not_of('p'), std::string::npos);
     }
-    CRCFile good;
-    ASSERT_TRUE(good.Open(path, "w+b").Empty());
+    ASSERT_TRUE(m_File.Open(m_Path, "w+b").Empty());
     EXPECT_TRUE(ErrorString::LastError().Empty());
     static_cast<void>(ErrorString("older"));
-    EXPECT_EQ(CauseOfClosing(good), "");
-    EXPECT_TRUE(ErrorString::LastError().Empty());
+    EXPECT_EQ(CauseOfClosing(m_File), "");
 }
 
-TEST(CRCFile, ReportsATrailerThatTheDiskDoesNotTake) {
-    const TemporaryFolder folder;
-    const std::string path = folder.File("full");
-    CRCFile file;
-    ASSERT_TRUE(file.Open(path, "w+b").Empty());
+TEST_F(CRCFileTest, ReportsATrailerThatTheDiskDoesNotTake) {
     const FullDisk full(9);
-    EXPECT_EQ(file.Write("123456789", 1, 9), 9U);
-    EXPECT_TRUE(file.Flush());
-    EXPECT_EQ(CauseOfClosing(file), path + ": File too large");
+    EXPECT_EQ(Write(m_File, "123456789"), 9U);
+    EXPECT_TRUE(m_File.Flush());
+    EXPECT_EQ(CauseOfClosing(m_File), m_Path + ": File too large");
 }
 
-TEST(CRCFile, OpensNoFolder) {
-    const TemporaryFolder folder;
-    const ErrorString error = CRCFile().Open(folder.File(""), "rb");
-    EXPECT_EQ(error.Text(), "Error opening \"" + folder.File("") + "\".");
-    EXPECT_EQ(error.Cause(), folder.File("") + ": Is a directory");
-}
-
-TEST(CRCFile, CoversPayloadsLargerThanItsBlocks) {
-    const TemporaryFolder folder;
-    std::string payload(700'001, 'a');
-    const std::string path = Seal(folder, payload);
-    EXPECT_TRUE(CRCFile().Open(path, "rb").Empty());
-    payload = TemporaryFolder::Read(path);
-    payload[600'000] = 'b';
-    EXPECT_FALSE(CRCFile().Open(folder.Write("changed", payload), "rb").Empty());
+TEST_F(CRCFileTest, ReportsAPayloadThatCannotBeReadBack) {
+    ASSERT_TRUE(m_File.Open(m_Path, "wb").Empty());
+    EXPECT_EQ(Write(m_File, "123"), 3U);
+    EXPECT_EQ(CauseOfClosing(m_File), m_Path + ": Bad file descriptor");
 }
 
 }  // namespace

@@ -4,54 +4,48 @@
 #include <marlin/settings/file_checksum.h>
 
 #include <chrono>
-#include <filesystem>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-std::string Dated(const TemporaryFolder& folder, const std::string& bytes, int seconds) {
+constexpr unsigned int all = FileChecksum::AllWords;
+
+unsigned int Fingerprint(const std::string& bytes, unsigned int wordLimit, int seconds = 1000) {
+    const TemporaryFolder folder;
     const std::string path = folder.Write("file", bytes);
-    const std::filesystem::file_time_type epoch =
-        std::chrono::file_clock::from_sys(std::chrono::sys_seconds{});
+    const auto epoch = std::chrono::file_clock::from_sys(std::chrono::sys_seconds{});
     std::filesystem::last_write_time(path, epoch + std::chrono::seconds(seconds));
-    return path;
+    return FileChecksum(path, wordLimit).Value();
+}
+
+// A word is four bytes, the low one first, so that its text feeds the same.
+unsigned int Expected(std::string_view words) {
+    CRCChecksum checksum;
+    checksum += 1000;
+    checksum += words;
+    return checksum.Value();
 }
 
 TEST(FileChecksum, CoversTheTimeAndTheWholeWordsUpToTheLimit) {
-    const TemporaryFolder folder;
-    const std::string path = Dated(folder, "abcdefghij", 1000);
-    CRCChecksum time;
-    time += 1000U;
-    EXPECT_EQ(FileChecksum(path, 0).Value(), time.Value());
-    CRCChecksum one = time;
-    one += 0x64636261U;
-    EXPECT_EQ(FileChecksum(path, 1).Value(), one.Value());
-    CRCChecksum two = one;
-    two += 0x68676665U;
-    EXPECT_EQ(FileChecksum(path, FileChecksum::AllWords).Value(), two.Value());
-    EXPECT_EQ(FileChecksum(Dated(folder, "abcdefghXY", 1000), 100).Value(), two.Value());
+    const std::string large(200'000, 'a');
+    EXPECT_EQ(Fingerprint("abcdefghij", 0), Expected(""));
+    EXPECT_EQ(Fingerprint("abcdefghij", 1), Expected("abcd"));
+    EXPECT_EQ(Fingerprint("abcdefghij", 3), Expected("abcdefgh"));
+    EXPECT_EQ(Fingerprint("abcdefghij", all), Expected("abcdefgh"));
+    EXPECT_EQ(Fingerprint(large + "bcd", all), Expected(large));
+    EXPECT_EQ(Fingerprint(large, 40'001), Expected(large.substr(0, 160'004)));
+    EXPECT_NE(Fingerprint("abcd", all, 1001), Expected("abcd"));
 }
 
-TEST(FileChecksum, TellsAChangedFileAndAnotherTime) {
+TEST(FileChecksum, IsZeroForWhatIsNoFile) {
     const TemporaryFolder folder;
-    const FileChecksum before(Dated(folder, "abcdefgh", 1000), FileChecksum::AllWords);
-    EXPECT_EQ(before, FileChecksum(Dated(folder, "abcdefgh", 1000), FileChecksum::AllWords));
-    EXPECT_NE(before, FileChecksum(Dated(folder, "abcdefgX", 1000), FileChecksum::AllWords));
-    EXPECT_NE(before, FileChecksum(Dated(folder, "abcdefgh", 1001), FileChecksum::AllWords));
-    EXPECT_EQ(FileChecksum("", 1).Value(), 0U);
-    EXPECT_EQ(FileChecksum(folder.File("none"), 1), FileChecksum("", 1));
-    EXPECT_EQ(FileChecksum(folder.File(""), 1).Value(), 0U);
-    EXPECT_EQ(FileChecksum("/dev/zero", FileChecksum::AllWords).Value(), 0U);
-}
-
-TEST(FileChecksum, CoversEveryBlockOfALargeFile) {
-    const TemporaryFolder folder;
-    std::string bytes(200'000, 'a');
-    const FileChecksum before(Dated(folder, bytes, 7), FileChecksum::AllWords);
-    bytes[199'999] = 'b';
-    const FileChecksum after(Dated(folder, bytes, 7), FileChecksum::AllWords);
-    EXPECT_NE(before, after);
+    for (const std::string& path :
+         {std::string(), folder.File("none"), folder.File(""), std::string("/dev/zero")}) {
+        EXPECT_EQ(FileChecksum(path, all).Value(), 0U) << path;
+    }
+    EXPECT_EQ(FileChecksum("", 1), FileChecksum(folder.File("none"), all));
+    EXPECT_NE(FileChecksum("", 1), FileChecksum(folder.Write("some", "abcd"), all));
 }
 
 }  // namespace

@@ -2,8 +2,6 @@
 #include <marlin/base/crc_checksum.h>
 #include <marlin/settings/hashed_string.h>
 
-#include <array>
-#include <set>
 #include <string>
 #include <unordered_set>
 
@@ -28,17 +26,15 @@ TEST(HashedString, HashIsTheChecksumOfTheUpperCasedCharactersAsInts) {
         EXPECT_EQ(HashedString::ComputeHashValue(text), HashByDefinition(text)) << text;
         text += static_cast<char>(length * 37 + 60);  // all kinds, bytes over 127 too
     }
-    // CRC-32 of the four bytes 41 00 00 00.
-    EXPECT_EQ(HashedString("a").HashValue(), HashedString("A").HashValue());
 }
 
 TEST(HashedString, NamesAreEqualIgnoringTheCaseOfAsciiLettersOnly) {
-    EXPECT_EQ(HashedString("Key"), HashedString("KEY"));
-    EXPECT_EQ(HashedString("a-z"), HashedString("A-Z"));
+    EXPECT_EQ(HashedString("a-Key"), HashedString("A-kEY"));
     EXPECT_NE(HashedString("\xE4"), HashedString("\xC4"));
     EXPECT_NE(HashedString("Key"), HashedString("Key "));
     EXPECT_NE(HashedString("["), HashedString("{"));
     EXPECT_EQ(*HashedString("KeY"), "KeY");
+    EXPECT_EQ(HashedString().HashValue(), 0U);
 }
 
 TEST(HashedString, NamesOfOneHashAreToldApartByTheirTexts) {
@@ -52,31 +48,15 @@ TEST(HashedString, NamesOfOneHashAreToldApartByTheirTexts) {
     EXPECT_TRUE(names.contains("k4112366960"));
 }
 
-TEST(HashedString, DefaultMadeHasHashZeroAndCopiesKeepBothFields) {
-    const HashedString none;
-    EXPECT_EQ(none.HashValue(), 0U);
-    EXPECT_TRUE(none.empty());
-    EXPECT_STREQ(none.c_str(), "");
-    HashedString copy("Name");
-    const HashedString other = copy;
-    copy = none;
-    EXPECT_EQ(*other, "Name");
-    EXPECT_EQ(other.HashValue(), HashByDefinition("NAME"));
-    EXPECT_TRUE(copy.empty());
-}
-
 TEST(HashedString, TheOrderIsStrictAndFollowsTheHash) {
-    const std::array<HashedString, 6> names = {
-        "", "Alpha", "ALPHA", "Beta", "Gamma", "a name of more than 32 characters"};
+    const HashedString names[] = {"", "Alpha", "ALPHA", "Beta",
+                                  "more than 32 characters in a name"};
     for (const HashedString& a : names) {
         for (const HashedString& b : names) {
             EXPECT_EQ((a < b) + (a > b) + (a == b), 1) << *a << " " << *b;
-            if (a.HashValue() != b.HashValue()) {
-                EXPECT_EQ(a < b, a.HashValue() < b.HashValue());
-            }
+            EXPECT_TRUE(a == b || (a < b) == (a.HashValue() < b.HashValue())) << *a << " " << *b;
         }
     }
-    EXPECT_EQ(std::set<HashedString>(names.begin(), names.end()).size(), 5U);
 }
 
 }  // namespace

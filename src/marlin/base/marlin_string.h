@@ -13,8 +13,10 @@
 /// @code
 /// CMarlinString items("2.5;blue", ';');
 /// float width = 0.0F;
-/// assert(items.GetItem(0, width) && width == 2.5F);
-/// assert(!items.GetItem(1, width) && width == 2.5F);
+/// bool isRead = items.GetItem(0, width);
+/// assert(isRead && width == 2.5F);
+/// isRead = items.GetItem(1, width);
+/// assert(!isRead && width == 2.5F);
 /// items.Set(3, "new");
 /// assert(items.String() == "2.5;blue;;new");
 /// @endcode

@@ -9,8 +9,10 @@
 /// Numbers to text and back, alike in every locale. No other place of the library converts them.
 /// @code
 /// double depth = 0.0;
-/// assert(MARLINSUITE::ParseNumber(" 12.5 m", depth) && depth == 12.5);
-/// assert(!MARLINSUITE::ParseWhole("12.5 m", depth));
+/// const bool isNumber = MARLINSUITE::ParseNumber(" 12.5 m", depth);
+/// assert(isNumber && depth == 12.5);
+/// const bool isWhole = MARLINSUITE::ParseWhole("12.5 m", depth);
+/// assert(!isWhole);
 /// std::string text = "Depth ";
 /// MARLINSUITE::AppendFixed(text, depth, 2);
 /// assert(text == "Depth 12.50");

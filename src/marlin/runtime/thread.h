@@ -24,7 +24,8 @@ class CWnd;
 ///     int Execute(const bool&) override { return ++Sum < 10 ? 1 : 0; }
 /// } work;
 /// Thread thread;
-/// assert(thread.Start(&work));
+/// const bool isStarted = thread.Start(&work);
+/// assert(isStarted);
 /// while (thread.IsRunning()) {
 /// }
 /// assert(thread.ExitCode() == 0 && work.Sum == 10);

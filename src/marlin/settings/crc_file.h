@@ -17,11 +17,12 @@
 /// last one destroyed closes it. For one thread at a time.
 /// @code
 /// CRCFile file;
-/// assert(file.Open("soundings.bin", "w+b").Empty());
-/// assert(file.Write("123456789", 1, 9) == 9);
+/// ErrorString error = file.Open("soundings.bin", "w+b");
+/// const unsigned int written = file.Write("123456789", 1, 9);
 /// file.Close();
-/// assert(CRCFile::GetCRC("soundings.bin") == 0xCBF43926);
-/// assert(file.Open("soundings.bin", "rb").Empty());
+/// assert(error.Empty() && written == 9 && CRCFile::GetCRC("soundings.bin") == 0xCBF43926);
+/// error = file.Open("soundings.bin", "rb");
+/// assert(error.Empty());
 /// @endcode
 class MARLIN_API CRCFile {
 public:

@@ -26,8 +26,9 @@ struct SettingsOutcome;
 /// file["General"]["Color"] << 255;
 /// assert(file.Text() == "[General]\r\nColor = 255\r\n\r\n");
 /// IniFile read;
-/// assert(read.OpenText(file.Text()).Empty() && read.HasSection("GENERAL"));
-/// const ErrorString error = read.Open(std::string("/no/such/file.ini"));
+/// ErrorString error = read.OpenText(file.Text());
+/// assert(error.Empty() && read.HasSection("GENERAL"));
+/// error = read.Open(std::string("/no/such/file.ini"));
 /// assert(error.Text() == "Error opening \"/no/such/file.ini\" for reading!");
 /// @endcode
 class MARLIN_API IniFile {
@@ -50,9 +51,9 @@ public:
     ErrorString OpenText(std::string_view text);
     /// Writes all sections, replacing the file as a whole. Fails without sections, when the file
     /// cannot be written, and where it would read back as other sections or keys: a section
-    /// without a name, a line feed anywhere, "]" in a section's name, a key's name that begins
-    /// with "[" or holds ";" or "=". An old file is then unchanged, and the result's `Cause()`
-    /// names the file and the system's reason, or section and key.
+    /// without a name, or with that of another one, a line feed anywhere, "]" in a section's name,
+    /// a key's name that begins with "[" or holds ";" or "=". An old file is then unchanged, and
+    /// the result's `Cause()` names the file and the system's reason, or section and key.
     ErrorString Save(const std::string& path) const;
     ErrorString Save(const FileName& path) const;
     /// A key by its position in a section and that of the section.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/base/files/detail/settings_check.h>
 #include <marlin/base/files/detail/settings_reader.h>
 #include <marlin/base/files/detail/settings_writer.h>
 #include <marlin/base/files/file_object.h>
@@ -83,7 +84,19 @@ std::string FileObject::Text() const {
 }
 
 bool FileObject::FileSave(const CString& path, unsigned int) const {
-    return MARLINSUITE::ReplaceFile(std::string(path.View()), Text()).Empty();
+    const std::string name(path.View());
+    MARLINSUITE::detail::SettingsCheck check;
+    for (const NamedSection& section : m_Sections) {
+        check.BeginSection(section.Name, {});
+        for (const Entry& entry : section.Entries) {
+            check.AddKey(entry.Key, entry.Value, {});
+        }
+    }
+    if (!check.Reason().empty()) {
+        ErrorString::RecordFailure(name + ": " + check.Reason());
+        return false;
+    }
+    return MARLINSUITE::ReplaceFile(name, Text()).Empty();
 }
 
 bool FileObject::GetFirstSectionEntry(FobjSection& cursor, CString& section) const {

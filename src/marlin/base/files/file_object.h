@@ -28,8 +28,10 @@ struct FobjSection {
 /// FileObject file;
 /// file.SetEntry("ColorTable", "Below", "255", FileObject::REPLACE);
 /// CString value;
-/// assert(file.GetEntry("COLORTABLE", "below", value) && value == "255");
-/// assert(!file.FileOpen("/no/such/table.col") && !ErrorString::LastError().Empty());
+/// const bool found = file.GetEntry("COLORTABLE", "below", value);
+/// assert(found && value == "255");
+/// const bool opened = file.FileOpen("/no/such/table.col");
+/// assert(!opened && !ErrorString::LastError().Empty());
 /// @endcode
 class MARLIN_API FileObject {
 public:
@@ -60,8 +62,9 @@ public:
     /// `flags` are the open flags of the platform's file class; the file is always read whole
     /// and shared with others, so they change nothing.
     bool FileOpen(const CString& path, unsigned int flags = 0);
-    /// Writes a settings file, replacing an existing one whole. False when it cannot be
-    /// written, with the cause in `ErrorString::LastError()`; the old file is then unchanged.
+    /// Writes a settings file, replacing an existing one whole. False when it cannot be written, or
+    /// would read back as other sections or keys as `IniFile::Save` says, with the cause in
+    /// `ErrorString::LastError()`; the old file is then unchanged.
     bool FileSave(const CString& path, unsigned int flags = 0) const;
 
     /// The walk over the sections in their order; each call that returns true yields a name.

@@ -24,10 +24,13 @@ namespace MARLINSUITE {
 /// ("/dev/stdout") are written to. A failure names the file and the system's reason and leaves
 /// the old file as it was.
 /// @code
-/// assert(MARLINSUITE::ReplaceFile("notes.txt", "first\n").Empty());
+/// ErrorString error = MARLINSUITE::ReplaceFile("notes.txt", "first\n");
+/// assert(error.Empty());
 /// std::string bytes;
-/// assert(MARLINSUITE::ReadFile("notes.txt", bytes).Empty() && bytes == "first\n");
-/// assert(MARLINSUITE::ReadFile("none", bytes).Text() == "none: No such file or directory");
+/// error = MARLINSUITE::ReadFile("notes.txt", bytes);
+/// assert(error.Empty() && bytes == "first\n");
+/// error = MARLINSUITE::ReadFile("none", bytes);
+/// assert(error.Text() == "none: No such file or directory");
 /// @endcode
 ErrorString MARLIN_API ReplaceFile(const std::string& path, std::string_view bytes);
 

@@ -1,54 +1,43 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/base/files/detail/settings_check.h>
 #include <marlin/base/files/detail/settings_writer.h>
 #include <marlin/base/files/settings_grammar.h>
 #include <marlin/settings/detail/save_check.h>
 
-#include <string_view>
+#include <algorithm>
+#include <iterator>
+#include <vector>
 
 namespace MARLINSUITE::detail {
 
 namespace {
 
-bool HasLineFeed(std::string_view text) {
-    return text.find('\n') != std::string_view::npos;
-}
-
-const char* ReasonAgainst(const Section& section) {
-    const std::string& name = *section.GetName();
-    return name.empty()                          ? "no name"
-           : HasLineFeed(name)                   ? "line end in the name"
-           : name.find(']') != std::string::npos ? "\"]\" in the name"
-           : HasLineFeed(section.GetComments())  ? "line end in the comment"
-                                                 : nullptr;
-}
-
-// The value of a key without a name is not written.
-const char* ReasonAgainst(const SectionKey& key) {
-    const std::string& name = *key.GetName();
-    return HasLineFeed(name)                              ? "line end in the name"
-           : TrimmedSettingsText(name).starts_with('[')   ? "\"[\" begins the name"
-           : name.find(';') != std::string::npos          ? "\";\" in the name"
-           : name.find('=') != std::string::npos          ? "\"=\" in the name"
-           : key.IsValid() && HasLineFeed(key.GetValue()) ? "line end in the value"
-           : HasLineFeed(key.GetComments())               ? "line end in the comment"
-                                                          : nullptr;
+// Names that hosts gave by `SetName` are not looked at before.
+const Section* SecondOfAName(const std::deque<Section>& sections) {
+    std::vector<const Section*> sorted;
+    sorted.reserve(sections.size());
+    for (const Section& section : sections) {
+        sorted.push_back(&section);
+    }
+    std::ranges::stable_sort(sorted, [](const Section* a, const Section* b) { return *a < *b; });
+    const auto found = std::ranges::adjacent_find(
+        sorted, [](const Section* a, const Section* b) { return *a == *b; });
+    return found == sorted.end() ? nullptr : *std::next(found);
 }
 
 }  // namespace
 
 std::string ReasonAgainstSaving(const std::deque<Section>& sections) {
+    SettingsCheck check;
     for (const Section& section : sections) {
-        const std::string place = "section \"" + *section.GetName() + "\"";
-        if (const char* const reason = ReasonAgainst(section)) {
-            return place + ": " + reason;
-        }
+        check.BeginSection(*section.GetName(), section.GetComments());
         for (const SectionKey& key : section.Keys()) {
-            if (const char* const reason = ReasonAgainst(key)) {
-                return place + ", key \"" + *key.GetName() + "\": " + reason;
-            }
+            check.AddKey(*key.GetName(), key.GetValue(), key.GetComments());
         }
     }
-    return {};
+    const Section* const second = check.Reason().empty() ? SecondOfAName(sections) : nullptr;
+    return second ? "section \"" + *second->GetName() + "\": a second one of its name"
+                  : check.Reason();
 }
 
 // Written and read as its line, since nothing else can say it as surely.

@@ -3,27 +3,25 @@
 #include <marlin/base/files/file_object.h>
 
 #include <string>
-#include <vector>
+#include <utility>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using Walk = std::vector<std::string>;
-
-// Every section and entry in the order of the walk.
-Walk WalkOver(const FileObject& file) {
-    Walk walk;
+// Every section and entry in the order of the walk, each behind a blank.
+std::string WalkOver(const FileObject& file) {
+    std::string walk;
     FobjSection cursor;
     CString section;
     CString key;
     CString value;
     for (bool more = file.GetFirstSectionEntry(cursor, section); more;
          more = file.GetNextSectionEntry(cursor, section)) {
-        walk.push_back('[' + std::string(section) + ']');
+        walk.append(" [").append(section.View()) += ']';
         for (bool entry = file.GetFirstMapEntry(cursor, section, key, value); entry;
              entry = file.GetNextMapEntry(cursor, key, value)) {
-            walk.push_back(std::string(key) + '=' + value.GetString());
+            walk.append(" ").append(key.View()).append("=").append(value.View());
         }
     }
     return walk;
@@ -36,7 +34,7 @@ TEST(FileObject, ASettingsFileIsWalkedInItsOrder) {
                                           "; comment\n= unnamed\n[Empty]\n[A]\nz = x = y\xE4");
     FileObject file;
     ASSERT_TRUE(file.FileOpen(path.c_str(), 0x20));
-    EXPECT_EQ(WalkOver(file), (Walk{"[B]", "k=1", "l=", "K=2", "[Empty]", "[A]", "z=x = y\xE4"}));
+    EXPECT_EQ(WalkOver(file), " [B] k=1 l= K=2 [Empty] [A] z=x = y\xE4");
 }
 
 TEST(FileObject, ASavedFileReadsBackAsItWas) {
@@ -58,13 +56,12 @@ TEST(FileObject, AnEntryIsAppendedOrTakesTheFirstOnesPlace) {
     EXPECT_TRUE(file.SetEntry("S", "Key", "1", FileObject::REPLACE));
     EXPECT_TRUE(file.SetEntry("s", "KEY", "2", FileObject::APPEND));
     EXPECT_TRUE(file.SetEntry("S", "key", "3", FileObject::REPLACE));
-    EXPECT_EQ(WalkOver(file), (Walk{"[S]", "Key=3", "KEY=2"}));
+    EXPECT_FALSE(file.SetEntry("", "Key", "4", FileObject::APPEND));
+    EXPECT_FALSE(file.SetEntry("T", "", "4", FileObject::APPEND));
+    EXPECT_EQ(WalkOver(file), " [S] Key=3 KEY=2");
     CString value;
     EXPECT_TRUE(file.GetEntry("s", "kEY", value));
     EXPECT_STREQ(value, "3");
-    EXPECT_FALSE(file.SetEntry("", "Key", "4", FileObject::APPEND));
-    EXPECT_FALSE(file.SetEntry("T", "", "4", FileObject::APPEND));
-    EXPECT_FALSE(file.HasSection("T"));
 }
 
 TEST(FileObject, LookUpsFollowARemovedSection) {
@@ -74,15 +71,15 @@ TEST(FileObject, LookUpsFollowARemovedSection) {
     }
     EXPECT_TRUE(file.RemoveSection("b"));
     EXPECT_FALSE(file.RemoveSection("B"));
+    EXPECT_EQ(WalkOver(file), " [A] Name=A [C] Name=C");
     CString value("kept");
-    EXPECT_FALSE(file.GetEntry("B", "Name", value));
-    EXPECT_STREQ(value, "kept");
-    EXPECT_TRUE(file.GetEntry("C", "Name", value));
-    EXPECT_STREQ(value, "C");
     FobjSection cursor;
     CString key;
+    EXPECT_FALSE(file.GetEntry("B", "Name", value));
+    EXPECT_FALSE(file.GetEntry("C", "Other", value));
     EXPECT_FALSE(file.GetFirstMapEntry(cursor, "B", key, value));
     EXPECT_FALSE(file.GetNextMapEntry(cursor, key, value));
+    EXPECT_STREQ(value, "kept");
 }
 
 TEST(FileObject, AFileThatDoesNotReadEmptiesTheObjectAndSaysWhy) {
@@ -97,14 +94,24 @@ TEST(FileObject, AFileThatDoesNotReadEmptiesTheObjectAndSaysWhy) {
         file.SetEntry("S", "Key", "1", FileObject::APPEND);
         EXPECT_FALSE(file.FileOpen(path.c_str(), 0x20));
         EXPECT_EQ(ErrorString::LastError().Text(), message);
-        EXPECT_EQ(WalkOver(file), Walk{});
+        EXPECT_EQ(WalkOver(file), "");
     }
 }
 
-TEST(FileObject, ASaveThatFailsSaysSo) {
+TEST(FileObject, ASaveThatFailsOrWouldReadBackAsSomethingElseSaysSo) {
     const TemporaryFolder folder;
-    EXPECT_FALSE(FileObject().FileSave(folder.File("no/folder").c_str(), 0x1011));
-    EXPECT_NE(ErrorString::LastError().Text().find(folder.File("no/folder")), std::string::npos);
+    EXPECT_FALSE(FileObject().FileSave(folder.File("no/folder").c_str()));
+    EXPECT_EQ(ErrorString::LastError().Text(),
+              folder.File("no/folder") + ": No such file or directory");
+    const std::string path = folder.Write("a", "old");
+    for (const auto& [section, key, value] :
+         {std::tuple("a]", "k", "v"), std::tuple("a", "[k", "v"), std::tuple("a", "k", "v\n[b]")}) {
+        FileObject file;
+        file.SetEntry(section, key, value, FileObject::APPEND);
+        EXPECT_FALSE(file.FileSave(path.c_str())) << section;
+        EXPECT_TRUE(ErrorString::LastError().Cause().starts_with(path + ": section \"" + section));
+    }
+    EXPECT_EQ(TemporaryFolder::Read(path), "old");
 }
 
 }  // namespace

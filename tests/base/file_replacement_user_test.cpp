@@ -6,8 +6,6 @@
 
 #include <array>
 #include <csignal>
-#include <cstdint>
-#include <filesystem>
 #include <string>
 
 #include <fcntl.h>
@@ -43,14 +41,20 @@ int StatusOfChild(const TemporaryFolder& folder, const Action& action) {
     return status;
 }
 
-// Saves "new" to "a" as that user, whose groups are his own and the shared one.
-bool SavedAs(uid_t user, const TemporaryFolder& folder) {
-    const int status = StatusOfChild(folder, [user] {
-        const bool changed =
-            ::setgroups(1, &sharedGroup) == 0 && ::setegid(ownGroup) == 0 && ::seteuid(user) == 0;
-        return changed && ReplaceFile("a", "new").Empty() ? 0 : 1;
-    });
-    return status == 0;
+// An access list that lets one more user read: owner rw, that user r, group rw, others nothing.
+const std::string accessList(
+    "\2\0\0\0\1\0\6\0\377\377\377\377\2\0\4\0\375\377\0\0\4\0\6\0\377\377\377\377"
+    "\20\0\6\0\377\377\377\377\40\0\0\0\377\377\377\377",
+    44);
+
+std::string Attribute(const std::string& path, const char* name) {
+    std::array<char, 200> bytes{};
+    const ssize_t size = ::getxattr(path.c_str(), name, bytes.data(), bytes.size());
+    return size < 0 ? "none" : std::string(bytes.data(), static_cast<std::size_t>(size));
+}
+
+bool SetAttribute(const std::string& path, const char* name, const std::string& value) {
+    return ::setxattr(path.c_str(), name, value.data(), value.size(), 0) == 0;
 }
 
 // A folder that all may write, and in it the file "a" with the shared group.
@@ -68,39 +72,29 @@ struct SharedFile {
         EXPECT_EQ(::stat(Path.c_str(), &status), 0);
         return status;
     }
+    [[nodiscard]] std::string Bytes() const { return TemporaryFolder::Read(Path); }
+    // Saves "new" as that user, whose groups are his own and the shared one.
+    [[nodiscard]] bool IsSavedBy(uid_t user) const {
+        const int status = StatusOfChild(Folder, [user] {
+            const bool changed = ::setgroups(1, &sharedGroup) == 0 && ::setegid(ownGroup) == 0 &&
+                                 ::seteuid(user) == 0;
+            return changed && ReplaceFile("a", "new").Empty() ? 0 : 1;
+        });
+        return status == 0 && Bytes() == "new";
+    }
 };
 
-// An access list that lets one more user read: owner rw, that user r, group rw, others nothing.
-std::string AccessList() {
-    struct Entry {
-        std::uint16_t Tag;
-        std::uint16_t Rights;
-        std::uint32_t User;
-    };
-    constexpr std::uint32_t nobody = 0xFFFFFFFF;
-    std::string bytes{"\2\0\0\0", 4};
-    for (const Entry& entry : {Entry{1, 6, nobody}, Entry{2, 4, 65533}, Entry{4, 6, nobody},
-                               Entry{0x10, 6, nobody}, Entry{0x20, 0, nobody}}) {
-        bytes.append(reinterpret_cast<const char*>(&entry), sizeof entry);
+class ReplaceFileAsUser : public testing::Test {
+protected:
+    void SetUp() override {
+        if (::geteuid() != 0) {
+            GTEST_SKIP() << "only root can take on other users";
+        }
     }
-    return bytes;
-}
-
-std::string Attribute(const std::string& path, const char* name) {
-    std::array<char, 200> bytes{};
-    const ssize_t size = ::getxattr(path.c_str(), name, bytes.data(), bytes.size());
-    return size < 0 ? "none" : std::string(bytes.data(), static_cast<std::size_t>(size));
-}
-
-bool SetAttribute(const std::string& path, const char* name, const std::string& value) {
-    return ::setxattr(path.c_str(), name, value.data(), value.size(), 0) == 0;
-}
+};
 
 // Set-user and set-group bits go where another than the owner or root saves.
-TEST(ReplaceFileAsUser, KeepsOwnerGroupAndMode) {
-    if (::geteuid() != 0) {
-        GTEST_SKIP() << "only root can take on other users";
-    }
+TEST_F(ReplaceFileAsUser, KeepsOwnerGroupAndMode) {
     struct Case {
         uid_t User;
         unsigned int Mode;
@@ -112,9 +106,8 @@ TEST(ReplaceFileAsUser, KeepsOwnerGroupAndMode) {
                           Case{member, 0664, 0664, false}, Case{member, 06775, 0775, false}}) {
         const SharedFile file(c.Mode);
         const ino_t before = file.Status().st_ino;
-        ASSERT_TRUE(SavedAs(c.User, file.Folder)) << c.User;
+        ASSERT_TRUE(file.IsSavedBy(c.User)) << c.User;
         const struct stat after = file.Status();
-        EXPECT_EQ(TemporaryFolder::Read(file.Path), "new") << c.User;
         EXPECT_EQ(after.st_uid, owner) << c.User;
         EXPECT_EQ(after.st_gid, sharedGroup) << c.User;
         EXPECT_EQ(after.st_mode & 07777U, c.Kept) << c.User;
@@ -123,55 +116,49 @@ TEST(ReplaceFileAsUser, KeepsOwnerGroupAndMode) {
     }
 }
 
-TEST(ReplaceFileAsUser, KeepsExtendedAttributesAndAccessListsAndTakesNoneOfTheFolder) {
-    if (::geteuid() != 0) {
-        GTEST_SKIP() << "only root can take on other users";
-    }
+TEST_F(ReplaceFileAsUser, KeepsExtendedAttributesAndAccessListsAndTakesNoneOfTheFolder) {
     for (const uid_t user : {uid_t{0}, owner, member}) {
         const SharedFile file(0660);
         if (!SetAttribute(file.Path, "user.note", "kept") ||
-            !SetAttribute(file.Path, "system.posix_acl_access", AccessList())) {
+            !SetAttribute(file.Path, "system.posix_acl_access", accessList)) {
             GTEST_SKIP() << "the file system has no extended attributes";
         }
-        ASSERT_TRUE(SavedAs(user, file.Folder)) << user;
+        ASSERT_TRUE(file.IsSavedBy(user)) << user;
         EXPECT_EQ(Attribute(file.Path, "user.note"), "kept") << user;
-        EXPECT_EQ(Attribute(file.Path, "system.posix_acl_access"), AccessList()) << user;
+        EXPECT_EQ(Attribute(file.Path, "system.posix_acl_access"), accessList) << user;
     }
     const SharedFile plain(0664);
-    ASSERT_TRUE(SetAttribute(plain.Folder.File(""), "system.posix_acl_default", AccessList()));
-    ASSERT_TRUE(SavedAs(0, plain.Folder));
+    ASSERT_TRUE(SetAttribute(plain.Folder.File(""), "system.posix_acl_default", accessList));
+    ASSERT_TRUE(plain.IsSavedBy(0));
     EXPECT_EQ(Attribute(plain.Path, "system.posix_acl_access"), "none");
     EXPECT_EQ(plain.Status().st_mode & 0777U, 0664U);
 }
 
-TEST(ReplaceFileAsUser, RewritesInPlaceWhereTheFolderTakesNoNewFile) {
-    if (::geteuid() != 0) {
-        GTEST_SKIP() << "only root can take on other users";
-    }
+TEST_F(ReplaceFileAsUser, RewritesInPlaceWhereTheFolderTakesNoNewFile) {
     const SharedFile file(04775);
     fs::permissions(file.Folder.File(""), fs::perms(0555));
-    const auto refused = [&](const char* name, std::size_t size, const char* message) {
+    const auto isRefused = [&](const char* name, std::size_t size, const char* message) {
         return StatusOfChild(file.Folder, [&] {
-            const rlimit limit{5000, 5000};
-            std::signal(SIGXFSZ, SIG_IGN);
-            const bool ready = ::setrlimit(RLIMIT_FSIZE, &limit) == 0 && ::seteuid(owner) == 0;
-            const ErrorString error = ReplaceFile(name, std::string(size, 'n'));
-            return ready && error.Text() == message ? 0 : 1;
-        });
+                   const rlimit limit{5000, 5000};
+                   std::signal(SIGXFSZ, SIG_IGN);
+                   const bool ready =
+                       ::setrlimit(RLIMIT_FSIZE, &limit) == 0 && ::seteuid(owner) == 0;
+                   const ErrorString error = ReplaceFile(name, std::string(size, 'n'));
+                   return ready && error.Text() == message ? 0 : 1;
+               }) == 0;
     };
-    EXPECT_EQ(refused("a", 100'000, "a: File too large"), 0);
-    EXPECT_EQ(TemporaryFolder::Read(file.Path), "a longer old text");
-    EXPECT_EQ(refused("b", 1, "b: Permission denied"), 0);
-    EXPECT_TRUE(SavedAs(owner, file.Folder));
-    EXPECT_EQ(TemporaryFolder::Read(file.Path), "new");
+    EXPECT_TRUE(isRefused("a", 100'000, "a: File too large"));
+    EXPECT_EQ(file.Bytes(), "a longer old text");
+    EXPECT_TRUE(isRefused("b", 1, "b: Permission denied"));
+    EXPECT_TRUE(file.IsSavedBy(owner));
     EXPECT_EQ(file.Status().st_mode & 07777U, 04775U);
     fs::permissions(file.Path, fs::perms(0444));
-    EXPECT_EQ(refused("a", 1, "a: Permission denied"), 0);
-    EXPECT_EQ(TemporaryFolder::Read(file.Path), "new");
+    EXPECT_TRUE(isRefused("a", 1, "a: Permission denied"));
+    EXPECT_EQ(file.Bytes(), "new");
 }
 
 // A ramfs has neither extended attributes nor a way to reserve.
-TEST(ReplaceFileAsUser, RewritesInPlaceWhereNothingCanBeReserved) {
+TEST_F(ReplaceFileAsUser, RewritesInPlaceWhereNothingCanBeReserved) {
     const TemporaryFolder folder;
     const int status = StatusOfChild(folder, [] {
         if (::unshare(CLONE_NEWNS) != 0 ||

@@ -22,17 +22,15 @@ TEST(Math, ThePrecisionIsTheDecimalsOfTheShortestText) {
 }
 
 TEST(Math, ValuesWithinTheToleranceAreEqual) {
-    EXPECT_TRUE(MATH::Equal(1.0, 1.0 + 9e-10));
-    EXPECT_FALSE(MATH::Equal(1.0, 1.0 + 2e-9));
-    EXPECT_TRUE(MATH::Equal(1e12, 1e12 + 0.5));
-    EXPECT_FALSE(MATH::Equal(1e12, 1e12 + 2.0));
-    EXPECT_TRUE(MATH::Equal(infinity, infinity));
-    EXPECT_FALSE(MATH::Equal(infinity, -infinity));
-    EXPECT_FALSE(MATH::Equal(infinity, 1e308));
-    EXPECT_FALSE(MATH::Equal(notANumber, notANumber));
-}
-
-TEST(Math, ARightAngleHasHalfPiRadians) {
+    for (const auto& [a, b] : {std::pair(1.0, 1.0 + 9e-10), std::pair(-1e12, -1e12 - 0.5),
+                               std::pair(infinity, infinity)}) {
+        EXPECT_TRUE(MATH::Equal(a, b) && MATH::Equal(b, a)) << a;
+    }
+    for (const auto& [a, b] :
+         {std::pair(1.0, 1.0 + 2e-9), std::pair(-1e12, -1e12 - 2.0), std::pair(infinity, -infinity),
+          std::pair(infinity, 1e308), std::pair(notANumber, notANumber)}) {
+        EXPECT_FALSE(MATH::Equal(a, b) || MATH::Equal(b, a)) << a;
+    }
     EXPECT_DOUBLE_EQ(90.0 * MATH::DTR, std::acos(0.0));
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/color/hsv_color.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 
@@ -69,37 +70,29 @@ TEST(HSVColor, ConvertsBackBySextants) {
 }
 
 TEST(HSVColor, ConvertsThereAndBackWithinTheTruncation) {
-    for (int red = 0; red <= 255; red += 15) {
-        for (int green = 0; green <= 255; green += 15) {
-            for (int blue = 0; blue <= 255; blue += 15) {
-                const RGBColor back = HSVColor(RGBColor(red, green, blue));
-                EXPECT_LE(std::abs(back.Red() - red), 1);
-                EXPECT_LE(std::abs(back.Green() - green), 1);
-                EXPECT_LE(std::abs(back.Blue() - blue), 1);
-            }
-        }
+    for (int i = 0; i < 18 * 18 * 18; ++i) {
+        const RGBColor color(15 * (i % 18), 15 * (i / 18 % 18), 15 * (i / 324));
+        const RGBColor back = HSVColor(color);
+        EXPECT_LE(std::abs(back.Red() - color.Red()), 1) << i;
+        EXPECT_LE(std::abs(back.Green() - color.Green()), 1) << i;
+        EXPECT_LE(std::abs(back.Blue() - color.Blue()), 1) << i;
     }
 }
 
 TEST(HSVColor, WrapsAHueOfExactly360Alone) {
-    HSVColor hsv(360.0F, 1.0F, 1.0F);
-    EXPECT_EQ(hsv.Hue(), 0.0F);
-    const struct {
-        float Set, Hue;
-    } cases[] = {{400, 400}, {720, 720}, {-30, -30}, {359.5F, 359.5F}, {360, 0}};
-    for (const auto& [set, hue] : cases) {
-        hsv.SetHue(set);
-        EXPECT_EQ(hsv.Hue(), hue);
+    for (const float hue : {400.0F, 720.0F, -30.0F, 359.5F, 360.0F}) {
+        HSVColor hsv;
+        EXPECT_EQ(std::max({hsv.Hue(), hsv.Saturation(), hsv.Value()}), 0.0F);
+        hsv.SetHue(hue);
+        EXPECT_EQ(hsv.Hue(), hue == 360.0F ? 0.0F : hue);
+        EXPECT_EQ(HSVColor(hue, 1.0F, 1.0F).Hue(), hsv.Hue());
     }
 }
 
-TEST(HSVColor, IsBlackForAHueOutsideTheSextants) {
+TEST(HSVColor, IsBlackForAHueOutsideTheSextantsAndMakesComponentsThatNoIntHoldsZero) {
     for (const float hue : {360.5F, 720.0F, -60.0F, 1e30F, -1e30F, infinity, nan}) {
         EXPECT_EQ(static_cast<RGBColor>(HSVColor(hue, 1.0F, 1.0F)), RGBColor()) << hue;
     }
-}
-
-TEST(HSVColor, MakesComponentsThatNoIntHoldsZero) {
     for (const float value : {1e30F, -1e30F, infinity, nan}) {
         EXPECT_EQ(static_cast<RGBColor>(HSVColor(-1.0F, 0.0F, value)), RGBColor()) << value;
         EXPECT_EQ(static_cast<RGBColor>(HSVColor(0.0F, 1.0F, value)), RGBColor()) << value;

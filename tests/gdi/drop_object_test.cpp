@@ -24,6 +24,9 @@ TEST(DropObject, ReadsKindsOneToThreeWithATextAndElseNone) {
         DropObject object(DropObject::OBJECT_1, "before");
         object.FromString(text);
         EXPECT_EQ(object.ToString(), again) << text;
+        DropObject own(DropObject::OBJECT_1, text);
+        own.FromString(own.Data());
+        EXPECT_EQ(own.ToString(), again) << text;
     }
 }
 

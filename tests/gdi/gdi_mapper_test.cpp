@@ -48,12 +48,18 @@ TEST(GDIMapper, FitsTheAreaIntoTheRectangleAndComesBackToMiddlesOfPixels) {
         EXPECT_DOUBLE_EQ(back.x, c.Back.x) << c.Name;
         EXPECT_DOUBLE_EQ(back.y, c.Back.y) << c.Name;
     }
+    // Pixels left of 0 come back one further right, those above the lower edge one further down.
+    const GDIMapper mapper = Mapper({0, 0}, {100, 50}, {0, 0, 200, 200});
+    EXPECT_EQ(mapper << (mapper << CPoint(7, 9)), CPoint(7, 10));
+    EXPECT_EQ(mapper << (mapper << CPoint(-7, 230)), CPoint(-6, 230));
 }
 
 TEST(GDIMapper, MeasuresDistances) {
     const GDIMapper mapper = Mapper({0, 0}, {100, 50}, {0, 0, 200, 200});
     EXPECT_EQ(mapper.GetScale(), 0.5);
     EXPECT_EQ(mapper.PixelDist(1.2), 2);
+    EXPECT_EQ(mapper.PixelDist(1.25), 3);
+    EXPECT_EQ(mapper.PixelDist(-1.2), -1);
     EXPECT_EQ(mapper.WorldDist(3), 1.5);
 }
 

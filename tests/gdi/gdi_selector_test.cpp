@@ -4,9 +4,22 @@
 #include <marlin/platform/drawing/c_client_dc.h>
 #include <marlin/platform/drawing/c_font.h>
 
+#include <memory>
+#include <utility>
+
 #include <gtest/gtest.h>
 
 namespace {
+
+// What goes too soon is refused, and so are pointers that are no handles.
+template <class Object>
+concept Selectable = requires(CDC* dc, Object&& object) {
+    GDISelector(dc, std::forward<Object>(object));
+};
+static_assert(Selectable<CBrush&> && Selectable<const CBrush&> && Selectable<void*> &&
+              Selectable<std::nullptr_t>);
+static_assert(!Selectable<CBrush> && !Selectable<CBrush*> && !Selectable<const CBrush*> &&
+              !Selectable<CDC*>);
 
 class GDISelectorOnDisplay : public testing::Test {
 protected:
@@ -34,6 +47,18 @@ TEST_F(GDISelectorOnDisplay, PutsTheObjectBeforeBack) {
         EXPECT_EQ(Brush(), m_Red.m_hObject);
     }
     EXPECT_EQ(Brush(), GetStockObject(WHITE_BRUSH));
+}
+
+TEST_F(GDISelectorOnDisplay, PutsNothingBackForAnObjectThatIsGone) {
+    auto before = std::make_unique<CBrush>(0x123456);
+    m_DC.SelectObject(before.get());
+    std::unique_ptr<CBrush> next;
+    {
+        const GDISelector selector(&m_DC, m_Red);
+        before.reset();
+        next = std::make_unique<CBrush>(0x654321);  // in the place of the one before
+    }
+    EXPECT_EQ(Brush(), m_Red.m_hObject);
 }
 
 TEST_F(GDISelectorOnDisplay, SelectsNothingWithoutObjectOrContextAndLeavesStockObjects) {

@@ -35,6 +35,11 @@ TEST_F(DeviceContext, OnlyTheDisplayHasOne) {
     EXPECT_FALSE(dc.CreateDCA("WINSPOOL", nullptr, nullptr, nullptr));
     EXPECT_FALSE(dc.CreateDCA(nullptr, nullptr, nullptr, nullptr));
     EXPECT_TRUE(dc.CreateDCA("display", nullptr, nullptr, nullptr));
+    const HDC first = dc;
+    EXPECT_FALSE(dc.CreateDCA(nullptr, nullptr, nullptr, nullptr));
+    EXPECT_EQ(HDC(dc), first);
+    EXPECT_TRUE(dc.CreateCompatibleDC(&dc));
+    EXPECT_EQ(CDC::FromHandle(first), nullptr) << "ended by the one in its place";
     // 1920 and 1080 pixels at 96 dots an inch, in whole millimetres.
     EXPECT_EQ(dc.GetDeviceCaps(HORZSIZE), 508);
     EXPECT_EQ(dc.GetDeviceCaps(VERTSIZE), 286);
@@ -85,8 +90,10 @@ TEST_F(DeviceContext, WrongObjectsAreNotSelectedAndThoseInStockStay) {
     EXPECT_FALSE(font.DeleteObject());
     // The slot of a deleted font serves another one under another handle.
     MakeSans(font);
+    const HGDIOBJ replaced = font;
+    MakeSans(font);
     void* const none = nullptr;
-    for (void* wrong : {none, stale, HGDIOBJ(HDC(m_DC)), HGDIOBJ(&m_DC)}) {
+    for (void* wrong : {none, stale, replaced, HGDIOBJ(HDC(m_DC)), HGDIOBJ(&m_DC)}) {
         EXPECT_EQ(Replace(wrong), nullptr);
         EXPECT_EQ(CGdiObject::FromHandle(wrong), nullptr);
     }
@@ -136,17 +143,18 @@ TEST_F(DeviceContext, ABitmapOfASizeThatFitsGoesIntoMemoryContexts) {
     ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
     CBitmap bitmap;
     const SIZE refused[] = {{0, 1}, {1, -1}, {32768, 1}, {1, 32768}, {32767, 32767}};
-    for (const SIZE& size : refused) {
-        EXPECT_FALSE(bitmap.CreateCompatibleBitmap(&dc, size.cx, size.cy)) << size.cx;
-    }
     BITMAP told;
     EXPECT_EQ(bitmap.GetBitmap(&told), 0);
     ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&dc, 3, 2));
+    for (const SIZE& size : refused) {
+        EXPECT_FALSE(bitmap.CreateCompatibleBitmap(&dc, size.cx, size.cy)) << size.cx;
+    }
     EXPECT_NE(bitmap.GetBitmap(&told), 0);
     EXPECT_EQ(CSize(told.bmWidth, told.bmHeight), CSize(3, 2));
     EXPECT_EQ(Replace(bitmap), nullptr);
     CGdiObject* const none = dc.SelectObject(&bitmap);
     ASSERT_NE(none, nullptr);
+    EXPECT_EQ(dc.SelectObject(&bitmap)->m_hObject, bitmap.m_hObject);
     EXPECT_EQ(dc.GetPixel(2, 1), 0U);
     EXPECT_EQ(dc.SelectObject(none)->m_hObject, bitmap.m_hObject);
     EXPECT_EQ(dc.GetPixel(2, 1), CLR_INVALID);

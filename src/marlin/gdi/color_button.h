@@ -25,8 +25,8 @@ public:
     /// A color word: red is the lowest byte.
     [[nodiscard]] unsigned long GetColor() const noexcept { return m_Color; }
 
-    /// The button shows the color when it is next drawn.
-    void SetColor(unsigned long color) noexcept { m_Color = color; }
+    /// Stores the lower 32 bits. The button shows the color when it is next drawn.
+    void SetColor(unsigned long color) noexcept { m_Color = color & 0xFFFFFFFF; }
     /// Does what a click does.
     void ForceColorChange() { OnClicked(); }
 

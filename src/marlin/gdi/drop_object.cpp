@@ -9,11 +9,12 @@ CString DropObject::ToString() const {
 }
 
 void DropObject::FromString(const CString& text) {
-    *this = DropObject();
+    DropObject read;
     const int type = atoi(std::string(text.View()));
     const int comma = text.Find(',');
     // The text may have commas of its own; the first one ends the number.
     if (type >= OBJECT_1 && type <= OBJECT_3 && comma >= 0 && comma + 1 < text.GetLength()) {
-        *this = DropObject(static_cast<TYPE>(type), text.Mid(comma + 1));
+        read = DropObject(static_cast<TYPE>(type), text.Mid(comma + 1));
     }
+    *this = read;  // only now: the text may be this object's own
 }

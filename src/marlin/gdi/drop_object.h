@@ -15,18 +15,21 @@
 /// @endcode
 class MARLIN_API DropObject {
 public:
+    /// The kinds, to which the host gives a meaning. Their numbers are part of the interface.
     enum TYPE : int {
-        OBJECT_1 = 1,
-        OBJECT_2 = 2,
-        OBJECT_3 = 3,
-        NO_OBJECT = 4,
+        OBJECT_1 = 1,   ///< as the host says
+        OBJECT_2 = 2,   ///< as the host says
+        OBJECT_3 = 3,   ///< as the host says
+        NO_OBJECT = 4,  ///< nothing is dragged
     };
 
     DropObject() = default;
     /// Any kind and any text are stored.
     DropObject(TYPE type, const CString& data) : m_Type(type), m_Data(data) {}
 
+    /// One of the four, unless a host has stored another number.
     [[nodiscard]] TYPE Type() const noexcept { return m_Type; }
+    /// Any text, commas included.
     [[nodiscard]] const CString& Data() const noexcept { return m_Data; }
 
     /// The number of the kind, a "," and the text.

@@ -20,15 +20,21 @@
 /// @endcode
 class MARLIN_API GDIMapper {
 public:
+    /// Maps the area onto the rectangle, in world units per device unit that both axes share.
     void Create(const GTL::Extents2D<double>& area, const CRect& device) noexcept;
 
-    /// World to device, cut towards 0. A coordinate that does not fit 32 bits becomes the nearest
-    /// one that does, NaN becomes 0.
+    /// World to device: x is cut towards 0, y is the rectangle's height less the distance from its
+    /// lower edge, which is cut towards 0. A coordinate that does not fit 32 bits becomes the
+    /// nearest one that does, NaN becomes 0.
     [[nodiscard]] CPoint operator<<(const GTL::Point2D<double>& p) const noexcept;
-    /// Device to world, at the middle of the pixel.
+    /// Device to world, half a unit to the right of the point and half a unit below it. A world
+    /// point comes back within a unit, a device point not always to itself: x below 0 comes one
+    /// further right, y above the lower edge one further down.
     [[nodiscard]] GTL::Point2D<double> operator<<(const CPoint& pt) const noexcept;
-    /// A world distance in device units, halves rounded up. The scale must not be 0.
+    /// A world distance in device units: half a unit more, cut towards 0. So 2.5 become 3, but
+    /// -2.4 become -1. The scale must not be 0.
     [[nodiscard]] int PixelDist(double distance) const noexcept;
+    /// A device distance in world units.
     [[nodiscard]] double WorldDist(int distance) const noexcept { return distance * m_Scale; }
     /// World units per device unit.
     [[nodiscard]] double GetScale() const noexcept { return m_Scale; }

@@ -12,7 +12,9 @@
 /// @endcode
 class MARLIN_API GDIScaleFactor {
 public:
+    /// Logical units per text unit: 1000 or 20.
     [[nodiscard]] static double Get() noexcept { return g_Factor.m_Factor; }
+    /// The largest device coordinate.
     [[nodiscard]] static unsigned int MaxCoord() noexcept { return g_Factor.m_MaxCoord; }
 
 private:

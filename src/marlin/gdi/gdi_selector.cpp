@@ -5,16 +5,17 @@
 
 namespace {
 
-CGdiObject* Select(CDC* dc, const CGdiObject* object) {
-    return dc ? CDC::SelectGdiObject(dc->m_hDC, object ? object->m_hObject : nullptr) : nullptr;
+// The handle of the object before; null when nothing was selected.
+HGDIOBJ Select(CDC* dc, HGDIOBJ object) {
+    const CGdiObject* const previous = dc ? CDC::SelectGdiObject(dc->m_hDC, object) : nullptr;
+    return previous ? previous->m_hObject : nullptr;
 }
 
 }  // namespace
 
-GDISelector::GDISelector(CDC* dc, CGdiObject& object) : m_DC(dc), m_Previous(Select(dc, &object)) {}
+GDISelector::GDISelector(CDC* dc, CGdiObject& object) : GDISelector(dc, object.m_hObject) {}
 
-GDISelector::GDISelector(CDC* dc, void* handle)
-    : m_DC(dc), m_Previous(Select(dc, CGdiObject::FromHandle(handle))) {}
+GDISelector::GDISelector(CDC* dc, void* handle) : m_DC(dc), m_Previous(Select(dc, handle)) {}
 
 GDISelector::GDISelector(CDC* dc, int stockIndex) : m_DC(dc) {
     if (dc) {

@@ -9,7 +9,8 @@ class CGdiObject;
 
 /// Selects a drawing object into a device context for the lifetime of a scope, and selects the
 /// object before again at its end. Selectors of one context must end in the reverse order of their
-/// making; the context and the selected object must outlive them. Does nothing with a null context.
+/// making; the context and the selected object must outlive them. An object before that is deleted
+/// meanwhile is not selected again, and none in its place. Does nothing with a null context.
 /// @code
 /// CBrush red(0x0000FF);
 /// CClientDC dc(nullptr);
@@ -23,11 +24,16 @@ class CGdiObject;
 /// @endcode
 class MARLIN_API GDISelector {
 public:
-    GDISelector(CDC* dc, CGdiObject& object);
-    /// By a raw handle. Selects nothing when the handle is not that of an object.
-    GDISelector(CDC* dc, void* handle);
+    /// By an object, which has to live longer: temporaries are refused.
+    [[nodiscard]] GDISelector(CDC* dc, CGdiObject& object);
+    GDISelector(CDC* dc, const CGdiObject&& object) = delete;
+    /// By a raw handle. Selects nothing when the handle is not that of an object. Pointers to
+    /// objects, which would pass for handles, are refused.
+    [[nodiscard]] GDISelector(CDC* dc, void* handle);
+    template <class Object>
+    GDISelector(CDC* dc, Object* object) = delete;
     /// Selects the stock object of that index, and leaves it selected at the end.
-    GDISelector(CDC* dc, int stockIndex);
+    [[nodiscard]] GDISelector(CDC* dc, int stockIndex);
     GDISelector(const GDISelector&) = delete;
     GDISelector& operator=(const GDISelector&) = delete;
     ~GDISelector();
@@ -38,5 +44,6 @@ public:
 
 private:
     CDC* m_DC;
-    CGdiObject* m_Previous = nullptr;
+    // Its handle, since the pointer may come to mean another object.
+    HGDIOBJ m_Previous = nullptr;
 };

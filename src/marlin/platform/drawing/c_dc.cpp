@@ -6,7 +6,6 @@
 #include <marlin/platform/drawing/detail/text_painting.h>
 #include <marlin/platform/fonts/detail/selected_font.h>
 
-#include <cassert>
 #include <utility>
 
 using namespace PLATFORM::detail;
@@ -36,8 +35,10 @@ CDC* CDC::FromHandle(HDC handle) noexcept {
 }
 
 bool CDC::Own(HDC dc) noexcept {
-    assert(!m_hDC);
-    m_hDC = m_hAttribDC = dc;
+    if (dc) {
+        DeleteDC();
+        m_hDC = m_hAttribDC = dc;
+    }
     return dc != nullptr;
 }
 

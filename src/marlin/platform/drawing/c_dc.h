@@ -11,9 +11,9 @@
 class CBrush;
 class CGdiObject;
 
-/// Wraps a device context and owns it: destruction ends the context. Made empty; without a context
-/// its operations return 0, null or false and change nothing. A wrapper from `FromHandle` owns
-/// nothing.
+/// Wraps a device context and owns it: destruction ends the context, and so does creating another
+/// one, unless that fails. Made empty; without a context its operations return 0, null or false and
+/// change nothing. A wrapper from `FromHandle` owns nothing.
 ///
 /// A context holds the objects, colors and modes to draw with, and the mapping of logical
 /// coordinates to those of the device. One of the display answers for a fixed virtual display of
@@ -32,9 +32,8 @@ class CGdiObject;
 /// @endcode
 class MARLIN_API CDC {
 public:
-    /// The context for output and the one for queries; here always the same.
-    HDC m_hDC = nullptr;
-    HDC m_hAttribDC = nullptr;
+    HDC m_hDC = nullptr;        ///< For output; null while empty.
+    HDC m_hAttribDC = nullptr;  ///< For queries; here always the same.
 
     CDC() noexcept = default;
     CDC(const CDC&) = delete;
@@ -51,6 +50,7 @@ public:
                    const void* initData);
     /// A memory context like the given one; null means the display.
     bool CreateCompatibleDC(CDC* dc);
+    /// Ends the context. False without one.
     bool DeleteDC() noexcept;
 
     /// 0 for an unknown index.

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cassert>
 #include <utility>
 
 using namespace PLATFORM::detail;
@@ -46,8 +45,10 @@ CGdiObject* CGdiObject::FromHandle(HGDIOBJ handle) noexcept {
 }
 
 bool CGdiObject::Own(HGDIOBJ object) noexcept {
-    assert(!m_hObject);
-    m_hObject = object;
+    if (object) {
+        DeleteObject();
+        m_hObject = object;
+    }
     return object != nullptr;
 }
 

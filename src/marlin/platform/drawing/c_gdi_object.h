@@ -4,11 +4,12 @@
 #include <marlin/core/export.h>
 #include <marlin/platform/drawing/handles.h>
 
-/// Wraps a font, brush or bitmap by its handle and owns it: destruction deletes the object. Made
-/// empty. A wrapper from `FromHandle` owns nothing.
+/// Wraps a font, brush or bitmap by its handle and owns it: destruction deletes the object, and so
+/// does creating another one, unless that fails. Made empty. A wrapper from `FromHandle` owns
+/// nothing.
 class MARLIN_API CGdiObject {
 public:
-    HGDIOBJ m_hObject = nullptr;
+    HGDIOBJ m_hObject = nullptr;  ///< Null while empty.
 
     CGdiObject() noexcept = default;
     CGdiObject(const CGdiObject&) = delete;
@@ -24,7 +25,7 @@ public:
     bool DeleteObject() noexcept;
 
 protected:
-    /// Owns a new object, which takes the place of none. False for null.
+    /// Owns a new object; the one before is deleted. False for null, which changes nothing.
     bool Own(HGDIOBJ object) noexcept;
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "contours/definition_text.h"
 #include <marlin/base/colors/color_table.h>
-#include <marlin/contours/contour_definition_list.h>
 
 #include <algorithm>
 #include <cmath>
@@ -48,7 +48,6 @@ TEST(ContourDefinitionList, KeepsAddedDefinitionsInOrderAndRefusesLevelsItHas) {
     for (const double level : {5.0, 10.0, 20.0, nan}) {
         EXPECT_EQ(list.Add(At(level)), -1) << level;
     }
-    EXPECT_EQ(list.Set(1, At(nan)), -1);
     EXPECT_EQ(LevelsOf(list), (Levels{5.0, 10.0, 10.0000001, 20.0}));
     EXPECT_EQ(list.Add(At(infinity)), 4);
     EXPECT_EQ(list.Add(At(-infinity)), 0);
@@ -99,41 +98,29 @@ TEST(ContourDefinitionList, StaysInOrderThroughAddingAndRemoving) {
 
 TEST(ContourDefinitionList, FindsLevelsExactly) {
     const ContourDefinitionList list = ListOf({5.0, 10.0});
-    const struct {
-        double level;
-        int index;
-    } cases[] = {{5.0, 0},  {10.0, 1},  {7.5, -1},
-                 {4.0, -1}, {11.0, -1}, {std::nextafter(10.0, 0.0), -1},
-                 {nan, -1}};
-    for (const auto& [level, index] : cases) {
+    for (const auto& [level, index] :
+         {std::pair(5.0, 0), std::pair(10.0, 1), std::pair(7.5, -1), std::pair(4.0, -1),
+          std::pair(11.0, -1), std::pair(std::nextafter(10.0, 0.0), -1), std::pair(nan, -1)}) {
         EXPECT_EQ(list.Find(level), index) << level;
         EXPECT_EQ(list.Find(At(level)), index) << level;
     }
     EXPECT_EQ(ContourDefinitionList().Find(5.0), -1);
 }
 
-TEST(ContourDefinitionList, SetsADefinitionInPlaceOrMovesIt) {
-    ContourDefinitionList list = ListOf({5.0, 10.0, 20.0});
-    EXPECT_EQ(list.Set(1, {1.5F, 2, 10.0, 0x123456, true}), 1);
-    EXPECT_EQ(list[1].Color, 0x123456UL);
-    EXPECT_EQ(list[1].LineType, 2);
-    EXPECT_EQ(list[1].LineWidth, 1.5F);
-    EXPECT_TRUE(list[1].Annotate);
-    EXPECT_EQ(list.Set(0, At(30.0)), 2);
-    EXPECT_EQ(LevelsOf(list), (Levels{10.0, 20.0, 30.0}));
-    EXPECT_EQ(list[0].Color, 0x123456UL);
-    EXPECT_EQ(list.Set(0, list[2]), -1) << "its level is that of another";
-    EXPECT_EQ(LevelsOf(list), (Levels{20.0, 30.0}));
-}
-
-TEST(ContourDefinitionList, RefusesIndicesOutsideTheList) {
+TEST(ContourDefinitionList, SetsADefinitionInPlaceOrMovesItAndRefusesIndicesOutside) {
     ContourDefinitionList list = ListOf({5.0, 10.0, 20.0});
     for (const int index : {-1, 3}) {
         EXPECT_EQ(list.Set(index, At(1.0)), -1) << index;
         EXPECT_FALSE(list.Remove(index)) << index;
     }
+    EXPECT_EQ(list.Set(1, At(nan)), -1);
+    EXPECT_EQ(list.Set(1, {1.5F, 2, 10.0, 7, true}), 1);
+    EXPECT_EQ(list.Set(0, At(30.0)), 2);
+    EXPECT_EQ(TextOf(list), "10/7/2/1.5/1 20/0/0/0/0 30/0/0/0/0 ");
+    EXPECT_EQ(list.Set(0, list[2]), -1) << "its level is that of another";
+    EXPECT_EQ(TextOf(list), "20/0/0/0/0 30/0/0/0/0 ");
     EXPECT_TRUE(list.Remove(1));
-    EXPECT_EQ(LevelsOf(list), (Levels{5.0, 20.0}));
+    EXPECT_EQ(LevelsOf(list), (Levels{20.0}));
 }
 
 TEST(ContourDefinitionList, GeneratesTheMultiplesOfTheInterval) {
@@ -151,13 +138,10 @@ TEST(ContourDefinitionList, GeneratesTheMultiplesOfTheInterval) {
         EXPECT_TRUE(list.Generate(lowest, highest, interval));
         EXPECT_EQ(LevelsOf(list), levels) << lowest << " to " << highest;
     }
-}
-
-TEST(ContourDefinitionList, GeneratesByRepeatedAdditionAndAsManyLevelsAsAllowed) {
     ContourDefinitionList list;
     EXPECT_TRUE(list.Generate(0.0, 1.0, 0.1));
     ASSERT_EQ(list.NumContours(), 11);
-    EXPECT_EQ(list[10].Level, 0.9999999999999999);
+    EXPECT_EQ(list[10].Level, 0.9999999999999999) << "by repeated addition";
     EXPECT_TRUE(list.Generate(1.0, ContourDefinitionList::MaxGeneratedLevels, 1.0));
     EXPECT_EQ(list.NumContours(), ContourDefinitionList::MaxGeneratedLevels);
 }
@@ -177,20 +161,18 @@ TEST(ContourDefinitionList, IsEmptyAfterARefusedGeneration) {
     }
 }
 
+// An inverted color is 255 less the word: 255 - 66048 modulo 2^32.
 TEST(ContourDefinitionList, GeneratesFromAColorTable) {
     ColorTable table;
     ContourDefinitionList list = ListOf({1.0});
     EXPECT_FALSE(list.Generate(table, false));
     EXPECT_EQ(list.NumContours(), 0);
-    table.AddEntry(-2.0, 0x000000FF);
-    table.AddEntry(3.5, 0x00010200);
+    table.AddEntry(-2.0, 255);
+    table.AddEntry(3.5, 66048);
     EXPECT_TRUE(list.Generate(table, false));
-    EXPECT_EQ(LevelsOf(list), (Levels{-2.0, 3.5}));
-    EXPECT_EQ(list[0].Color, 0x000000FFUL);
-    EXPECT_EQ(list[1].Color, 0x00010200UL);
+    EXPECT_EQ(TextOf(list), "-2/255/0/0/0 3.5/66048/0/0/0 ");
     EXPECT_TRUE(list.Generate(table, true));
-    EXPECT_EQ(list[0].Color, 0UL);
-    EXPECT_EQ(list[1].Color, 0xFFFEFEFFUL);  // 255 - 66048, modulo 2^32
+    EXPECT_EQ(TextOf(list), "-2/0/0/0/0 3.5/4294901503/0/0/0 ");
 }
 
 }  // namespace

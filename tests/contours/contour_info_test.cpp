@@ -1,49 +1,42 @@
 // SPDX-License-Identifier: MIT
+#include "support/section_keys.h"
 #include <marlin/contours/contour_info.h>
-#include <marlin/settings/section.h>
+#include <marlin/contours/record_kinds.h>
 
-#include <gtest/gtest.h>
+#include <utility>
 
 namespace {
+
+TEST(ContourInfo, WritesItsDefaults) {
+    EXPECT_EQ(WrittenKeys(ContourInfo()),
+              "SmoothingWindow=0;Values between 0 and 8\nContourLabelSpacing=20.000000\n"
+              "SuppressionLength=0.000000;A value of 0 disables suppresion\nSmoothingPasses=1\n"
+              "EnableContouring=1\nLabelOrientation=OptimumTextAngle\n");
+}
 
 TEST(ContourInfo, PrefersTheNewerKeyOfTheSpacing) {
     Section section("Contours");
     section["LabelSpacing"] << 12;
     ContourInfo info;
-    info.Read(section);
-    EXPECT_EQ(info.GetLabelSpacing(), 12.0F);
-    section["ContourLabelSpacing"] << 15;
-    info.Read(section);
-    EXPECT_EQ(info.GetLabelSpacing(), 15.0F);
-    section["ContourLabelSpacing"] << "far";
-    info.Read(section);
-    EXPECT_EQ(info.GetLabelSpacing(), 12.0F);
+    for (const auto& [newer, spacing] :
+         {std::pair("", 12.0F), std::pair("15", 15.0F), std::pair("far", 12.0F)}) {
+        section["ContourLabelSpacing"] << newer;
+        EXPECT_TRUE(info.Read(section));
+        EXPECT_EQ(info.GetLabelSpacing(), spacing);
+    }
 }
 
 TEST(ContourInfo, ReadsEveryOrientationAndWritesAnUnknownOneEmpty) {
-    const struct {
-        const char* text;
-        ContourInfo::label_orientation orientation;
-    } cases[] = {{"OptimumTextAngle", ContourInfo::OptimumTextAngle},
-                 {"LowToHigh", ContourInfo::LowToHigh},
-                 {"HighToLow", ContourInfo::HighToLow},
-                 {"lowtohigh", ContourInfo::OptimumTextAngle},
-                 {"LowToHigh ", ContourInfo::OptimumTextAngle},
-                 {"", ContourInfo::OptimumTextAngle}};
-    for (const auto& [text, orientation] : cases) {
-        Section section("Contours");
-        section["LabelOrientation"] << text;
-        ContourInfo info;
-        info.SetLabelOrientation(ContourInfo::HighToLow);
-        info.Read(section);
-        EXPECT_EQ(info.GetLabelOrientation(), orientation) << text;
+    ContourInfo before;
+    before.SetLabelOrientation(ContourInfo::HighToLow);
+    for (const auto& [text, orientation] :
+         {std::pair("OptimumTextAngle", 0), std::pair("LowToHigh", 1), std::pair("HighToLow", 2),
+          std::pair("lowtohigh", 0), std::pair("LowToHigh ", 0), std::pair("", 0)}) {
+        EXPECT_EQ(ReadFrom(before, "LabelOrientation", text).GetLabelOrientation(), orientation);
     }
-    ContourInfo info;
     for (const int orientation : {-1, 3}) {
-        info.SetLabelOrientation(static_cast<ContourInfo::label_orientation>(orientation));
-        Section section("Contours");
-        info.Write(section);
-        EXPECT_EQ(section["LabelOrientation"].GetValue(), "") << orientation;
+        before.SetLabelOrientation(static_cast<ContourInfo::label_orientation>(orientation));
+        EXPECT_TRUE(WrittenKeys(before).ends_with("LabelOrientation=\n")) << orientation;
     }
 }
 
@@ -53,6 +46,34 @@ TEST(ContourInfo, ComparesLengthsWithATolerance) {
     EXPECT_TRUE(info == ContourInfo());
     info.SetSuppressionLength(1e-8);
     EXPECT_FALSE(info == ContourInfo());
+}
+
+// What differs from the defaults, with the number of its field. A grid has no style but by a key.
+TEST(RecordKinds, ReadTheKeysOfASectionWithAndWithoutAPrefix) {
+    Section section("S");
+    section["Level"] << -12.5;
+    section["LabelSpacing"] << 7;
+    section["BiasMode"] << 1;
+    section["North.BiasMode"] << 2;
+    std::string read;
+    for (const MARLINSUITE::RecordKind& kind : MARLINSUITE::RecordKinds()) {
+        const MARLINSUITE::RecordFields defaults = kind.Defaults();
+        EXPECT_FALSE(defaults.empty()) << kind.Name;
+        for (const std::string prefix : {"", "North"}) {
+            const MARLINSUITE::RecordFields fields = kind.Read(section, prefix);
+            for (std::size_t i = 0; i < fields.size(); ++i) {
+                if (fields[i].Text != defaults[i].Text && (prefix.empty() || kind.TakesPrefix)) {
+                    read += kind.Name + (" " + prefix) + fields[i].Key.Name + "(" +
+                            std::to_string(fields[i].Key.Field) + ")=" + fields[i].Text + "\n";
+                }
+            }
+        }
+    }
+    EXPECT_EQ(read,
+              "bias BiasMode(1)=1\nbias NorthBiasMode(1)=2\ngrid GridStyle(3)=\n"
+              "contour settings LabelSpacing(2)=7.000000\n"
+              "contour settings ContourLabelSpacing(2)=7.000000\n"
+              "contour definition Level(1)=-12.500000\n");
 }
 
 }  // namespace

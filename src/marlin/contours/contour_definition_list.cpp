@@ -139,10 +139,6 @@ void ContourDefinitionList::Swap(ContourDefinitionList& other) noexcept {
     std::swap(m_IsAscending, other.m_IsAscending);
 }
 
-void ContourDefinitionList::NoteOrder() noexcept {
-    m_IsAscending = std::ranges::is_sorted(Begin(), m_Storage.end(), {}, &ContourDefInfo::Level);
-}
-
 void ContourDefinitionList::Insert(int index, const ContourDefInfo& def) {
     const ContourDefInfo inserted = def;  // it may be one of this list, which moves
     if (index > NumContours() / 2) {
@@ -230,7 +226,6 @@ bool ContourDefinitionList::Generate(const ColorTable& table, bool invert) {
         definition.Color = invert ? 255U - color : color;
         m_Storage.push_back(definition);
     }
-    NoteOrder();
     return NumContours() != 0;
 }
 
@@ -255,7 +250,7 @@ bool ContourDefinitionList::Load(const char* path) {
         definition.Read(*section, paletteIndex);
         m_Storage.push_back(definition);
     }
-    NoteOrder();
+    m_IsAscending = std::ranges::is_sorted(Begin(), m_Storage.end(), {}, &ContourDefInfo::Level);
     return NumContours() != 0;
 }
 

@@ -1,43 +1,40 @@
 // SPDX-License-Identifier: MIT
-#include <tuple>
+#include <array>
 
-#include <hosts/program.h>
+#include <fcntl.h>
+#include <hosts/transcript.h>
+#include <unistd.h>
 
 namespace {
 
-// Returns all that the program prints when its standard output is a terminal.
-std::string OnTerminal(const Words& arguments) {
+// Returns all that the command prints when its standard output is a terminal.
+std::string OnTerminal(const std::string& command) {
     const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY);
     if (terminal < 0 || ::grantpt(terminal) != 0 || ::unlockpt(terminal) != 0) {
         return "(no terminal)";
     }
     const std::string name = ::ptsname(terminal);
     const int held = ::open(name.c_str(), O_RDWR | O_NOCTTY);  // keeps what was printed
-    Program program;
-    program.SetStandardOutput(name);
-    program.Run(arguments);
-    char text[4096];
-    const ssize_t size = ::read(terminal, text, sizeof text);
+    EXPECT_EQ(Shell().Run(command + " > " + name), "");
+    std::array<char, 4096> text{};
+    static_cast<void>(::read(terminal, text.data(), text.size() - 1));
     ::close(held);
     ::close(terminal);
-    return size < 0 ? "(nothing)" : std::string(text, static_cast<std::size_t>(size));
+    return text.data();
 }
 
 TEST(Terminal, HasSwatchesUnlessColorIsUnwanted) {
-    const std::string plain = "Color    DXF  Palette\r\n#010203  158  #000b26\r\n";
-    const std::string swatches =
+    const char* const plain = "Color    DXF  Palette\r\n#010203  158  #000b26\r\n";
+    const char* const swatches =
         "Color       DXF  Palette\r\n"
         "\x1B[48;2;1;2;3m  \x1B[0m #010203  158  \x1B[48;2;0;11;38m  \x1B[0m #000b26\r\n";
-    const std::vector<std::tuple<const char*, const char*, std::string>> cases = {
-        {"xterm", "", swatches}, {"xterm", "1", plain}, {"dumb", "", plain}, {"", "", swatches}};
-    for (const auto& [terminal, noColor, text] : cases) {
-        ::setenv("TERM", terminal, 1);
-        ::setenv("NO_COLOR", noColor, 1);
-        EXPECT_EQ(OnTerminal("colors dxf 1,2,3"), text) << terminal << " " << noColor;
+    for (const auto& [environment, text] :
+         {std::pair("TERM=xterm NO_COLOR=", swatches), std::pair("TERM=xterm NO_COLOR=1", plain),
+          std::pair("TERM=dumb NO_COLOR=", plain), std::pair("TERM= NO_COLOR=", swatches),
+          std::pair("env -u TERM -u NO_COLOR", swatches)}) {
+        EXPECT_EQ(OnTerminal(std::string(environment) + " marlin colors dxf 1,2,3"), text)
+            << environment;
     }
-    ::unsetenv("NO_COLOR");
-    ::unsetenv("TERM");
-    EXPECT_EQ(OnTerminal("colors dxf 1,2,3"), swatches);
 }
 
 }  // namespace

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <filesystem>
+#include <cstdlib>
+#include <sstream>
 #include <string>
 #include <vector>
 
-#include <hosts/program.h>
+#include <gtest/gtest.h>
+#include <support/temporary_folder.h>
+#include <sys/wait.h>
 
 /// A session at a terminal: lines that begin with "$ " are commands, the lines after each are
 /// what it prints, errors before results. "[1]" ends the output of a command that exits with 1.
@@ -30,7 +33,7 @@ struct Transcript {
 
 /// The lines of a file without their line ends.
 inline std::vector<std::string> LinesOf(const std::string& path) {
-    std::istringstream text(Program::ReadAll(path));
+    std::istringstream text(TemporaryFolder::Read(path));
     std::vector<std::string> lines;
     for (std::string line; std::getline(text, line);) {
         lines.push_back(line);
@@ -55,7 +58,7 @@ public:
         for (const std::string& line : LinesOf(err)) {
             EXPECT_TRUE(line.starts_with("marlin: ")) << line;
         }
-        std::string printed = Program::ReadAll(err) + Program::ReadAll(out);
+        std::string printed = TemporaryFolder::Read(err) + TemporaryFolder::Read(out);
         if (!printed.empty() && !printed.ends_with('\n')) {
             printed += "\\\n";
         }

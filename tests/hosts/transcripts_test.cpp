@@ -39,8 +39,8 @@ TEST_P(Commands, PrintWhatTheirTranscriptsShow) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, Commands,
-                         testing::Values("colors", "contours", "file", "keywords", "settings",
-                                         "text"),
+                         testing::Values("bad_input", "colors", "contours", "file", "keywords",
+                                         "settings", "text"),
                          [](const auto& transcript) { return std::string(transcript.param); });
 
 // The page leaves out exit codes.

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The rules that all records share which keep themselves as keys of a section.
 #include <marlin/base/format_string.h>
-#include <marlin/contours/contour_definition_list.h>
 #include <marlin/contours/contour_info.h>
 #include <marlin/records/bias_info.h>
 #include <marlin/records/depth_label_info.h>
@@ -17,6 +16,7 @@
 #include <algorithm>
 #include <concepts>
 #include <fstream>
+#include <map>
 #include <regex>
 #include <sstream>
 #include <string>
@@ -108,10 +108,6 @@ const Expected Keys<ContourInfo>{
     "EnableContouring=0\nLabelOrientation=LowToHigh\n",
     "LabelOrientation=OptimumTextAngle\n"};
 
-template <>
-const Expected Keys<ContourDefinitionList::ContourDefInfo>{"ContourDefinitionList::ContourDefInfo",
-                                                           false, "", ""};
-
 // The section of which `KeysOf` makes the text; the later of two lines for one key counts. With a
 // value, all keys have that one.
 Section SectionOf(const std::string& keys, const char* value = nullptr) {
@@ -165,19 +161,12 @@ using Kinds = testing::Types<LineInfo, DXFInfo, BiasInfo, SunIlluminationInfo, C
                              GeoGridInfo, PaperGrid, PanelInfo, ContourInfo>;
 TYPED_TEST_SUITE(Records, Kinds);
 
-// Of these the page alone has what they write that nobody changed.
-template <class Record>
-class RecordsPage : public testing::Test {};
-
-using KindsOfPage = testing::Types<LineInfo, DXFInfo, BiasInfo, SunIlluminationInfo, CMapInfo,
-                                   GridInfo, GeoGridInfo, PaperGrid, PanelInfo, ContourInfo,
-                                   ContourDefinitionList::ContourDefInfo>;
-TYPED_TEST_SUITE(RecordsPage, KindsOfPage);
-
-TYPED_TEST(RecordsPage, HasWhatARecordWritesThatNobodyChanged) {
+TYPED_TEST(Records, WriteTheirDefaultsAsThePageSaysAndReadBackEveryKey) {
     const std::regex comments(";[^\n]*");
-    EXPECT_EQ(std::regex_replace(Written(TypeParam()), comments, ""),
-              TableOf(Keys<TypeParam>.Class));
+    const std::string plain = std::regex_replace(Written(TypeParam()), comments, "");
+    EXPECT_EQ(plain, TableOf(Keys<TypeParam>.Class));
+    const std::string changed = Keys<TypeParam>.Changed;
+    EXPECT_EQ(Written(ReadFrom<TypeParam>(SectionOf(changed))), changed);
 }
 
 TEST(RecordsPage, HasTheItemsOfTextsAndDepthLabels) {
@@ -187,11 +176,6 @@ TEST(RecordsPage, HasTheItemsOfTextsAndDepthLabels) {
         lines += std::to_string(i) + "=" + items[i] + "\n";
     }
     EXPECT_EQ(TableOf("TextInfo") + TableOf("DepthLabelInfo"), lines);
-}
-
-TYPED_TEST(Records, ReadBackEveryKey) {
-    const std::string changed = Keys<TypeParam>.Changed;
-    EXPECT_EQ(Written(ReadFrom<TypeParam>(SectionOf(changed))), changed);
 }
 
 TYPED_TEST(Records, KeepOrResetTheFieldsOfMissingAndUnreadableKeys) {
@@ -244,14 +228,18 @@ TYPED_TEST(Records, AppendOrReplaceKeysOfWhichTheFirstCount) {
 TYPED_TEST(Records, ListTheKeysThatTheyWrite) {
     const auto record = ReadFrom<TypeParam>(SectionOf(Keys<TypeParam>.Changed));
     std::string listed;
+    std::map<int, const char*> meanings;
     for (const auto& [key, value, text] : record.Fields()) {
         const std::string comments = key.Comments;
         listed += key.IsOlder
                       ? ""
                       : key.Name + ("=" + text) + (comments.empty() ? "\n" : ";" + comments + "\n");
         EXPECT_STRNE(key.Meaning, "") << key.Name;
-        EXPECT_GT(key.Field, 0) << key.Name;
+        EXPECT_STREQ(meanings.try_emplace(key.Field, key.Meaning).first->second, key.Meaning);
     }
+    // Fields are numbered from 1.
+    EXPECT_EQ(meanings.begin()->first, 1);
+    EXPECT_EQ(meanings.rbegin()->first, static_cast<int>(meanings.size()));
     EXPECT_EQ(listed, Keys<TypeParam>.Changed);
 }
 

@@ -25,6 +25,7 @@ class Section;
 /// @endcode
 class MARLIN_API ContourDefinitionList {
 public:
+    /// One contour: its level, and how it is drawn and labelled.
     struct ContourDefInfo {
         float LineWidth = 0.0F;
         int LineType = 0;         ///< Index into `LINESTYLES`.

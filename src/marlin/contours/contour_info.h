@@ -21,9 +21,9 @@ class MARLIN_API ContourInfo {
 public:
     /// How contour labels are turned.
     enum label_orientation : int {
-        OptimumTextAngle = 0,
-        LowToHigh = 1,
-        HighToLow = 2,
+        OptimumTextAngle = 0,  ///< to be read from below, as far as the contour lets them
+        LowToHigh = 1,         ///< their tops point to the higher side
+        HighToLow = 2,         ///< their tops point to the lower side
     };
 
     ContourInfo() = default;

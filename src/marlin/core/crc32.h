@@ -13,6 +13,7 @@ namespace CRC32 {
 /// The register before any byte.
 inline constexpr unsigned int Start = 0xFFFFFFFFU;
 
+/// A register for each value of a byte.
 using Table = std::array<unsigned int, 256>;
 
 /// `ByteTables[k][b]`: the register that byte `b` and `k` zero bytes after it leave of 0.

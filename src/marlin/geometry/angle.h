@@ -54,9 +54,13 @@ public:
     constexpr Angle operator*(double factor) const noexcept { return m_Degrees * factor; }
     /// The part, reduced to one turn; not a number for a divisor of 0.
     constexpr Angle operator/(double divisor) const noexcept { return m_Degrees / divisor; }
+    /// Turns further.
     constexpr Angle& operator+=(const Angle& other) noexcept { return *this = *this + other; }
+    /// Turns back.
     constexpr Angle& operator-=(const Angle& other) noexcept { return *this = *this - other; }
+    /// Becomes the multiple.
     constexpr Angle& operator*=(double factor) noexcept { return *this = *this * factor; }
+    /// Becomes the part.
     constexpr Angle& operator/=(double divisor) noexcept { return *this = *this / divisor; }
 
     /// With the tolerance of `MATH::Equal`. 359.9999999999 and 0 are far apart, not equal.

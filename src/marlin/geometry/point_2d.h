@@ -74,7 +74,9 @@ public:
     constexpr Point2D operator/(const T& divisor) const noexcept {
         return {x / divisor, y / divisor};
     }
+    /// Moves by the way.
     constexpr Point2D& operator+=(const Vector2D<T>& v) noexcept { return *this = *this + v; }
+    /// Moves back by the way.
     constexpr Point2D& operator-=(const Vector2D<T>& v) noexcept { return *this = *this - v; }
 
     /// With the tolerance of `MATH::Equal` in x and in y.
@@ -85,12 +87,15 @@ public:
     [[nodiscard]] constexpr bool operator<(const Point2D& other) const noexcept {
         return x < other.x || (x == other.x && y < other.y);
     }
+    /// Exactly by x, then by y.
     [[nodiscard]] constexpr bool operator>(const Point2D& other) const noexcept {
         return x > other.x || (x == other.x && y > other.y);
     }
+    /// Exactly by x, then by y.
     [[nodiscard]] constexpr bool operator<=(const Point2D& other) const noexcept {
         return x < other.x || (!(x > other.x) && y <= other.y);
     }
+    /// Exactly by x, then by y.
     [[nodiscard]] constexpr bool operator>=(const Point2D& other) const noexcept {
         return x > other.x || (!(x < other.x) && y >= other.y);
     }

@@ -69,7 +69,9 @@ public:
     constexpr Point3D operator/(const T& divisor) const noexcept {
         return {x / divisor, y / divisor, z / divisor};
     }
+    /// Moves by the way.
     constexpr Point3D& operator+=(const Vector3D<T>& v) noexcept { return *this = *this + v; }
+    /// Moves back by the way.
     constexpr Point3D& operator-=(const Vector3D<T>& v) noexcept { return *this = *this - v; }
 
     /// Exact, in all three coordinates.
@@ -80,6 +82,7 @@ public:
     [[nodiscard]] constexpr bool operator<(const Point3D& other) const noexcept {
         return x < other.x || (x == other.x && (y < other.y || (y == other.y && z < other.z)));
     }
+    /// The mirror image of `<`.
     [[nodiscard]] constexpr bool operator>(const Point3D& other) const noexcept {
         return other < *this;
     }

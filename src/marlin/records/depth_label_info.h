@@ -71,9 +71,11 @@ public:
     void UseTextColor(bool use) noexcept { m_UseTextColor = use; }
     /// True has the host turn labels by itself.
     void AutoTextRotation(bool on) noexcept { m_AutoTextRotation = on; }
+    /// True underlines the heights of what falls dry.
     void SetUnderlineDryingHeights(bool underline) noexcept {
         m_UnderlineDryingHeights = underline;
     }
+    /// True leaves out zeros among the decimals.
     void SetNoDecimalZeros(bool suppress) noexcept { m_NoDecimalZeros = suppress; }
 
     /// Compares text styles by their own equality, all other fields exactly.

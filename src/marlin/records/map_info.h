@@ -45,11 +45,17 @@ public:
     constexpr void SetScaleLevel(int level) noexcept { m_ScaleLevel = level; }
     /// Stores the code unchecked.
     constexpr void SetDisplayType(int type) noexcept { m_DisplayType = type; }
+    /// True shows generic texts.
     constexpr void SetTextGeneric(bool show) noexcept { m_TextGeneric = show; }
+    /// True shows other texts.
     constexpr void SetTextOther(bool show) noexcept { m_TextOther = show; }
+    /// True shows the chart's own contours.
     constexpr void SetChartContour(bool show) noexcept { m_ChartContour = show; }
+    /// True has lights described.
     constexpr void SetLightsInfo(bool show) noexcept { m_LightsInfo = show; }
+    /// True has crowded symbols thinned out.
     constexpr void SetAntiCluttering(bool on) noexcept { m_AntiCluttering = on; }
+    /// True shows boundaries.
     constexpr void SetBoundaries(bool show) noexcept { m_Boundaries = show; }
 
     /// Exact, in all fields.

@@ -40,17 +40,22 @@ concept SettingsValue = SettingsNumber<T> || std::same_as<T, std::string>;
 /// @endcode
 class MARLIN_API SectionKey {
 public:
+    /// A key of that name with an empty value.
     SectionKey(const char* name) : m_Name(name) {}
+    /// A key of that name with an empty value.
     SectionKey(const std::string& name) : m_Name(name) {}
+    /// A key of that name, whose hash is known, with an empty value.
     explicit SectionKey(const HashedString& name) : m_Name(name) {}
     SectionKey(std::nullptr_t) = delete;
     template <class... Rest>
     SectionKey(std::nullptr_t, const Rest&...) = delete;
+    /// A key with a value, written as `<<` does.
     template <SettingsValue T>
     SectionKey(const std::string& name, const T& value, const char* comments = "")
         : m_Name(name), m_Comments(comments) {
         *this << value;
     }
+    /// A key with a text.
     SectionKey(const std::string& name, const char* value, const char* comments = "")
         : m_Name(name), m_Value(value), m_Comments(comments) {}
     SectionKey(const std::string&, std::nullptr_t, const char* = "") = delete;
@@ -60,24 +65,33 @@ public:
     SectionKey(std::string_view name, std::string_view value, std::string_view comments)
         : m_Name(name), m_Value(value), m_Comments(comments) {}
 
+    /// Empty for a key that is not valid.
     [[nodiscard]] const HashedString& GetName() const noexcept { return m_Name; }
+    /// The text as a file holds it.
     [[nodiscard]] const std::string& GetValue() const noexcept { return m_Value; }
+    /// What follows the first ";" of the line.
     [[nodiscard]] const std::string& GetComments() const noexcept { return m_Comments; }
+    /// Whether the key has a name.
     [[nodiscard]] bool IsValid() const noexcept { return !m_Name.empty(); }
 
+    /// Stores what is to follow the ";".
     void SetComments(const std::string& comments) { m_Comments = comments; }
+    /// Stores what is to follow the ";".
     void SetComments(const char* comments) { m_Comments = comments; }
     void SetComments(std::nullptr_t) = delete;
 
+    /// The text becomes the value.
     SectionKey& operator<<(const char* value) {
         m_Value = value;
         return *this;
     }
     SectionKey& operator<<(std::nullptr_t) = delete;
+    /// The text becomes the value.
     SectionKey& operator<<(const CString& value) {
         m_Value = value.View();
         return *this;
     }
+    /// The value becomes text.
     template <SettingsValue T>
     SectionKey& operator<<(const T& value) {
         if constexpr (std::same_as<T, std::string>) {
@@ -97,14 +111,17 @@ public:
         return *this;
     }
 
+    /// The whole text.
     const SectionKey& operator>>(std::string& value) const {
         value = m_Value;
         return *this;
     }
+    /// The whole text.
     const SectionKey& operator>>(CString& value) const {
         value = CString(std::string_view(m_Value));
         return *this;
     }
+    /// The leading number of the text, if it has one.
     template <SettingsNumber T>
     const SectionKey& operator>>(T& value) const {
         if constexpr (std::same_as<T, long>) {

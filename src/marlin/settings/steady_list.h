@@ -30,7 +30,7 @@ class SteadyList {
     class Walk {
     public:
         using iterator_category = std::forward_iterator_tag;
-        using value_type = T;
+        using value_type = T;  ///< The type of the elements.
         using difference_type = std::ptrdiff_t;
         using pointer = Item*;
         using reference = Item&;
@@ -73,9 +73,9 @@ class SteadyList {
     };
 
 public:
-    using value_type = T;
-    using iterator = Walk<T>;
-    using const_iterator = Walk<const T>;
+    using value_type = T;                  ///< The type of the elements.
+    using iterator = Walk<T>;              ///< Steps over elements that can be changed.
+    using const_iterator = Walk<const T>;  ///< Steps over elements.
 
     SteadyList() = default;
     SteadyList(SteadyList&&) noexcept = default;

@@ -33,6 +33,7 @@
 /// @endcode
 class MARLIN_API TextRectComp {
 public:
+    /// An area in the units of the text, turned about its justified point.
     using Rect = GTL::Rectangle<GTL::Point2D<double>>;
     /// One part of a depth label: its rectangle and its text.
     using LabelPart = std::pair<Rect, std::string>;

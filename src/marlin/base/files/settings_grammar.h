@@ -24,6 +24,7 @@ inline constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 /// One line of a settings file and its parts. All texts are views into the file's text.
 struct SettingsLine {
+    /// What a line is.
     enum KIND {
         BLANK,     ///< Nothing but white space.
         PREAMBLE,  ///< A line before the first header, which readers ignore.

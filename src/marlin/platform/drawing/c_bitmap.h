@@ -7,13 +7,13 @@ class CDC;
 
 /// A bitmap as `CBitmap::GetBitmap` describes it.
 struct BITMAP {
-    int bmType = 0;
-    int bmWidth = 0;
-    int bmHeight = 0;
-    int bmWidthBytes = 0;
-    unsigned short bmPlanes = 1;
-    unsigned short bmBitsPixel = 32;
-    void* bmBits = nullptr;
+    int bmType = 0;                   ///< always 0
+    int bmWidth = 0;                  ///< in pixels
+    int bmHeight = 0;                 ///< in pixels
+    int bmWidthBytes = 0;             ///< of a row
+    unsigned short bmPlanes = 1;      ///< always 1
+    unsigned short bmBitsPixel = 32;  ///< always 32
+    void* bmBits = nullptr;           ///< null: `CBitmap::GetBitmapBits` has the pixels
 };
 
 /// A surface of 32-bit pixels, painted through the memory context that it is selected into.

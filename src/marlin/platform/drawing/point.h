@@ -3,8 +3,8 @@
 
 /// A position in device or logical units.
 struct POINT {
-    int x = 0;
-    int y = 0;
+    int x = 0;  ///< to the right
+    int y = 0;  ///< down on a device, up in most logical units
 };
 
 /// A `POINT` with constructors and comparison. Default (0, 0).

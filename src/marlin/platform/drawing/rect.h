@@ -6,10 +6,10 @@
 
 /// A rectangle in device or logical units; the right and bottom edges are not part of it.
 struct RECT {
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
+    int left = 0;    ///< the first column
+    int top = 0;     ///< the first row
+    int right = 0;   ///< the column after the last
+    int bottom = 0;  ///< the row after the last
 };
 
 /// A `RECT` with constructors, comparison and its sizes. Default all 0. Corners stay as they are

@@ -3,8 +3,8 @@
 
 /// A width and a height in device or logical units.
 struct SIZE {
-    int cx = 0;
-    int cy = 0;
+    int cx = 0;  ///< the width
+    int cy = 0;  ///< the height
 };
 
 /// A `SIZE` with constructors and comparison. Default (0, 0).

@@ -17,7 +17,13 @@ struct OutlinePoint {
 /// One step of a pen: it jumps to `To`, or draws a line or a Bezier curve of one or two control
 /// points there.
 struct OutlineStep {
-    enum KIND { MOVE, LINE, CONIC, CUBIC };
+    /// How the pen gets to `To`.
+    enum KIND {
+        MOVE,   ///< without a line
+        LINE,   ///< straight
+        CONIC,  ///< by a curve of `Control1`
+        CUBIC,  ///< by a curve of `Control1` and `Control2`
+    };
     KIND Kind = MOVE;
     OutlinePoint To;
     OutlinePoint Control1;

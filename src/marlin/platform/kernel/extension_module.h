@@ -7,13 +7,14 @@
 
 /// Names a module that is loaded into the process; null names none.
 using HINSTANCE = struct HINSTANCE__*;
+/// The same, as older calls name it.
 using HMODULE = HINSTANCE;
 
 /// The framework's record of an extension module; at first empty, not registered.
 struct AFX_EXTENSION_MODULE {
-    int bInitialized = 0;
-    HMODULE hModule = nullptr;
-    HMODULE hResource = nullptr;
+    int bInitialized = 0;         ///< 1 while registered, else 0
+    HMODULE hModule = nullptr;    ///< the module itself
+    HMODULE hResource = nullptr;  ///< the module that holds its resources
 };
 
 /// Registers a module, whose resources are its own. Returns 1, also for a module that is

@@ -6,6 +6,7 @@
 
 struct SECURITY_ATTRIBUTES;
 
+/// The right to wait for a mutex.
 inline constexpr unsigned long SYNCHRONIZE = 0x00100000;
 
 /// Makes a mutex, or opens the one of that name: within the process a name, case included, names

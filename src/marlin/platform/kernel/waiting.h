@@ -7,12 +7,12 @@
 /// means nothing and is never given twice, so that a closed or invented handle is recognised.
 using HANDLE = void*;
 
-inline constexpr unsigned long INFINITE = 0xFFFFFFFF;
+inline constexpr unsigned long INFINITE = 0xFFFFFFFF;  ///< a time in milliseconds that never ends
 
-inline constexpr unsigned long WAIT_OBJECT_0 = 0;
-inline constexpr unsigned long WAIT_ABANDONED = 0x80;
-inline constexpr unsigned long WAIT_TIMEOUT = 258;
-inline constexpr unsigned long WAIT_FAILED = 0xFFFFFFFF;
+inline constexpr unsigned long WAIT_OBJECT_0 = 0;         ///< waited for, and a mutex taken
+inline constexpr unsigned long WAIT_ABANDONED = 0x80;     ///< a mutex taken whose owner is gone
+inline constexpr unsigned long WAIT_TIMEOUT = 258;        ///< the time ran out
+inline constexpr unsigned long WAIT_FAILED = 0xFFFFFFFF;  ///< there is nothing to wait for
 
 /// Waits for an object, at most so many milliseconds; with 0 it returns at once, with `INFINITE`
 /// it waits for ever. A worker is waited for until it has ended. A mutex is taken: see

@@ -12,13 +12,13 @@ namespace PLATFORM::detail {
 class Worker;
 }
 
-inline constexpr int THREAD_PRIORITY_IDLE = -15;
-inline constexpr int THREAD_PRIORITY_LOWEST = -2;
-inline constexpr int THREAD_PRIORITY_BELOW_NORMAL = -1;
-inline constexpr int THREAD_PRIORITY_NORMAL = 0;
+inline constexpr int THREAD_PRIORITY_IDLE = -15;         ///< runs when no other thread wants to
+inline constexpr int THREAD_PRIORITY_LOWEST = -2;        ///< gives way most
+inline constexpr int THREAD_PRIORITY_BELOW_NORMAL = -1;  ///< gives way
+inline constexpr int THREAD_PRIORITY_NORMAL = 0;         ///< as the other threads
 
-inline constexpr unsigned long CREATE_SUSPENDED = 4;
-inline constexpr unsigned long STILL_ACTIVE = 259;
+inline constexpr unsigned long CREATE_SUSPENDED = 4;  ///< flag: waits to be resumed
+inline constexpr unsigned long STILL_ACTIVE = 259;    ///< the exit code before the end
 
 /// The function that a worker runs; its result is the thread's exit code. It must not throw.
 using AFX_THREADPROC = unsigned int (*)(void*);
@@ -29,8 +29,8 @@ using AFX_THREADPROC = unsigned int (*)(void*);
 /// its handle.
 class MARLIN_API CWinThread {
 public:
-    HANDLE m_hThread = nullptr;
-    bool m_bAutoDelete = true;
+    HANDLE m_hThread = nullptr;  ///< names the worker; valid while this object lives
+    bool m_bAutoDelete = true;   ///< whether the object deletes itself
 
     /// `AfxBeginThread` makes them.
     explicit CWinThread(std::shared_ptr<PLATFORM::detail::Worker> worker);

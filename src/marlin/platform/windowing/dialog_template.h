@@ -10,15 +10,15 @@ namespace PLATFORM {
 
 /// The kinds of controls.
 enum class CONTROL {
-    LABEL,
-    EDIT,
-    PUSH_BUTTON,
+    LABEL,           ///< A text that the user cannot change.
+    EDIT,            ///< A field of one line.
+    PUSH_BUTTON,     ///< Not pressed by Enter.
     DEFAULT_BUTTON,  ///< Pressed by Enter.
     OWNER_BUTTON,    ///< Drawn by its window class.
     CHECK_BOX,       ///< With its text left of the box.
-    DROP_DOWN_LIST,
-    SPIN,         ///< Attached to the edit before it, in which it sets whole numbers.
-    REPORT_LIST,  ///< With a border, several rows selectable, the selection always visible.
+    DROP_DOWN_LIST,  ///< A field whose choices drop down.
+    SPIN,            ///< Attached to the edit before it, in which it sets whole numbers.
+    REPORT_LIST,     ///< With a border, several rows selectable, the selection always visible.
 };
 
 /// One control of a dialog template.

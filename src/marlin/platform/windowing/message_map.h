@@ -10,6 +10,7 @@ class CWnd;
 
 /// The handler of one message, a member of the class that the map belongs to.
 struct AFX_MSGMAP_ENTRY {
+    /// One of the kinds of functions that handle a message.
     using Handler =
         std::variant<void (CWnd::*)(), void (CWnd::*)(NMHDR*, LRESULT*), BOOL (CWnd::*)(HELPINFO*)>;
     UINT nMessage;

@@ -10,9 +10,13 @@
 
 /// Names a window until it is destroyed; null names none. A value is never given twice.
 using HWND = struct HWND__*;
+/// Numbers of messages and controls.
 using UINT = unsigned int;
+/// The first value that a message carries; what it means depends on the message.
 using WPARAM = std::uintptr_t;
+/// The second value that a message carries, often an address.
 using LPARAM = std::intptr_t;
+/// What handling a message results in; what it means depends on the message.
 using LRESULT = std::intptr_t;
 
 /// The first message number that is an application's own.

@@ -84,10 +84,11 @@ private:
     /// As `std::fmod` finds it, which is no constant expression: every difference here is exact.
     /// A remainder of 0 has no sign, which would show in texts.
     static constexpr double Remainder(double degrees) noexcept {
-        double rest = degrees > 0 ? degrees : 0 - degrees;
-        if (!(rest <= std::numeric_limits<double>::max())) {
+        constexpr double most = std::numeric_limits<double>::max();
+        if (!(degrees >= -most && degrees <= most)) {
             return std::numeric_limits<double>::quiet_NaN();
         }
+        double rest = degrees > 0 ? degrees : 0 - degrees;
         double turns = 360;
         while (turns <= rest / 2) {
             turns *= 2;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What saving keeps of a file, tried as other users in children of the test.
+#include "support/full_disk.h"
 #include "support/temporary_folder.h"
 #include <marlin/base/files/file_replacement.h>
 #include <marlin/platform/kernel/detail/test_levers.h>
@@ -138,14 +139,13 @@ TEST_F(ReplaceFileAsUser, RewritesInPlaceWhereTheFolderTakesNoNewFile) {
     const SharedFile file(04775);
     fs::permissions(file.Folder.File(""), fs::perms(0555));
     const auto isRefused = [&](const char* name, std::size_t size, const char* message) {
-        return StatusOfChild(file.Folder, [&] {
-                   const rlimit limit{5000, 5000};
-                   std::signal(SIGXFSZ, SIG_IGN);
-                   const bool ready =
-                       ::setrlimit(RLIMIT_FSIZE, &limit) == 0 && ::seteuid(owner) == 0;
-                   const ErrorString error = ReplaceFile(name, std::string(size, 'n'));
-                   return ready && error.Text() == message ? 0 : 1;
-               }) == 0;
+        const int status = StatusOfChild(file.Folder, [&] {
+            const FullDisk full(5000);
+            const bool ready = ::seteuid(owner) == 0;
+            const ErrorString error = ReplaceFile(name, std::string(size, 'n'));
+            return ready && error.Text() == message ? 0 : 1;
+        });
+        return status == 0;
     };
     EXPECT_TRUE(isRefused("a", 100'000, "a: File too large"));
     EXPECT_EQ(file.Bytes(), "a longer old text");
@@ -166,21 +166,15 @@ TEST_F(ReplaceFileAsUser, RewritesInPlaceWhereNothingCanBeReserved) {
             ::mount("none", ".", "ramfs", 0, nullptr) != 0 || ::chdir(fs::current_path().c_str())) {
             return 2;
         }
-        const auto write = [](const char* text) { std::ofstream("a") << text; };
-        write("old");
-        ::chmod("a", 0666);
-        ::chmod(".", 0555);
+        std::ofstream("a") << "old";
         const std::string longer(100'000, 'n');
-        const rlimit limit{50'000, 200'000};
-        std::signal(SIGXFSZ, SIG_IGN);
-        if (::seteuid(member) != 0 || !ReplaceFile("a", longer).Empty() ||
-            TemporaryFolder::Read("a") != longer || !ReplaceFile("a", "short").Empty() ||
-            TemporaryFolder::Read("a") != "short") {
-            return 1;
-        }
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-        const bool refused = !ReplaceFile("a", longer).Empty();
-        return refused && TemporaryFolder::Read("a") == "short" ? 0 : 1;
+        const auto isSaved = [](const std::string& text) {
+            return ReplaceFile("a", text).Empty() && TemporaryFolder::Read("a") == text;
+        };
+        const bool done = ::chmod("a", 0666) == 0 && ::chmod(".", 0555) == 0 &&
+                          ::seteuid(member) == 0 && isSaved(longer) && isSaved("short");
+        const FullDisk full(50'000);
+        return done && !isSaved(longer) && TemporaryFolder::Read("a") == "short" ? 0 : 1;
     });
     if (WEXITSTATUS(status) == 2) {
         GTEST_SKIP() << "cannot mount a file system";

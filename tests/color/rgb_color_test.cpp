@@ -26,19 +26,16 @@ TEST(RGBColor, KeepsTheLowEightBitsOfItsComponentsAndDiffersInAnyOne) {
     }
 }
 
-// The last four are sums of whole numbers that fall short of one by the order of their adding.
+// 76.5, 150.45, 28.05, 118 + 30 + 5.5 and 254.89; the last four are sums of whole numbers that
+// fall short of one by the order of their adding.
 TEST(RGBColor, TurnsIntoTheGrayOfItsBrightness) {
     const struct {
         RGBColor color;
         int gray;
-    } cases[] = {
-        {{10, 10, 10}, 10},     {{255, 255, 255}, 255}, {{255, 0, 0}, 76},  // 76.5
-        {{0, 255, 0}, 150},                                                 // 150.45
-        {{0, 0, 255}, 28},                                                  // 28.05
-        {{100, 200, 50}, 153},                                              // 118 + 30 + 5.5
-        {{255, 255, 254}, 254},                                             // 254.89
-        {{1, 5, 25}, 6},        {{1, 21, 21}, 15},      {{2, 5, 95}, 14},  {{1, 209, 49}, 128},
-    };
+    } cases[] = {{{10, 10, 10}, 10},     {{255, 255, 255}, 255}, {{255, 0, 0}, 76},
+                 {{0, 255, 0}, 150},     {{0, 0, 255}, 28},      {{100, 200, 50}, 153},
+                 {{255, 255, 254}, 254}, {{1, 5, 25}, 6},        {{1, 21, 21}, 15},
+                 {{2, 5, 95}, 14},       {{1, 209, 49}, 128}};
     for (const auto& [color, gray] : cases) {
         EXPECT_EQ(color.GrayScale(), RGBColor(gray, gray, gray));
     }

@@ -92,30 +92,21 @@ TEST(NumberText, LimitsOfTheDecimalTypes) {
     const std::pair<std::string, double> cases[] = {
         {"1.7976931348623157e308", std::numeric_limits<double>::max()},
         {"5e-324", std::numeric_limits<double>::denorm_min()},
+        {"+.5e", 0.5},
         {"-1e-99999999999999999999", 0.0},
         {"0e999999999999", 0.0},
         {std::string(400, '0') + "1" + std::string(30, '0'), 1e30},
-        {"0." + std::string(400, '0') + "1e401", 1.0},
-        {"+.5e", 0.5},
-        // No number, or one beyond the type, leaves the target.
-        {"1.8e308", 3},
-        {"1e99999999999999999999", 3},
-        {"inf", 3},
-        {"-inf", 3},
-        {"nan", 3},
-        {"infinity", 3},
-        {"+-1", 3},
-        {"--1", 3},
-        {"-", 3},
-        {".", 3},
-        {"-.", 3},
-        {"e5", 3},
-        {"x1", 3},
-        {"", 3}};
+        {"0." + std::string(400, '0') + "1e401", 1.0}};
     for (const auto& [text, expected] : cases) {
         double value = 3;
-        EXPECT_EQ(ParseNumber(text, value), expected != 3) << text;
+        EXPECT_TRUE(ParseNumber(text, value)) << text;
         EXPECT_EQ(value, expected) << text;
+    }
+    for (const char* const text : {"1.8e308", "1e99999999999999999999", "inf", "-inf", "nan",
+                                   "infinity", "+-1", "--1", "-", ".", "-.", "e5", "x1", ""}) {
+        double value = 3;
+        EXPECT_FALSE(ParseNumber(text, value)) << text;
+        EXPECT_EQ(value, 3) << text;
     }
     for (const auto& [text, expected] :
          {std::pair("1e-60", 0.0F), std::pair("100e-60", 0.0F), std::pair("0.00001e-45", 0.0F),

@@ -8,6 +8,7 @@
 #include <string>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -167,6 +168,10 @@ TEST_F(CRCFileTest, ReportsAPayloadThatCannotBeReadBack) {
     ASSERT_TRUE(m_File.Open(m_Path, "wb").Empty());
     EXPECT_EQ(Write(m_File, "123"), 3U);
     EXPECT_EQ(CauseOfClosing(m_File), m_Path + ": Bad file descriptor");
+    const std::string pipe = m_Folder.File("pipe");
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    ASSERT_TRUE(m_File.Open(pipe, "w+b").Empty());
+    EXPECT_EQ(CauseOfClosing(m_File), pipe + ": Illegal seek");
 }
 
 }  // namespace

@@ -50,8 +50,7 @@ TEST(IniFile, ReadsLinesAsTheFormatSays) {
         {"[S]\n\xE4=\xF6\xFF\n", "[S|]\xE4|\xF6\xFF|\n"},
         {"[]\n", "", "Invalid section definition on line 1"},
         {"\n\n[A]\na=1\n[B]\n[] x\n[C]\n", "[A|]a|1|\n", "Invalid section definition on line 6"},
-        {"[A]\na=1\n[B]\n[a]\nb=1\n", "[A|]a|1|\n[B|]", "Error! Duplicate sectiona found!"},
-    };
+        {"[A]\na=1\n[B]\n[a]\nb=1\n", "[A|]a|1|\n[B|]", "Error! Duplicate sectiona found!"}};
     for (const Case& c : cases) {
         IniFile file;
         EXPECT_EQ(file.OpenText(c.Text).Text(), c.Message) << c.Text;

@@ -137,12 +137,7 @@ bool CRCFile::Complete() {
 }
 
 unsigned int CRCFile::Read(void* buffer, unsigned int size, unsigned int count) {
-    if (!IsOpen()) {
-        return 0;
-    }
-    const std::size_t read = std::fread(buffer, size, count, File());
-    m_Stream->Note();
-    return static_cast<unsigned int>(read);
+    return IsOpen() ? static_cast<unsigned int>(std::fread(buffer, size, count, File())) : 0;
 }
 
 unsigned int CRCFile::Write(const void* buffer, unsigned int size, unsigned int count) {

@@ -24,15 +24,13 @@ void AddContents(CRCChecksum& checksum, const File& file, unsigned int wordLimit
     const auto block = std::make_unique_for_overwrite<char[]>(blockSize);
     std::uint64_t left =
         wordLimit == FileChecksum::AllWords ? UINT64_MAX : std::uint64_t{wordLimit} * 4;
-    std::size_t wanted = 0;
-    std::size_t got = 0;
-    do {
-        wanted = static_cast<std::size_t>(std::min<std::uint64_t>(left, blockSize));
+    for (std::size_t got = blockSize; got == blockSize;) {
+        const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(left, blockSize));
         got = 0;
         static_cast<void>(file.ReadAll(block.get(), wanted, got));
         AddWords(checksum, std::string_view(block.get(), got));
         left -= got;
-    } while (got == wanted && left > 0);
+    }
 }
 
 }  // namespace

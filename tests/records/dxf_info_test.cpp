@@ -5,7 +5,6 @@
 #include <utility>
 
 #include <gtest/gtest.h>
-#include <support/section_keys.h>
 
 namespace {
 
@@ -30,13 +29,6 @@ TEST(DXFInfo, ReadsTextFormsAndWritesThem) {
     for (const auto& [text, expected] : cases) {
         EXPECT_EQ(Pen(text).ToString(), expected) << text;
         EXPECT_EQ(Pen(text), Pen(expected)) << text;
-    }
-}
-
-TEST(DXFInfo, ReadsPaletteIndicesThatThereAre) {
-    EXPECT_EQ(ReadFrom(DXFInfo(), "DXFLineColor", "90").Color(), 0x00FF00UL);
-    for (const char* index : {"300", "-1", "256", "99999999999"}) {
-        EXPECT_EQ(ReadFrom(Pen("2,1,4"), "DXFLineColor", index), Pen("2,0,4")) << index;
     }
 }
 

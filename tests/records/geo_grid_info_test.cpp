@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/records/geo_grid_info.h>
 
-#include <tuple>
-
 #include <gtest/gtest.h>
 #include <support/section_keys.h>
 
@@ -23,16 +21,6 @@ TEST(GeoGridInfo, IntervalsOfEverySizeSurviveWithoutTheirSign) {
     }
     EXPECT_EQ(ReadFrom(GeoGridInfo(), "LonInterval", "-2").LonInterval(), 2.0);
     EXPECT_EQ(ReadFrom(GeoGridInfo(), "LatInterval", "-1e-3 deg").LatInterval(), 0.001);
-}
-
-TEST(GeoGridInfo, ReadsColorsOfEveryKind) {
-    const std::tuple<const char*, const char*, unsigned long> cases[] = {
-        {"GridColor", "1", 0x0000FF},      {"GridColor", "5", 0xFF0000},
-        {"GridColor", "256", 0},           {"GridColor", "-1", 0},
-        {"GridTrueColor", "66051", 66051}, {"GridTrueColor", "4294967295", 0xFFFFFFFF}};
-    for (const auto& [name, value, color] : cases) {
-        EXPECT_EQ(ReadFrom(GeoGridInfo(), name, value).GridColor(), color) << name << value;
-    }
 }
 
 TEST(GeoGridInfo, ComparesIntervalsWithATolerance) {

@@ -45,7 +45,9 @@ TEST(LineInfo, ReadsTextFormsAndWritesThem) {
 TEST(LineInfo, ReadsSettingsOfEveryKind) {
     const std::tuple<const char*, const char*, const char*> cases[] = {
         {"LineColor", "5", "3,170,Solid Line,16711680,0"},
-        {"linecolor", "300", "3,0,Solid Line,0,0"},
+        {"linecolor", "256", "3,0,Solid Line,0,0"},
+        {"LineColor", "-1", "3,0,Solid Line,0,0"},
+        {"LineColor", "99999999999", "3,0,Solid Line,0,0"},
         {"LineTrueColor", "4294967295", "3,7,Solid Line,4294967295,0"},
         {"LineTrueColor", "4294967296", "3,0,Solid Line,0,0"},
         {"LineStyle", "dash DOT", "3,0,Dash dot,0,0"},

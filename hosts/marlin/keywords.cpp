@@ -5,6 +5,7 @@
 #include "output/json.h"
 #include "output/table.h"
 #include <marlin/base/data_search.h>
+#include <marlin/base/files/settings_grammar.h>
 #include <marlin/keywords/keywords.h>
 #include <marlin/keywords/list_keywords.h>
 
@@ -97,6 +98,35 @@ void AppendList(Output& output) {
     table.AppendTo(output);
 }
 
+// What is wrong with a line of choices, or an empty text: a choice of which a part is not read, or
+// which begins a section.
+std::string CutOf(const MARLINSUITE::SettingsLine& line) {
+    using MARLINSUITE::SettingsLine;
+    const std::string text = Shown(MARLINSUITE::TrimmedSettingsText(line.Bytes));
+    if (line.Kind == SettingsLine::HEADER && !line.Ignored.empty()) {
+        return "\"" + text + "\" is taken for the section \"" + Shown(line.Name) + "\"";
+    }
+    if (line.Kind == SettingsLine::KEY && (!line.Value.empty() || !line.Comments.empty())) {
+        return "the choice \"" + text + "\" is cut to \"" + Shown(line.Name) + "\"";
+    }
+    return {};
+}
+
+// True when there was one.
+bool ReportCuts(SettingsSource& source) {
+    bool found = false;
+    const std::string bytes = source.Text().Bytes();
+    MARLINSUITE::ForEachSettingsLine(bytes, [&](const MARLINSUITE::SettingsLine& line) {
+        const std::string cut = CutOf(line);
+        if (!cut.empty()) {
+            Report(AtLine(source.Path(), line.Number, cut));
+        }
+        found = found || !cut.empty();
+        return line.Number != source.Scan().FaultLine;
+    });
+    return found;
+}
+
 struct ListKeywords {
     bool IsJson = false;
 
@@ -122,11 +152,11 @@ int ListKeywords::Run(Output& output) const {
         output.Text += Printable(AsUtf8(path)) + "\n";
         AppendList(output);
     }
+    const bool isCut = ReportCuts(source);
     if (!error.Empty()) {  // the keywords before a fault of syntax count
         Report(ReasonOf(error));
-        return FOUND;
     }
-    return DONE;
+    return isCut || !error.Empty() ? FOUND : DONE;
 }
 
 }  // namespace

@@ -14,62 +14,49 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <support/workers.h>
+#include <pthread.h>
 #include <sys/resource.h>
 
 namespace {
 
-class FunctionWork : public ThreadObject {
+// Counts its calls and does as it is told, or ends the run at once.
+class Work : public ThreadObject {
 public:
-    explicit FunctionWork(std::function<int(const bool&)> step) : m_Step(std::move(step)) {}
+    explicit Work(std::function<int(const bool&)> step = nullptr) : m_Step(std::move(step)) {}
 
-    int Execute(const bool& keepRunning) override { return m_Step(keepRunning); }
+    std::atomic<int> Calls{0};
+    std::counting_semaphore<> Called{0};
+
+    int Execute(const bool& keepRunning) override {
+        ++Calls;
+        Called.release();
+        return m_Step ? m_Step(keepRunning) : 0;
+    }
 
 private:
     std::function<int(const bool&)> m_Step;
 };
 
-// Returns one result after the other; the last must end the run.
-class ScriptedWork : public ThreadObject {
-public:
-    explicit ScriptedWork(std::vector<int> results) : m_Results(std::move(results)) {}
-
-    std::atomic<int> Calls{0};
-
-    int Execute(const bool&) override { return m_Results.at(static_cast<std::size_t>(Calls++)); }
-
-private:
-    std::vector<int> m_Results;
-};
-
 // One long step, which ends when it shall.
-class PollingWork : public ThreadObject {
-public:
-    std::binary_semaphore Called{0};
-    std::atomic<bool> Ended{false};
-
-    int Execute(const bool& keepRunning) override {
-        Called.release();
-        while (ShallGoOn(keepRunning)) {
-            std::this_thread::yield();
-        }
-        Ended = true;
-        return 1;
+int Poll(const bool& keepRunning) {
+    while (ThreadObject::ShallGoOn(keepRunning)) {
+        std::this_thread::yield();
     }
-};
+    return 1;
+}
 
 // A window of the test's thread.
 class Caller : public CWnd {
 public:
     Caller() { Create(); }
 
-    // Waits for the message of an end.
+    // Waits for the message of an end, the only one.
     void AwaitEnd() {
         MSG message;
         GetMessageA(&message, GetSafeHwnd(), 0, 0);
         EXPECT_EQ(message.message, 2029U);
-        EXPECT_EQ(message.wParam, 0U);
-        EXPECT_EQ(message.lParam, 0);
+        EXPECT_EQ(message.wParam + static_cast<WPARAM>(message.lParam), 0U);
+        EXPECT_FALSE(HasMessage());
     }
 
     [[nodiscard]] bool HasMessage() const {
@@ -85,113 +72,112 @@ protected:
     void RunToTheEnd(ThreadObject& work) {
         ASSERT_TRUE(thread.Start(&work));
         caller.AwaitEnd();
+        EXPECT_FALSE(thread.IsRunning());
+    }
+    [[nodiscard]] HANDLE OpenMutex() const {
+        return OpenMutexA(SYNCHRONIZE, 0, thread.MutexName().c_str());
     }
 
     Caller caller;
     Thread thread;
-    ScriptedWork once{{0}};
+    Work once;
+    Work polling{Poll};
 };
 
 TEST_F(ThreadTest, TheWorksResultsDecideOnTheRun) {
     const struct {
         std::vector<int> Results;
-        int Calls;
         unsigned int ExitCode;
-    } cases[] = {
-        {{0}, 1, 0}, {{2}, 1, 1}, {{1, 0}, 2, 0}, {{1, 3, -1, 7, 0}, 5, 0}, {{-2, 2}, 2, 1}};
+    } cases[] = {{{0}, 0}, {{2}, 1}, {{1, 0}, 0}, {{1, 3, -1, 7, 0}, 0}, {{-2, 2}, 1}};
     EXPECT_EQ(thread.ExitCode(), 0U);
-    for (const auto& run : cases) {
-        ScriptedWork work(run.Results);
+    for (const auto& [results, exitCode] : cases) {
+        auto next = results.begin();
+        Work work([&next](const bool&) { return *next++; });
         RunToTheEnd(work);
-        EXPECT_FALSE(thread.IsRunning());
-        EXPECT_EQ(work.Calls, run.Calls);
-        EXPECT_EQ(thread.ExitCode(), run.ExitCode) << testing::PrintToString(run.Results);
+        EXPECT_EQ(next, results.end());
+        EXPECT_EQ(thread.ExitCode(), exitCode) << testing::PrintToString(results);
+        EXPECT_EQ(thread.Exception(), nullptr);
     }
-    EXPECT_FALSE(caller.HasMessage());
     thread.HandleEndThread();
     caller.AwaitEnd();
     EXPECT_EQ(thread.ExitCode(), 1U) << "an idle thread that is reset only tells the caller";
 }
 
-TEST_F(ThreadTest, OnlyOneRunAtATime) {
-    PollingWork work;
+TEST_F(ThreadTest, OneRunAtATimeEvenOfManyStartsAtOnce) {
     EXPECT_FALSE(thread.Start(nullptr));
-    EXPECT_TRUE(thread.Start(&work));
-    EXPECT_FALSE(thread.Start(&work));
-    EXPECT_FALSE(thread.Start(&once));
-    EXPECT_TRUE(thread.IsRunning());
-    thread.Stop();
-    caller.AwaitEnd();
-    RunToTheEnd(once);
-    EXPECT_EQ(once.Calls, 1);
-}
-
-TEST_F(ThreadTest, OfManyStartsAtOnceOneSucceeds) {
-    PollingWork work;
+    EXPECT_FALSE(thread.IsRunning());
     std::vector<std::future<bool>> starts;
     for (int count = 0; count < 8; ++count) {
-        starts.push_back(std::async(std::launch::async, &Thread::Start, &thread, &work));
+        starts.push_back(std::async(std::launch::async, &Thread::Start, &thread, &polling));
     }
     int succeeded = 0;
     for (auto& start : starts) {
         succeeded += start.get() ? 1 : 0;
     }
     EXPECT_EQ(succeeded, 1);
+    EXPECT_TRUE(thread.IsRunning());
+    EXPECT_FALSE(thread.Start(&once));
     thread.Stop();
     caller.AwaitEnd();
-    EXPECT_FALSE(caller.HasMessage());
+    RunToTheEnd(once);
+    EXPECT_EQ(once.Calls, 1);
 }
 
 TEST_F(ThreadTest, AStoppedRunEndsAfterItsStep) {
-    std::counting_semaphore<> called{0};
-    FunctionWork endless([&called](const bool&) {
-        called.release();
-        return 1;
-    });
+    Work endless([](const bool&) { return 1; });
     EXPECT_FALSE(thread.KeepRunning());
-    EXPECT_TRUE(thread.Start(&endless));
-    called.acquire();
-    EXPECT_TRUE(thread.KeepRunning());
-    EXPECT_TRUE(thread.IsRunning());
-    thread.Stop();
-    EXPECT_FALSE(thread.KeepRunning());
-    caller.AwaitEnd();
-    EXPECT_EQ(thread.ExitCode(), 1U);
     for (int count = 0; count < 1000; ++count) {
         ASSERT_TRUE(thread.Start(&endless));
+        ASSERT_TRUE(thread.KeepRunning());
+        if (count % 2 == 0) {
+            endless.Called.acquire();
+        }
         thread.Stop();
+        ASSERT_FALSE(thread.KeepRunning());
         caller.AwaitEnd();
         ASSERT_EQ(thread.ExitCode(), 1U);
     }
-    EXPECT_FALSE(caller.HasMessage());
 }
 
 TEST_F(ThreadTest, ARunStoppedBeforeItsFirstStepCallsNothing) {
     PLATFORM::detail::HoldWorkers(true);
-    EXPECT_TRUE(thread.Start(&once));
+    auto start = std::async(std::launch::async, &Thread::Start, &thread, &once);
+    while (!thread.IsRunning()) {
+        std::this_thread::yield();
+    }
+    EXPECT_FALSE(thread.Wait(1));
     thread.Stop();
+    EXPECT_EQ(start.wait_for(std::chrono::seconds(0)), std::future_status::timeout)
+        << "the worker has not tried to take the mutex";
     PLATFORM::detail::HoldWorkers(false);
+    EXPECT_TRUE(start.get());
     caller.AwaitEnd();
     EXPECT_EQ(once.Calls, 0);
     EXPECT_EQ(thread.ExitCode(), 1U);
-    EXPECT_FALSE(thread.IsRunning());
 }
 
-TEST_F(ThreadTest, WorkThatThrowsEndsTheRunAsStopped) {
-    FunctionWork work([](const bool&) -> int { throw std::runtime_error("from the work"); });
-    RunToTheEnd(work);
-    EXPECT_EQ(thread.ExitCode(), 1U);
-    RunToTheEnd(once);
-    EXPECT_EQ(once.Calls, 1) << "the mutex was released";
-    EXPECT_EQ(thread.ExitCode(), 0U);
+TEST_F(ThreadTest, AnExceptionOrACancellationOfTheWorkEndsTheRunAsStopped) {
+    Work throwing([](const bool&) -> int { throw std::runtime_error("from the work"); });
+    Work cancelled([](const bool&) -> int { ::pthread_exit(nullptr); });
+    for (Work* const work : {&throwing, &cancelled}) {
+        RunToTheEnd(*work);
+        EXPECT_EQ(thread.ExitCode(), 1U);
+        EXPECT_EQ(thread.Exception() != nullptr, work == &throwing);
+        if (thread.Exception()) {
+            EXPECT_THROW(std::rethrow_exception(thread.Exception()), std::runtime_error);
+        }
+        RunToTheEnd(once);  // since the mutex was released
+        EXPECT_EQ(thread.ExitCode(), 0U);
+        EXPECT_EQ(thread.Exception(), nullptr);
+    }
+    EXPECT_EQ(once.Calls, 2);
 }
 
 TEST_F(ThreadTest, WithoutACallerNobodyIsTold) {
     thread.SetCaller(nullptr);
     EXPECT_TRUE(thread.Start(&once));
-    AwaitNoWorkers();
+    EXPECT_TRUE(thread.Wait());
     thread.HandleEndThread();
-    EXPECT_FALSE(caller.HasMessage());
     Caller withoutWindow;
     withoutWindow.DestroyWindow();
     thread.SetCaller(&withoutWindow);
@@ -199,29 +185,29 @@ TEST_F(ThreadTest, WithoutACallerNobodyIsTold) {
     EXPECT_FALSE(caller.HasMessage());
 }
 
-TEST_F(ThreadTest, TheWorkerOwnsTheMutexOfTheThreadsAddressDuringItsRun) {
-    PollingWork work;
+TEST_F(ThreadTest, TheWorkerOwnsTheMutexOfTheThreadsAddressFromTheStartToTheEndOfItsRun) {
     std::ostringstream name;
     name << "Thread[" << std::uppercase << std::hex << reinterpret_cast<std::uintptr_t>(&thread)
          << "]";
     EXPECT_EQ(thread.MutexName(), name.str());
-    const HANDLE mutex = OpenMutexA(SYNCHRONIZE, 0, name.str().c_str());
-    EXPECT_TRUE(thread.Start(&work));
-    work.Called.acquire();
-    EXPECT_EQ(WaitForSingleObject(mutex, 0), WAIT_TIMEOUT);
-    thread.Stop();
-    EXPECT_EQ(WaitForSingleObject(mutex, INFINITE), WAIT_OBJECT_0) << "the run has ended";
-    ReleaseMutex(mutex);
+    const HANDLE mutex = OpenMutex();
+    for (int count = 0; count < 100; ++count) {
+        EXPECT_TRUE(thread.Start(&polling));
+        ASSERT_EQ(WaitForSingleObject(mutex, 0), WAIT_TIMEOUT);
+        thread.Stop();
+        ASSERT_EQ(WaitForSingleObject(mutex, INFINITE), WAIT_OBJECT_0) << "the run has ended";
+        ReleaseMutex(mutex);
+        caller.AwaitEnd();
+    }
     CloseHandle(mutex);
 }
 
 TEST_F(ThreadTest, AMutexOfAnotherPartyEndsTheWorkerSilently) {
-    const HANDLE mutex = OpenMutexA(SYNCHRONIZE, 0, thread.MutexName().c_str());
+    const HANDLE mutex = OpenMutex();
     ASSERT_EQ(WaitForSingleObject(mutex, 0), WAIT_OBJECT_0);
     EXPECT_TRUE(thread.Start(&once));
-    AwaitNoWorkers();
+    EXPECT_TRUE(thread.Wait());
     EXPECT_TRUE(thread.IsRunning());
-    EXPECT_EQ(once.Calls, 0);
     EXPECT_FALSE(caller.HasMessage());
     EXPECT_FALSE(thread.Start(&once));
     ReleaseMutex(mutex);
@@ -229,6 +215,7 @@ TEST_F(ThreadTest, AMutexOfAnotherPartyEndsTheWorkerSilently) {
     thread.HandleEndThread();
     EXPECT_FALSE(thread.IsRunning());
     caller.AwaitEnd();
+    EXPECT_EQ(once.Calls, 0);
     RunToTheEnd(once);
     EXPECT_EQ(once.Calls, 1);
 }
@@ -240,60 +227,65 @@ TEST_F(ThreadTest, AStartWithoutAWorkerFailsUntilReset) {
     EXPECT_FALSE(thread.IsRunning());
     EXPECT_FALSE(thread.Start(&once)) << "the object stays recorded";
     thread.HandleEndThread();
-    EXPECT_TRUE(thread.Start(&once));
-    AwaitNoWorkers();
+    caller.AwaitEnd();
+    RunToTheEnd(once);
     EXPECT_EQ(once.Calls, 1);
 }
 
-TEST_F(ThreadTest, DestructionStopsAndWaits) {
-    PollingWork work;
+TEST_F(ThreadTest, WaitsForTheEndOfAllItsWorkersAtMostSoLongAndNotOnThemselves) {
+    EXPECT_TRUE(thread.Wait(0)) << "none runs";
+    Work own([this](const bool& keepRunning) { return thread.Wait() ? 0 : Poll(keepRunning); });
+    EXPECT_TRUE(thread.Start(&own));
+    EXPECT_FALSE(thread.Wait(1));
+    EXPECT_FALSE(thread.Wait(0x100000000)) << "of 32 bits these are 0";
+    thread.Stop();
+    EXPECT_TRUE(thread.Wait(~0UL));
+    EXPECT_EQ(thread.ExitCode(), 1U);
     {
-        Thread started;
-        EXPECT_TRUE(started.Start(&work));
-        work.Called.acquire();
-    }
-    EXPECT_TRUE(work.Ended);
-    PLATFORM::detail::HoldWorkers(true);
-    {
-        Thread held;
-        EXPECT_TRUE(held.Start(&once));
-        held.Stop();
-        PLATFORM::detail::HoldWorkers(false);
-    }
-    EXPECT_EQ(once.Calls, 0);
+        Thread inner;
+        EXPECT_TRUE(inner.Start(&polling));
+    }  // stops and waits
+    EXPECT_EQ(polling.Calls, 1);
 }
 
-TEST_F(ThreadTest, AForgottenWorkerIsWaitedForAndDisturbsNoLaterRun) {
-    PollingWork forgotten;
-    {
-        Thread own;
-        own.SetCaller(&caller);
-        EXPECT_TRUE(own.Start(&forgotten));
-        forgotten.Called.acquire();
-        own.HandleEndThread();
-        caller.AwaitEnd();
-        EXPECT_FALSE(own.IsRunning());
-        EXPECT_TRUE(own.Start(&once));
-        own.Stop();
-        caller.AwaitEnd();  // of the forgotten worker, the only one that owned the mutex
-        EXPECT_TRUE(forgotten.Ended);
-    }
-    EXPECT_EQ(once.Calls, 0) << "its worker found the mutex owned, or its run stopped";
+// Stopped and forgotten in its step, a worker ends though others are started, and ends their run
+// neither.
+TEST_F(ThreadTest, AForgottenWorkerDisturbsNoLaterRunNorIsItRevived) {
+    std::binary_semaphore goOn{0};
+    bool stopped = false;
+    Work forgotten([&](const bool& keepRunning) {
+        goOn.acquire();
+        stopped = !ThreadObject::ShallGoOn(keepRunning);
+        return 1;
+    });
+    EXPECT_TRUE(thread.Start(&forgotten));
+    thread.Stop();
+    thread.HandleEndThread();
+    caller.AwaitEnd();
+    EXPECT_FALSE(thread.IsRunning());
+    EXPECT_TRUE(thread.Start(&polling)) << "its worker finds the mutex owned and ends";
+    EXPECT_TRUE(thread.KeepRunning());
+    goOn.release();
+    caller.AwaitEnd();  // of the forgotten one
+    EXPECT_TRUE(thread.Wait());
+    EXPECT_TRUE(stopped);
+    EXPECT_EQ(forgotten.Calls, 1);
+    EXPECT_EQ(polling.Calls, 0);
+    EXPECT_TRUE(thread.IsRunning()) << "the later one stays recorded";
 }
 
 TEST_F(ThreadTest, TheWorkGivesWayToTheOwnersThreadAndMayStopItsOwnRun) {
-    int calls = 0;
     int nice = 0;
-    FunctionWork work([&](const bool& keepRunning) {
+    Work work([&](const bool& keepRunning) {
         nice = ::getpriority(PRIO_PROCESS, 0);
         EXPECT_TRUE(ThreadObject::ShallGoOn(keepRunning));
         thread.Stop();
         EXPECT_FALSE(ThreadObject::ShallGoOn(keepRunning));
-        return ++calls;
+        return 1;
     });
     RunToTheEnd(work);
     EXPECT_EQ(nice, std::min(::getpriority(PRIO_PROCESS, 0) + 5, 19));
-    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(work.Calls, 1);
     EXPECT_EQ(thread.ExitCode(), 1U);
 }
 

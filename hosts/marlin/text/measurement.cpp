@@ -18,14 +18,12 @@ double WithoutNoise(double coordinate) {
 }  // namespace
 
 Measurement::Measurement(const TextInfo& style) : m_Asked(style.Font()) {
-    const int weight = (style.Style() & TextInfo::BOLD) != 0 ? 700 : 400;
-    const bool isItalic = (style.Style() & TextInfo::ITALIC) != 0;
-    if (!PLATFORM::FontCatalog::Find(style.Font().c_str(), weight, isItalic, m_Face)) {
-        Refuse("no font can be measured for \"" + style.Font() + "\"");
+    if (TextRectComp::FindFace(style, m_Face)) {
+        return;
     }
-    TextRectComp rects;
-    static_cast<void>(rects(style, "0"));
-    if (rects.GetNumberOfSubStrings() == 0) {
+    if (!PLATFORM::FontCatalog::Find(style.Font().c_str(), 400, false, m_Face)) {
+        Refuse("no font can be measured for \"" + style.Font() + "\"");
+    } else {
         Refuse("\"" + style.Font() + "\" cannot be measured at size " + NumberText(style.Size()));
     }
 }

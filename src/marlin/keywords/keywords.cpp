@@ -53,10 +53,11 @@ bool EndsName(char c) noexcept {
 
 CKeywords::~CKeywords() = default;
 
-CKeywords& CKeywords::operator=(const CKeywords& other) {
-    m_Keywords = other.m_Keywords;
-    m_IsIndexed = false;
-    return *this;
+void CKeywords::Swap(CKeywords& other) noexcept {
+    m_Keywords.swap(other.m_Keywords);
+    m_Index.swap(other.m_Index);
+    std::swap(m_IsIndexed, other.m_IsIndexed);
+    std::swap(m_IsLent, other.m_IsLent);
 }
 
 CKeyword* CKeywords::GetKeyword(const std::string& name) noexcept {

@@ -34,7 +34,11 @@ class MARLIN_API CKeywords {
 public:
     CKeywords() = default;
     CKeywords(const CKeywords& other) : m_Keywords(other.m_Keywords) {}
-    CKeywords& operator=(const CKeywords& other);
+    CKeywords(CKeywords&& other) noexcept { Swap(other); }
+    CKeywords& operator=(CKeywords other) noexcept {
+        Swap(other);
+        return *this;
+    }
     virtual ~CKeywords();
 
     /// Null for a name or a position that the table does not have. The host may change a keyword
@@ -94,6 +98,7 @@ public:
     void Dump() noexcept {}
 
 private:
+    void Swap(CKeywords& other) noexcept;
     [[nodiscard]] CKeyword* Find(std::string_view name) const noexcept;
     void Index(std::size_t more = 0);
     void AddOne(const CKeyword* keyword, bool atFront);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/keywords/list_keyword.h>
 
+#include <algorithm>
 #include <cstddef>
+#include <functional>
 
 CListKeyword::~CListKeyword() = default;
 
@@ -10,12 +12,16 @@ std::string CListKeyword::GetValue(int i) const {
 }
 
 void CListKeyword::AddValue(const std::string& value) {
-    if (m_Known.insert(value).second) {
+    const std::size_t hash = std::hash<std::string>()(value);
+    const auto [first, last] = m_Positions.equal_range(hash);
+    const auto isValue = [&](const auto& known) { return m_Values[known.second] == value; };
+    if (std::none_of(first, last, isValue)) {
+        m_Positions.emplace(hash, m_Values.size());
         m_Values.push_back(value);
     }
 }
 
 void CListKeyword::Clear() noexcept {
     m_Values.clear();
-    m_Known.clear();
+    m_Positions.clear();
 }

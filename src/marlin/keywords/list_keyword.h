@@ -3,8 +3,9 @@
 
 #include <marlin/core/export.h>
 
+#include <cstddef>
 #include <string>
-#include <unordered_set>
+#include <unordered_map>
 #include <vector>
 
 /// A keyword whose value is one of a list of choices: its name and the choices, in the order in
@@ -14,7 +15,9 @@ class MARLIN_API CListKeyword {
 public:
     CListKeyword() = default;
     CListKeyword(const CListKeyword&) = default;
+    CListKeyword(CListKeyword&&) = default;
     CListKeyword& operator=(const CListKeyword&) = default;
+    CListKeyword& operator=(CListKeyword&&) = default;
     virtual ~CListKeyword();
 
     [[nodiscard]] std::string GetName() const { return m_Name; }
@@ -31,5 +34,6 @@ public:
 private:
     std::string m_Name;
     std::vector<std::string> m_Values;
-    std::unordered_set<std::string> m_Known;  // the same values, so that long lists grow quickly
+    // The positions of the values by their hashes, so that long lists grow quickly.
+    std::unordered_multimap<std::size_t, std::size_t> m_Positions;
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/base/data_search.h>
+#include <marlin/core/detail/process_object.h>
 #include <marlin/keywords/list_keywords.h>
 #include <marlin/settings/ini_file.h>
 
@@ -23,8 +24,7 @@ CListKeyword ListOf(const Section& section) {
 CListKeywords::~CListKeywords() = default;
 
 CListKeywords& CListKeywords::Get() {
-    static CListKeywords keywords;
-    return keywords;
+    return MARLINSUITE::detail::ProcessObject<CListKeywords>();
 }
 
 CListKeyword* CListKeywords::GetListKeyword(const std::string& name) {

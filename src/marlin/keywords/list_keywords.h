@@ -20,7 +20,9 @@ class MARLIN_API CListKeywords {
 public:
     CListKeywords() = default;
     CListKeywords(const CListKeywords&) = default;
+    CListKeywords(CListKeywords&&) = default;
     CListKeywords& operator=(const CListKeywords&) = default;
+    CListKeywords& operator=(CListKeywords&&) = default;
     virtual ~CListKeywords();
 
     /// The table of the process, made at the first call. Its look-ups are for one thread at a

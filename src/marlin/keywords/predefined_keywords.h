@@ -5,9 +5,8 @@
 
 #include <string>
 
-// The names of the keywords to which every host gives values. They may be read from any static
-// constructor.
-
+/// The names of the keywords to which every host gives values. They may be read from any static
+/// constructor.
 extern MARLIN_API const std::string PredefinedKeywordKeys[9];
 /// The names that only a plot has.
 extern MARLIN_API const std::string PredefinedPlotKeywordKeys[1];

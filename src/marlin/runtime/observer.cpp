@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/core/detail/process_object.h>
 #include <marlin/runtime/observer.h>
 
 #include <algorithm>
@@ -182,8 +183,10 @@ Observer& Observer::operator=(const Observer& other) {
 Observer::~Observer() = default;
 
 Observer& Observer::Get() {
-    static Observer observer;
-    return observer;
+    struct Instance {
+        Observer Value;  // whose constructor is private
+    };
+    return MARLINSUITE::detail::ProcessObject<Instance>().Value;
 }
 
 void Observer::Subscribe(Subscriber* subscriber, const std::string& context) {

@@ -10,20 +10,7 @@ std::string ProgressText::Get() const {
 
 const std::string& ProgressText::Refreshed() const {
     const std::lock_guard lock(m_Lock);
-    m_ReadersCopy = m_Text;
-    return m_ReadersCopy;
-}
-
-ProgressText& ProgressText::operator=(std::string_view text) {
-    const std::lock_guard lock(m_Lock);
-    m_Text = text;
-    return *this;
-}
-
-ProgressText& ProgressText::operator+=(std::string_view text) {
-    const std::lock_guard lock(m_Lock);
-    m_Text += text;
-    return *this;
+    return m_Copies[std::this_thread::get_id()] = m_Text;
 }
 
 }  // namespace MARLINSUITE

@@ -5,7 +5,8 @@
 
 namespace MARLINSUITE {
 
-/// A `float` that one thread sets while others read it.
+/// A `float` that one thread sets while others read it; 0 at first. It takes part in arithmetic
+/// and comparisons as the number that it converts to.
 class ProgressValue {
 public:
     constexpr ProgressValue() noexcept = default;
@@ -23,6 +24,13 @@ public:
         return *this;
     }
     ProgressValue& operator+=(float step) noexcept { return *this = *this + step; }
+    ProgressValue& operator-=(float step) noexcept { return *this = *this - step; }
+    ProgressValue& operator*=(float factor) noexcept { return *this = *this * factor; }
+    ProgressValue& operator/=(float divisor) noexcept { return *this = *this / divisor; }
+    ProgressValue& operator++() noexcept { return *this += 1; }
+    ProgressValue& operator--() noexcept { return *this -= 1; }
+    float operator++(int) noexcept { return ++*this - 1; }
+    float operator--(int) noexcept { return --*this + 1; }
 
 private:
     std::atomic<float> m_Value{0.0F};

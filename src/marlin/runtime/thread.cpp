@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/platform/kernel/detail/worker.h>
 #include <marlin/platform/kernel/mutex.h>
 #include <marlin/platform/kernel/win_thread.h>
 #include <marlin/platform/text/c_string.h>
@@ -7,8 +8,9 @@
 
 #include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <cstdint>
-#include <iterator>
+#include <utility>
 
 namespace {
 
@@ -30,11 +32,7 @@ Thread::Thread()
 
 Thread::~Thread() {
     Stop();
-    // Running workers look their work up in the list, so it is emptied only after the last end.
-    for (const Run& run : m_Runs) {
-        WaitForSingleObject(run.Worker->m_hThread, INFINITE);
-    }
-    m_Runs.clear();
+    Wait();
     CloseHandle(m_Mutex);
 }
 
@@ -48,99 +46,122 @@ unsigned int Thread::ExitCode() const {
     return m_ExitCode;
 }
 
+std::exception_ptr Thread::Exception() const {
+    const std::lock_guard lock(m_Lock);
+    return m_Exception;
+}
+
+bool Thread::Wait(unsigned long milliseconds) const {
+    std::unique_lock lock(m_Lock);
+    if (std::ranges::count(m_Runs, AfxGetThread(), &Run::Worker) > 0) {
+        return false;  // it would wait for itself
+    }
+    const auto ended = [this] { return m_Runs.empty(); };
+    const auto time = std::chrono::milliseconds(milliseconds & INFINITE);
+    if (time.count() != INFINITE) {
+        return m_Changed.wait_for(lock, time, ended);
+    }
+    m_Changed.wait(lock, ended);
+    return true;
+}
+
 void Thread::SetCaller(CWnd* caller) {
     const std::lock_guard lock(m_Lock);
     m_Caller = caller;
 }
 
 bool Thread::Start(ThreadObject* object) {
-    // Destroyed after the lock is released: to delete a worker is to wait for its last steps, and
-    // those may need the lock.
-    std::vector<Run> ended;
-    const std::lock_guard lock(m_Lock);
+    std::unique_lock lock(m_Lock);
     if (!object || m_Object) {
         return false;
     }
-    ended = TakeEndedRuns();
     m_Object = object;
     std::atomic_ref<bool>(m_KeepRunning).store(true);
-    return BeginWorker();
-}
-
-// Suspended until it is recorded, so that the worker finds its entry in the list.
-bool Thread::BeginWorker() {
-    m_Runs.reserve(m_Runs.size() + 1);  // the worker below must not be lost to an exception
-    CWinThread* const worker =
-        AfxBeginThread(&ThreadProc, this, THREAD_PRIORITY_BELOW_NORMAL, 0, CREATE_SUSPENDED);
-    if (!worker) {
+    bool hasTried = false;
+    if (!BeginWorker(hasTried)) {
         return false;
     }
-    worker->m_bAutoDelete = false;
-    m_Runs.push_back({std::unique_ptr<CWinThread>(worker), m_Object});
-    m_Worker = worker;
-    ResumeThread(worker->m_hThread);
+    m_Changed.wait(lock, [&hasTried] { return hasTried; });
     return true;
 }
 
-// Forgotten workers may run on beside the recorded one, so several may have ended, or none.
-std::vector<Thread::Run> Thread::TakeEndedRuns() {
-    const auto firstEnded = std::partition(m_Runs.begin(), m_Runs.end(), [](const Run& run) {
-        return WaitForSingleObject(run.Worker->m_hThread, 0) == WAIT_TIMEOUT;
-    });
-    std::vector<Run> ended(std::make_move_iterator(firstEnded),
-                           std::make_move_iterator(m_Runs.end()));
-    m_Runs.erase(firstEnded, m_Runs.end());
-    return ended;
+// Suspended until it is recorded, so that the worker finds its entry in the list.
+bool Thread::BeginWorker(bool& hasTried) {
+    Run& run = m_Runs.emplace_back(Run{nullptr, m_Object, &hasTried});
+    run.Worker =
+        AfxBeginThread(&ThreadProc, this, THREAD_PRIORITY_BELOW_NORMAL, 0, CREATE_SUSPENDED);
+    m_Worker = run.Worker;
+    if (!run.Worker) {
+        m_Runs.pop_back();
+        return false;
+    }
+    ResumeThread(run.Worker->m_hThread);
+    return true;
 }
 
+// Each run has a flag of its own, so that a later start does not revive a worker that was
+// forgotten.
 void Thread::Stop() noexcept {
+    const std::lock_guard lock(m_Lock);
     std::atomic_ref<bool>(m_KeepRunning).store(false);
+    for (Run& run : m_Runs) {
+        std::atomic_ref<bool>(run.KeepRunning).store(false);
+    }
 }
 
 unsigned int Thread::ThreadProc(void* thread) {
     auto& self = *static_cast<Thread*>(thread);
-    const CWinThread* const worker = AfxGetThread();
-    ThreadObject* const object = self.ObjectOf(worker);
-    if (WaitForSingleObject(self.m_Mutex, 0) == WAIT_TIMEOUT) {
+    const bool isOwner = WaitForSingleObject(self.m_Mutex, 0) != WAIT_TIMEOUT;
+    const Runs::iterator run = self.NoteTrial(isOwner);
+    if (!isOwner) {
         return MutexNotTaken;
     }
-    const int result = self.Execute(*object);
-    ReleaseMutex(self.m_Mutex);
-    return self.EndRun(worker, result);
-}
+    // Also for a worker that its work cancels.
+    struct Ending {
+        Thread& Self;
+        Runs::iterator Run;
+        int Result;
+        std::exception_ptr Exception;
 
-ThreadObject* Thread::ObjectOf(const CWinThread* worker) const {
-    const std::lock_guard lock(m_Lock);
-    return std::find_if(m_Runs.begin(), m_Runs.end(),
-                        [worker](const Run& run) { return run.Worker.get() == worker; })
-        ->Object;
-}
-
-int Thread::Execute(ThreadObject& object) const {
-    int result = 1;
-    try {
-        while (KeepRunning()) {
-            result = object.Execute(m_KeepRunning);
-            if (result == 0 || result == 2) {
-                break;
-            }
+        ~Ending() {
+            ReleaseMutex(Self.m_Mutex);
+            Self.EndRun(Run, Result, std::move(Exception));
         }
-    } catch (...) {
-        result = 1;  // nobody could catch it on this thread; the exit code reports it
+    } ending{self, run, 1, nullptr};
+    ending.Exception = PLATFORM::detail::ExceptionOf([&] { Execute(*run, ending.Result); });
+    return ending.Result != 0 ? 1 : 0;
+}
+
+// A worker that found the mutex owned by another party ends here: it may not touch this object
+// again.
+Thread::Runs::iterator Thread::NoteTrial(bool isOwner) {
+    const std::lock_guard lock(m_Lock);
+    const auto run = std::ranges::find(m_Runs, AfxGetThread(), &Run::Worker);
+    *run->HasTried = true;
+    m_Changed.notify_all();
+    return isOwner ? run : m_Runs.erase(run);
+}
+
+void Thread::Execute(const Run& run, int& result) {
+    int latest = 1;
+    while (latest != 0 && latest != 2 && ThreadObject::ShallGoOn(run.KeepRunning)) {
+        latest = run.Object->Execute(run.KeepRunning);
     }
-    return result;
+    result = latest;
 }
 
 // Under one lock, so that a thread that sees the end of the run sees its exit code too.
-unsigned int Thread::EndRun(const CWinThread* worker, int result) {
+void Thread::EndRun(Runs::iterator run, int result, std::exception_ptr exception) {
     const std::lock_guard lock(m_Lock);
-    if (m_Worker == worker) {  // else it was forgotten, and another worker may run
+    if (m_Worker == run->Worker) {  // else it was forgotten, and another worker may run
         m_Worker = nullptr;
         m_Object = nullptr;
     }
     m_ExitCode = result != 0 ? 1 : 0;
+    m_Exception = std::move(exception);
     PostEnd();
-    return m_ExitCode;
+    m_Runs.erase(run);
+    m_Changed.notify_all();
 }
 
 void Thread::HandleEndThread() {

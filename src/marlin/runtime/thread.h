@@ -5,10 +5,11 @@
 #include <marlin/platform/kernel/waiting.h>
 #include <marlin/runtime/thread_object.h>
 
-#include <memory>
+#include <condition_variable>
+#include <exception>
+#include <list>
 #include <mutex>
 #include <string>
-#include <vector>
 
 class CWinThread;
 class CWnd;
@@ -26,8 +27,7 @@ class CWnd;
 /// Thread thread;
 /// const bool isStarted = thread.Start(&work);
 /// assert(isStarted);
-/// while (thread.IsRunning()) {
-/// }
+/// thread.Wait();
 /// assert(thread.ExitCode() == 0 && work.Sum == 10);
 /// @endcode
 class MARLIN_API Thread {
@@ -49,6 +49,12 @@ public:
     /// The exit code of the last completed run: 0 when the work returned 0; 1 when it returned 2,
     /// threw, or was stopped, before its first step for instance. 0 before the first run.
     [[nodiscard]] unsigned int ExitCode() const;
+    /// What the work of the last completed run threw, for `std::rethrow_exception`; null when it
+    /// threw nothing.
+    [[nodiscard]] std::exception_ptr Exception() const;
+    /// Waits until no worker of this object runs, forgotten ones included, at most so many
+    /// milliseconds (32 bits). False when the time ran out, and at once on such a worker.
+    bool Wait(unsigned long milliseconds = INFINITE) const;
     /// "Thread[" + this object's address in upper-case hexadecimal digits + "]".
     [[nodiscard]] const std::string& MutexName() const noexcept { return m_MutexName; }
 
@@ -56,14 +62,17 @@ public:
     /// is not used any more.
     void SetCaller(CWnd* caller);
 
-    /// Starts a run. False, and nothing started, for null, while an object is recorded, and when
-    /// the system gives no worker; the object then stays recorded until `HandleEndThread`.
+    /// Starts a run, and returns when its worker has tried to take the mutex: whoever then waits
+    /// for the mutex waits for the run. False, and nothing started, for null, while an object is
+    /// recorded, and when the system gives no worker; the object then stays recorded until
+    /// `HandleEndThread`.
     ///
     /// A worker that finds its mutex owned by another party ends at once, posts nothing, and stays
     /// recorded until `HandleEndThread`.
     bool Start(ThreadObject* object);
 
-    /// Asks the run to end after its current step; does not wait.
+    /// Asks the run to end after its current step, and forgotten workers too; does not wait. A
+    /// later start does not take it back for them.
     void Stop() noexcept;
 
     /// Forgets the worker and the work object and posts `EndMessage`, for a run that did not end by
@@ -71,28 +80,32 @@ public:
     void HandleEndThread();
 
 private:
-    // A worker and its work, kept until the worker has ended.
+    // A worker that has not ended, and its work. It deletes itself.
     struct Run {
-        std::unique_ptr<CWinThread> Worker;
+        CWinThread* Worker;
         ThreadObject* Object;
+        bool* HasTried;           // to take the mutex; for the start that waits for it
+        bool KeepRunning = true;  // accessed through atomic references alone
     };
+    using Runs = std::list<Run>;
 
     static unsigned int ThreadProc(void* thread);
 
-    [[nodiscard]] bool BeginWorker();
-    [[nodiscard]] std::vector<Run> TakeEndedRuns();
-    [[nodiscard]] ThreadObject* ObjectOf(const CWinThread* worker) const;
-    [[nodiscard]] int Execute(ThreadObject& object) const;
-    unsigned int EndRun(const CWinThread* worker, int result);
+    [[nodiscard]] bool BeginWorker(bool& hasTried);
+    Runs::iterator NoteTrial(bool isOwner);
+    static void Execute(const Run& run, int& result);
+    void EndRun(Runs::iterator run, int result, std::exception_ptr exception);
     void PostEnd() const;
 
-    CWinThread* m_Worker = nullptr;
-    mutable std::mutex m_Lock;  // guards the fields below; held for all of Start
+    CWinThread* m_Worker = nullptr;  // compared alone: it may have ended
+    mutable std::mutex m_Lock;       // guards the fields, but for names and handles
+    mutable std::condition_variable m_Changed;
     ThreadObject* m_Object = nullptr;
     std::string m_MutexName;
     HANDLE m_Mutex = nullptr;
     bool m_KeepRunning = false;  // accessed through atomic references alone
     unsigned int m_ExitCode = 0;
+    std::exception_ptr m_Exception;
     CWnd* m_Caller = nullptr;
-    std::vector<Run> m_Runs;
+    Runs m_Runs;
 };

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/core/detail/process_object.h>
 #include <marlin/gdi/gdi_scale_factor.h>
 #include <marlin/platform/fonts/detail/font_store.h>
 #include <marlin/platform/fonts/detail/sized_font.h>
@@ -21,9 +22,16 @@ bool IsUsable(float size) noexcept {
 
 }  // namespace
 
+TextHeightFactComp& TextHeightFactComp::operator=(const TextHeightFactComp& other) {
+    m_Entries.insert(other.m_Entries.begin(), other.m_Entries.end());
+    return *this;
+}
+
 TextHeightFactComp& TextHeightFactComp::Get() {
-    static TextHeightFactComp instance;
-    return instance;
+    struct Instance {
+        TextHeightFactComp Value;  // whose constructor is private
+    };
+    return MARLINSUITE::detail::ProcessObject<Instance>().Value;
 }
 
 float TextHeightFactComp::operator()(const TextInfo& ti) {
@@ -41,7 +49,7 @@ const TextHeightFactComp::Measures* TextHeightFactComp::Find(const TextInfo& ti)
     if (!IsUsable(ti.Size())) {
         return nullptr;
     }
-    auto found = m_Entries.find(ti);
+    auto found = m_Entries.find({FontStore::Edition(), ti});
     if (found == m_Entries.end()) {
         found = AddEntry(ti);
     }
@@ -69,5 +77,5 @@ TextHeightFactComp::Entries::iterator TextHeightFactComp::AddEntry(const TextInf
         return m_Entries.end();
     }
     const auto factor = static_cast<float>(ti.Size() / (static_cast<double>(visible) / scale));
-    return m_Entries.try_emplace(ti, factor, metrics).first;
+    return m_Entries.try_emplace({FontStore::Edition(), ti}, factor, metrics).first;
 }

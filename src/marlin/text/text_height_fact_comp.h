@@ -5,6 +5,7 @@
 #include <marlin/platform/fonts/font_types.h>
 #include <marlin/records/text_info.h>
 
+#include <cstddef>
 #include <map>
 #include <utility>
 
@@ -20,6 +21,11 @@
 /// @endcode
 class MARLIN_API TextHeightFactComp {
 public:
+    TextHeightFactComp(const TextHeightFactComp&) = default;
+    /// Adds the entries of the other one, so that references to the metrics stay valid.
+    TextHeightFactComp& operator=(const TextHeightFactComp& other);
+    ~TextHeightFactComp() = default;
+
     /// The one instance of the process, made empty at the first call.
     [[nodiscard]] static TextHeightFactComp& Get();
 
@@ -28,12 +34,13 @@ public:
     /// number, 0 in logical units or too large for them. Such a style is tried again at each call.
     [[nodiscard]] float operator()(const TextInfo& ti);
     /// All zeros for a style that cannot be measured. The reference is valid as long as the
-    /// instance.
+    /// instance, also when `FontCatalog` takes other fonts, which are then measured anew.
     [[nodiscard]] const OUTLINETEXTMETRICA& GetMetrics(const TextInfo& ti);
 
 private:
     using Measures = std::pair<float, OUTLINETEXTMETRICA>;
-    using Entries = std::map<TextInfo, Measures>;
+    // Of the fonts that there were: `FontCatalog` counts its changes.
+    using Entries = std::map<std::pair<std::size_t, TextInfo>, Measures>;
 
     TextHeightFactComp() = default;
 

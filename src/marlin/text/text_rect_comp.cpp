@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/core/number_text.h>
 #include <marlin/gdi/gdi_scale_factor.h>
+#include <marlin/platform/fonts/detail/font_store.h>
 #include <marlin/text/detail/depth_label_rects.h>
 #include <marlin/text/detail/text_measure.h>
 #include <marlin/text/detail/text_wrapper.h>
@@ -84,6 +85,10 @@ TextRectComp::Rect TextRectComp::operator()(const TextInfo& ti, const char* text
 
 TextRectComp::Rect TextRectComp::operator()(const TextInfo& ti, const std::string& text, double) {
     return RectOf(ti, ViewOf(text.c_str()));
+}
+
+bool TextRectComp::FindFace(const TextInfo& ti, PLATFORM::FontMatch& face) {
+    return TextMeasure::Of(Sized(ti, 1)) && PLATFORM::detail::FontStore::Match(WishOf(ti), face);
 }
 
 bool TextRectComp::GetSubString(int i, std::string& out) const {

@@ -5,6 +5,7 @@
 #include <marlin/geometry/point_2d.h>
 #include <marlin/geometry/rectangle.h>
 #include <marlin/geometry/vector_2d.h>
+#include <marlin/platform/fonts/font_catalog.h>
 #include <marlin/records/depth_label_info.h>
 #include <marlin/records/text_info.h>
 
@@ -40,9 +41,9 @@ public:
 
     /// The rectangle of a text. A multi-line style breaks the text at each "\P" (a backslash and a
     /// P) and wraps the paragraphs to `RectWidth()`: after spaces and hyphens, and inside words
-    /// that are wider. The baseline justifications make the box of a single line less high, by
-    /// descent and internal leading. An empty text has no size, and leaves lines and line height
-    /// unchanged.
+    /// that are wider; with a width of 0 after each character. The baseline justifications make the
+    /// box of a single line less high, by descent and internal leading. An empty text has no size,
+    /// and leaves lines and line height unchanged.
     [[nodiscard]] Rect operator()(const TextInfo& ti, const char* text);
     [[nodiscard]] Rect operator()(const TextInfo& ti, const std::string& text);
     /// The same; the number has no effect.
@@ -51,12 +52,18 @@ public:
 
     /// The integer part and the decimal part of a depth label, separated by its presentation and
     /// placed by its placement. In presentation 0 the first part has the whole number and the
-    /// second no text; for a depth without a decimal point the second text is " ". A precision
+    /// second no text. The gap before decimals that are set apart has the direction (cos, sin) of
+    /// the rotation, while texts turn clockwise, so it follows the text at 0 and 180 degrees alone.
+    /// For a depth without a decimal point the second text is " ". A precision
     /// above `MaxDecimals` counts as that.
     [[nodiscard]] std::pair<LabelPart, LabelPart> operator()(const DepthLabelInfo& dli,
                                                              double depth);
     /// A depth needs the style of depth labels; a 0 for a text is ambiguous because of this.
     void operator()(const TextInfo& ti, double depth) = delete;
+
+    /// Finds the face that the style is measured with. False, and the target unchanged, for a
+    /// style that cannot be measured, whose texts have no size.
+    [[nodiscard]] static bool FindFace(const TextInfo& ti, PLATFORM::FontMatch& face);
 
     /// As many decimals as the smallest double has.
     static constexpr int MaxDecimals = 1074;

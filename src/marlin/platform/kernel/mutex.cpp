@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/kernel/detail/kernel_object.h>
+#include <marlin/platform/kernel/detail/per_thread.h>
 #include <marlin/platform/kernel/mutex.h>
 
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -23,9 +25,6 @@ private:
     bool m_Abandoned = false;
 };
 
-// Set once the list below is gone: destructors of other thread-local objects may still come.
-constinit thread_local bool threadEnds = false;
-
 // The mutexes that a thread owns, abandoned when it ends. The address of the list identifies the
 // thread among all that live, also after the system has given its number to another.
 struct HeldMutexes {
@@ -35,7 +34,6 @@ struct HeldMutexes {
     HeldMutexes(const HeldMutexes&) = delete;
     HeldMutexes& operator=(const HeldMutexes&) = delete;
     ~HeldMutexes() {
-        threadEnds = true;
         for (const auto& held : Mutexes) {
             if (const auto mutex = held.lock()) {
                 mutex->Abandon();
@@ -51,13 +49,8 @@ struct HeldMutexes {
     }
 };
 
-thread_local HeldMutexes heldMutexes;
-
 unsigned long Mutex::Wait(unsigned long milliseconds) {
-    if (threadEnds) {
-        return WAIT_FAILED;
-    }
-    HeldMutexes& self = heldMutexes;
+    HeldMutexes& self = PLATFORM::detail::PerThread<HeldMutexes>();
     std::unique_lock lock(m_Lock);
     if (m_Owner == &self) {
         ++m_Count;
@@ -73,10 +66,7 @@ unsigned long Mutex::Wait(unsigned long milliseconds) {
 }
 
 bool Mutex::Release() {
-    if (threadEnds) {
-        return false;
-    }
-    HeldMutexes& self = heldMutexes;
+    HeldMutexes& self = PLATFORM::detail::PerThread<HeldMutexes>();
     const std::lock_guard lock(m_Lock);
     if (m_Owner != &self) {
         return false;

@@ -18,8 +18,7 @@ inline constexpr unsigned long WAIT_FAILED = 0xFFFFFFFF;  ///< there is nothing 
 /// it waits for ever. A worker is waited for until it has ended. A mutex is taken: see
 /// `CreateMutexA`. Returns `WAIT_OBJECT_0`; `WAIT_ABANDONED` when a mutex was taken whose owner's
 /// thread ended without releasing it; `WAIT_TIMEOUT`, and nothing taken, when the time ran out;
-/// `WAIT_FAILED` for a handle that names nothing, and for a mutex in a thread whose thread-local
-/// objects are being destroyed.
+/// `WAIT_FAILED` for a handle that names nothing. Of the milliseconds the low 32 bits count.
 MARLIN_API unsigned long WaitForSingleObject(HANDLE handle, unsigned long milliseconds);
 
 /// Gives the handle up. The object lives on while another handle names it or a thread waits for

@@ -20,7 +20,8 @@ inline constexpr int THREAD_PRIORITY_NORMAL = 0;         ///< as the other threa
 inline constexpr unsigned long CREATE_SUSPENDED = 4;  ///< flag: waits to be resumed
 inline constexpr unsigned long STILL_ACTIVE = 259;    ///< the exit code before the end
 
-/// The function that a worker runs; its result is the thread's exit code. It must not throw.
+/// The function that a worker runs; its result is the thread's exit code, 1 if the thread is
+/// cancelled (`pthread_exit`). It must not throw.
 using AFX_THREADPROC = unsigned int (*)(void*);
 
 /// A worker thread. It deletes itself when it has ended, unless `m_bAutoDelete` is cleared while

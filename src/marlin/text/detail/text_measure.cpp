@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/core/detail/process_object.h>
 #include <marlin/gdi/gdi_scale_factor.h>
 #include <marlin/platform/drawing/drawing_constants.h>
 #include <marlin/platform/fonts/detail/font_store.h>
@@ -25,14 +26,17 @@ int FontHeight(const TextInfo& ti, double factor) {
 // The factor is that of the regular upright face, whatever the style: all styles of one family and
 // size are then asked for at one height, and their lines are equally high.
 SizedFont FontOf(const TextInfo& ti, int height) {
-    const auto style = static_cast<unsigned int>(ti.Style());
-    const int weight = (style & TextInfo::BOLD) != 0 ? FW_BOLD : FW_NORMAL;
-    // Names of the platform end at a null character.
-    return {FontStore::Find({ti.Font().c_str(), weight, (style & TextInfo::ITALIC) != 0}), height,
-            0};
+    return {FontStore::Find(WishOf(ti)), height, 0};
 }
 
 }  // namespace
+
+PLATFORM::detail::FontWish WishOf(const TextInfo& ti) {
+    const auto style = static_cast<unsigned int>(ti.Style());
+    const int weight = (style & TextInfo::BOLD) != 0 ? FW_BOLD : FW_NORMAL;
+    // Names of the platform end at a null character.
+    return {ti.Font().c_str(), weight, (style & TextInfo::ITALIC) != 0};
+}
 
 bool IsOnBaseline(const TextInfo& ti) noexcept {
     return ti.Justification() >= TextInfo::BASELINE_LEFT &&
@@ -49,8 +53,11 @@ TextMeasure::TextMeasure(const TextInfo& ti)
 }
 
 TextMeasure TextMeasure::Of(const TextInfo& ti) {
-    static std::map<TextInfo, TextMeasure> measures;
-    static std::size_t edition = 0;
+    struct Known {
+        std::map<TextInfo, TextMeasure> Measures;
+        std::size_t Edition = 0;
+    };
+    auto& [measures, edition] = ProcessObject<Known>();
     if (edition != FontStore::Edition()) {
         measures.clear();
         edition = FontStore::Edition();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <marlin/platform/drawing/size.h>
+#include <marlin/platform/fonts/detail/font_query.h>
 #include <marlin/platform/fonts/detail/sized_font.h>
 #include <marlin/platform/fonts/font_types.h>
 #include <marlin/records/text_info.h>
@@ -9,6 +10,9 @@
 #include <string_view>
 
 namespace MARLINSUITE::detail {
+
+/// The face that a style is measured with.
+[[nodiscard]] PLATFORM::detail::FontWish WishOf(const TextInfo& ti);
 
 /// True for the justifications whose box has its lower edge on the baseline.
 [[nodiscard]] bool IsOnBaseline(const TextInfo& ti) noexcept;
@@ -25,7 +29,7 @@ public:
     /// from are the same; one thread at a time.
     [[nodiscard]] static TextMeasure Of(const TextInfo& ti);
 
-    [[nodiscard]] explicit operator bool() const noexcept { return m_Height != 0; }
+    [[nodiscard]] explicit operator bool() const noexcept { return static_cast<bool>(m_Font); }
     /// The style's height factor and outline metrics, those of `TextHeightFactComp`.
     [[nodiscard]] float Factor() const noexcept { return m_Factor; }
     [[nodiscard]] const OUTLINETEXTMETRICA& Metrics() const noexcept { return *m_Metrics; }

@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/core/detail/process_object.h>
 #include <marlin/platform/drawing/detail/drawing_objects.h>
-
-#include <memory>
 
 namespace PLATFORM::detail {
 
+using MARLINSUITE::detail::ProcessObject;
+
 ContextTable& Contexts() {
-    static ContextTable& table = *std::make_unique<ContextTable>().release();
-    return table;
+    return ProcessObject<ContextTable>();
 }
 
 ObjectTable& Objects() {
-    static ObjectTable& table = *std::make_unique<ObjectTable>().release();
-    return table;
+    return ProcessObject<ObjectTable>();
 }
 
 BitmapRecord* SurfaceOf(const ContextRecord& context) noexcept {

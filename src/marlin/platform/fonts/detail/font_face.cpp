@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/core/detail/process_object.h>
 #include <marlin/platform/fonts/detail/font_face.h>
 #include <marlin/platform/fonts/detail/font_store.h>
 #include <marlin/platform/kernel/detail/file.h>
@@ -19,14 +20,23 @@ namespace {
 
 constexpr std::size_t LargestFile = std::size_t{1} << 28U;
 
+struct Library {
+    FT_Library Value = nullptr;
+
+    Library() noexcept {
+        if (FT_Init_FreeType(&Value) != 0) {
+            Value = nullptr;
+        }
+    }
+    Library(const Library&) = delete;
+    Library& operator=(const Library&) = delete;
+    ~Library() { FT_Done_FreeType(Value); }
+};
+
 }  // namespace
 
 FT_LibraryRec_* FreeType() noexcept {
-    static const FT_Library library = [] {
-        FT_Library made = nullptr;
-        return FT_Init_FreeType(&made) == 0 ? made : nullptr;
-    }();
-    return library;
+    return MARLINSUITE::detail::ProcessObject<Library>().Value;
 }
 
 FontBytes ReadFontFile(const std::string& path) {

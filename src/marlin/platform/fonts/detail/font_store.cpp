@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/core/detail/process_object.h>
 #include <marlin/platform/fonts/detail/font_store.h>
 
 #include <algorithm>
@@ -23,6 +24,9 @@ struct FoundFont {
 
 class Cache {
 public:
+    // FreeType goes after the faces that it opened.
+    Cache() noexcept { static_cast<void>(FreeType()); }
+
     std::mutex Lock;
     FontQuery Query;
     FontCosts Costs;
@@ -83,10 +87,8 @@ void Cache::Forget() {
     m_Files.clear();
 }
 
-// Never destroyed, because objects that draw may be destroyed later than any of the library's.
 Cache& TheCache() {
-    static Cache& cache = *std::make_unique<Cache>().release();
-    return cache;
+    return MARLINSUITE::detail::ProcessObject<Cache>();
 }
 
 }  // namespace

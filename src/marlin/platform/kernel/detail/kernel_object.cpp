@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/core/detail/load_order.h>
+#include <marlin/core/detail/process_object.h>
 #include <marlin/platform/kernel/detail/kernel_object.h>
 
 #include <bit>
@@ -19,7 +19,9 @@ struct KernelObjects {
     std::unordered_map<std::uintptr_t, std::shared_ptr<KernelObject>> Handles;
 };
 
-[[gnu::init_priority(MARLINSUITE::detail::LoadValues)]] KernelObjects objects;
+KernelObjects& Objects() {
+    return MARLINSUITE::detail::ProcessObject<KernelObjects>();
+}
 
 std::uintptr_t ValueOf(HANDLE handle) noexcept {
     return reinterpret_cast<std::uintptr_t>(handle);
@@ -28,6 +30,7 @@ std::uintptr_t ValueOf(HANDLE handle) noexcept {
 // Returns the object, so that the caller drops it after the lock: an object with a name takes the
 // lock when it ends.
 std::shared_ptr<KernelObject> Close(HANDLE handle) {
+    KernelObjects& objects = Objects();
     const std::lock_guard lock(objects.Lock);
     auto node = objects.Handles.extract(ValueOf(handle));
     return node ? std::move(node.mapped()) : nullptr;
@@ -39,6 +42,7 @@ KernelObject::~KernelObject() {
     if (m_Name.empty()) {
         return;
     }
+    KernelObjects& objects = Objects();
     const std::lock_guard lock(objects.Lock);
     const auto found = objects.Names.find(m_Name);
     // Since the last handle was closed, another thread may have given the name to a new object.
@@ -51,6 +55,7 @@ HANDLE OpenHandle(std::shared_ptr<KernelObject> object) {
     if (!object) {
         return nullptr;
     }
+    KernelObjects& objects = Objects();
     const std::lock_guard lock(objects.Lock);
     const std::uintptr_t value = ++objects.LastHandle;
     objects.Handles.emplace(value, std::move(object));
@@ -58,6 +63,7 @@ HANDLE OpenHandle(std::shared_ptr<KernelObject> object) {
 }
 
 std::shared_ptr<KernelObject> ObjectOf(HANDLE handle) {
+    KernelObjects& objects = Objects();
     const std::lock_guard lock(objects.Lock);
     const auto found = objects.Handles.find(ValueOf(handle));
     return found == objects.Handles.end() ? nullptr : found->second;
@@ -65,6 +71,7 @@ std::shared_ptr<KernelObject> ObjectOf(HANDLE handle) {
 
 std::shared_ptr<KernelObject> NamedObject(const std::string& name,
                                           const std::shared_ptr<KernelObject>& fresh) {
+    KernelObjects& objects = Objects();
     const std::lock_guard lock(objects.Lock);
     const auto found = objects.Names.find(name);
     if (found != objects.Names.end()) {
@@ -82,7 +89,8 @@ std::shared_ptr<KernelObject> NamedObject(const std::string& name,
 
 unsigned long WaitForSingleObject(HANDLE handle, unsigned long milliseconds) {
     const auto object = PLATFORM::detail::ObjectOf(handle);
-    return object ? object->Wait(milliseconds) : WAIT_FAILED;
+    // The contract has 32 bits, so -1 of any width is `INFINITE`.
+    return object ? object->Wait(milliseconds & 0xFFFFFFFF) : WAIT_FAILED;
 }
 
 int CloseHandle(HANDLE handle) {

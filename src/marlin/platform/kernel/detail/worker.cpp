@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/core/detail/process_object.h>
 #include <marlin/platform/kernel/detail/test_levers.h>
 #include <marlin/platform/kernel/detail/worker.h>
 
 #include <algorithm>
 #include <atomic>
 #include <system_error>
+#include <utility>
 
+#include <cxxabi.h>
 #include <sys/resource.h>
 
 namespace PLATFORM::detail {
@@ -39,7 +42,42 @@ void ApplyPriority(int priority) noexcept {
     }
 }
 
+// The worker that ended last. The next one joins it, or else the unloading of the library, in whose
+// code no thread may be then.
+class LastEnded {
+public:
+    LastEnded() = default;
+    LastEnded(const LastEnded&) = delete;
+    LastEnded& operator=(const LastEnded&) = delete;
+    ~LastEnded() { Replace({}); }
+
+    void Replace(std::thread thread) {
+        {
+            const std::lock_guard lock(m_Lock);
+            std::swap(m_Thread, thread);
+        }
+        if (thread.joinable()) {
+            thread.join();
+        }
+    }
+
+private:
+    std::mutex m_Lock;
+    std::thread m_Thread;
+};
+
 }  // namespace
+
+std::exception_ptr ExceptionOf(const std::function<void()>& call) {
+    try {
+        call();
+    } catch (const abi::__forced_unwind&) {
+        throw;  // the thread is cancelled, which nobody may hold up
+    } catch (...) {
+        return std::current_exception();
+    }
+    return nullptr;
+}
 
 std::unique_ptr<CWinThread> Worker::Create(AFX_THREADPROC procedure, void* parameter,
                                            int priority) {
@@ -50,10 +88,7 @@ std::unique_ptr<CWinThread> Worker::Create(AFX_THREADPROC procedure, void* param
     const auto worker = std::make_shared<Worker>(procedure, parameter, priority);
     auto thread = std::make_unique<CWinThread>(worker);
     try {
-        worker->m_Thread = std::thread([worker, raw = thread.get()] {
-            worker->Run(raw);
-            workerCount.fetch_sub(1);
-        });
+        worker->m_Thread = std::thread([worker, raw = thread.get()] { worker->Run(raw); });
     } catch (const std::system_error&) {
         workerCount.fetch_sub(1);
         return nullptr;
@@ -93,7 +128,7 @@ void Worker::Finish() {
     }
     // A worker that deletes itself cannot wait for its own end.
     if (m_Thread.get_id() == std::this_thread::get_id()) {
-        m_Thread.detach();
+        MARLINSUITE::detail::ProcessObject<LastEnded>().Replace(std::move(m_Thread));
     } else {
         m_Thread.join();
     }
@@ -115,15 +150,25 @@ void Worker::Run(CWinThread* thread) {
         End(0);
         return;
     }
+    // Also for a thread that is cancelled.
+    struct Ending {
+        Worker& Self;
+        CWinThread* Thread;
+        unsigned long Code;
+
+        ~Ending() {
+            // Once the end is known, an owner may delete the thread; it is not touched after that.
+            const std::unique_ptr<CWinThread> own(Thread->m_bAutoDelete ? Thread : nullptr);
+            Self.End(Code);
+        }
+    } ending{*this, thread, 1};
     currentThread = thread;
     ApplyPriority(m_Priority);
-    const unsigned long code = m_Procedure(m_Parameter);
-    // Once the end is known, an owner may delete the thread; it is not touched after that.
-    const std::unique_ptr<CWinThread> self(thread->m_bAutoDelete ? thread : nullptr);
-    End(code);
+    ending.Code = m_Procedure(m_Parameter);
 }
 
 void Worker::End(unsigned long code) {
+    workerCount.fetch_sub(1);
     const std::lock_guard lock(m_Lock);
     m_State = STATE::ENDED;
     m_ExitCode = code;

@@ -4,9 +4,14 @@
 #include <marlin/platform/kernel/detail/kernel_object.h>
 #include <marlin/platform/kernel/win_thread.h>
 
+#include <exception>
+#include <functional>
 #include <thread>
 
 namespace PLATFORM::detail {
+
+/// What the call threw, or null. A thread that is cancelled in it unwinds further.
+[[nodiscard]] std::exception_ptr ExceptionOf(const std::function<void()>& call);
 
 /// The thread of a `CWinThread`, suspended at first. The running thread shares the ownership, so
 /// that its end does not depend on who still knows it.

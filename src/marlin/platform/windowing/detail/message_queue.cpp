@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/platform/kernel/detail/per_thread.h>
 #include <marlin/platform/windowing/detail/message_queue.h>
 
 #include <algorithm>
@@ -7,8 +8,10 @@ namespace PLATFORM::detail {
 
 const std::shared_ptr<MessageQueue>& MessageQueue::OfThisThread() {
     // Shared with the windows of the thread, since those may be posted to after its end.
-    thread_local const auto queue = std::make_shared<MessageQueue>();
-    return queue;
+    struct Queue {
+        std::shared_ptr<MessageQueue> Shared = std::make_shared<MessageQueue>();
+    };
+    return PerThread<Queue>().Shared;
 }
 
 void MessageQueue::Post(const MSG& message) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/core/detail/load_order.h>
+#include <marlin/core/detail/process_object.h>
 #include <marlin/platform/windowing/detail/window_table.h>
 
 #include <vector>
@@ -7,8 +7,6 @@
 namespace PLATFORM::detail {
 
 namespace {
-
-[[gnu::init_priority(MARLINSUITE::detail::LoadValues)]] WindowTable all;
 
 // An object without a window does not come back here when it is destroyed, which would lock twice.
 void LetGo(CWnd* wrapper) noexcept {
@@ -20,7 +18,7 @@ void LetGo(CWnd* wrapper) noexcept {
 }  // namespace
 
 WindowTable& WindowTable::Get() noexcept {
-    return all;
+    return MARLINSUITE::detail::ProcessObject<WindowTable>();
 }
 
 WindowTable::~WindowTable() {

@@ -44,10 +44,8 @@ inline std::string Rows(const CKeywords& table) {
 /// Keywords named by the numbers from `first` on, each used once.
 inline CKeywords Numbered(int first, int count) {
     CKeywords table;
-    std::string text;
     for (int i = first; i < first + count; ++i) {
-        text += "%" + std::to_string(i) + "%";
+        table.AddKeywordsInString("%" + std::to_string(i) + "%");
     }
-    table.AddKeywordsInString(text);
     return table;
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "keyword_tables.h"
 #include <marlin/keywords/predefined_keywords.h>
-#include <marlin/settings/section.h>
 
+#include <functional>
 #include <limits>
 #include <string>
 #include <vector>
@@ -12,10 +12,11 @@
 
 namespace {
 
+constexpr int most = std::numeric_limits<int>::max();
+constexpr int least = std::numeric_limits<int>::min();
+
 // What another object's constructor finds before main.
 const bool staticPredefined = CKeywords::IsPredefinedKeyword("project contractor");
-
-const std::vector<Row> aba = {{"a", "1", 1}, {"b", "2", 2}, {"a", "3", 3}};
 
 TEST(Keywords, AreFoundByNameAndPosition) {
     CKeywords table = Table({{"A", "1", 0}, {"b", "2", 0}, {"A", "3", 0}});
@@ -25,7 +26,7 @@ TEST(Keywords, AreFoundByNameAndPosition) {
     for (const char* const name : {"a", "B", "", "A "}) {
         EXPECT_EQ(table.GetKeyword(name), nullptr) << name;
     }
-    for (const int position : {-1, 3, std::numeric_limits<int>::min()}) {
+    for (const int position : {-1, 3, least}) {
         EXPECT_EQ(table.GetKeyword(position), nullptr) << position;
     }
 }
@@ -46,35 +47,56 @@ TEST(Keywords, KnowThePredefinedNames) {
     EXPECT_FALSE(CKeywords::IsPredefinedPlotKeyword("plot project"));
 }
 
-TEST(Keywords, MergeByNameWhenAdded) {
+TEST(Keywords, OperationsChangeATableOfThreeAndAnotherOfFour) {
+    using Operation = std::function<void(CKeywords&, CKeywords&)>;
     const CKeyword a = {10, 0, 0, "new", "a"};
-    const CKeyword c = {7, 11, 12, "3", "c"};
-    const CKeyword front = {-1, 0, 0, "0", "front"};
-    CKeywords table = Table({{"a", "1", 1}, {"b", "2", 2}});
-    CKeyword* const first = table.GetKeyword("a");
-    for (const CKeyword* const keyword : {&c, &a, static_cast<const CKeyword*>(nullptr)}) {
-        table.AddKeyword(keyword);
+    const CKeyword d = {7, 11, 12, "3", "d"};
+    const std::string table = "a=1*1 b=2*0 a=3*3 ";
+    const std::string others = "c=x*4 a=y*5 c=z*6 a=w*7 ";
+    const struct {
+        Operation Do;
+        std::string Table, Other;
+    } cases[] = {
+        {[&](auto& t, auto&) { t.AddKeyword(&a); }, "a=1*11 b=2*0 a=3*3 ", others},
+        {[&](auto& t, auto&) { t.AddKeyword(&d); }, table + "d=3*7 ", others},
+        {[&](auto& t, auto&) { t.AddKeyword(t.GetKeyword(0)); }, "a=1*2 b=2*0 a=3*3 ", others},
+        {[&](auto& t, auto&) { t.AddKeywordToFront(&a); }, "a=1*11 b=2*0 a=3*3 ", others},
+        {[&](auto& t, auto&) { t.AddKeywordToFront(&d); }, "d=3*7 " + table, others},
+        {[&](auto& t, auto& o) { o.AddKeyword(nullptr), t.AddKeywordToFront(nullptr); }, table,
+         others},
+        {[&](auto& t, auto& o) { t.AddKeywords(o); }, "a=1*13 b=2*0 a=3*3 c=x*10 ", others},
+        // The first a: 1 + 1, then 3 of the second one.
+        {[&](auto& t, auto&) { t.AddKeywords(t); }, "a=1*5 b=2*0 a=3*3 ", others},
+        {[&](auto& t, auto& o) { t.SetValues(o); }, "a=y*1 b=2*0 a=y*3 ", others},
+        {[&](auto& t, auto&) { t.ClearRefCount(); }, "a=1*0 b=2*0 a=3*0 ", others},
+        {[&](auto& t, auto&) { t.Clear(); }, "", others},
+        {[&](auto& t, auto&) { t.RemoveKeyword("a", false); }, table, others},
+        {[&](auto& t, auto&) { t.RemoveKeyword("a", true); }, "b=2*0 a=3*3 ", others},
+        {[&](auto& t, auto&) { t.RemoveKeyword("b", false); }, "a=1*1 a=3*3 ", others},
+        {[&](auto& t, auto&) { t.RemoveKeyword("none", true); }, table, others},
+        {[&](auto& t, auto& o) { t.ExcludeKeywords(o); }, "b=2*0 ", others},
+        {[&](auto& t, auto& o) { o.ExcludeKeywords(t); }, table, "c=x*4 c=z*6 "},
+        {[&](auto& t, auto&) { t.ExcludeKeywords(t); }, "", others},
+        {[&](auto& t, auto& o) { t.AddRefcountRemove(o); }, "a=1*13 b=2*0 a=3*3 ", "c=x*4 c=z*6 "},
+        {[&](auto& t, auto&) { t.AddRefcountRemove(t); }, "", others},
+        {[&](auto& t, auto&) {
+             t = Table({{"a", "", most}, {"b", "", least}}), t.AddKeywords(t);
+         },
+         "a=*" + std::to_string(most) + " b=*" + std::to_string(least) + " ", others},
+    };
+    for (const auto& c : cases) {
+        CKeywords changed = Table({{"a", "1", 1}, {"b", "2", 0}, {"a", "3", 3}});
+        CKeywords other = Table({{"c", "x", 4}, {"a", "y", 5}, {"c", "z", 6}, {"a", "w", 7}});
+        c.Do(changed, other);
+        EXPECT_EQ(Rows(changed), c.Table);
+        EXPECT_EQ(Rows(other), c.Other) << c.Table;
     }
-    for (const CKeyword* const keyword : {&a, &front, static_cast<const CKeyword*>(nullptr)}) {
-        table.AddKeywordToFront(keyword);
-    }
-    EXPECT_EQ(Rows(table), "front=0*-1 a=1*21 b=2*2 c=3*7 ");
-    EXPECT_EQ(table.GetKeyword("c")->m_Extra1, 11);
-    EXPECT_EQ(table.GetKeyword("c")->m_Extra2, 12);
-    EXPECT_EQ(table.GetKeyword("a")->m_Extra1, 0);
-    table.AddKeywords(Numbered(0, 1000));
-    EXPECT_EQ(table.GetKeyword("a"), first) << "pointers stay good while keywords are added";
-    table.AddKeyword(first);
-    EXPECT_EQ(first->m_RefCount, 42);
-}
-
-TEST(Keywords, MergeWholeTables) {
-    CKeywords table = Table(aba);
-    const CKeywords other = Table({{"c", "x", 4}, {"a", "y", 5}, {"c", "z", 6}, {"a", "w", 7}});
-    table.AddKeywords(other);
-    EXPECT_EQ(Rows(table), "a=1*13 b=2*2 a=3*3 c=x*10 ");
-    table.AddKeywords(table);  // the first a: 13 + 13, then 3 of the second one
-    EXPECT_EQ(Rows(table), "a=1*29 b=2*4 a=3*3 c=x*20 ");
+    CKeywords copies;
+    copies.AddKeyword(&d);
+    CKeyword* const copied = copies.GetKeyword("d");
+    EXPECT_EQ(copied->m_Extra1 * 100 + copied->m_Extra2, 1112);
+    copies.AddKeywords(Numbered(0, 1000));
+    EXPECT_EQ(copies.GetKeyword("d"), copied) << "pointers stay good while keywords are added";
 }
 
 TEST(Keywords, OfOneNameTheFirstCountsInLargeTablesToo) {
@@ -82,9 +104,6 @@ TEST(Keywords, OfOneNameTheFirstCountsInLargeTablesToo) {
     for (int i = 0; i < 100; ++i) {
         rows.push_back({std::to_string(i % 50), std::to_string(i), 0});
     }
-    CKeywords added;
-    added.AddKeywords(Table(rows));
-    EXPECT_EQ(added.GetSize(), 50);
     CKeywords table = Table(rows);
     table.AddKeywords(Numbered(0, 50));
     table.SetValues(Table(rows));
@@ -94,69 +113,26 @@ TEST(Keywords, OfOneNameTheFirstCountsInLargeTablesToo) {
     }
 }
 
-TEST(Keywords, CountsStopAtTheLargestNumber) {
-    constexpr int most = std::numeric_limits<int>::max();
-    constexpr int least = std::numeric_limits<int>::min();
-    CKeywords table = Table({{"a", "", most}, {"b", "", least}});
-    table.AddKeywords(table);
-    EXPECT_EQ(table.GetKeyword("a")->m_RefCount, most);
-    EXPECT_EQ(table.GetKeyword("b")->m_RefCount, least);
-}
-
-TEST(Keywords, TakeValuesAndCountsOfAnotherTable) {
-    CKeywords table = Table(aba);
-    table.SetValues(Table({{"c", "x", 4}, {"a", "y", 5}, {"a", "z", 6}}));
-    EXPECT_EQ(Rows(table), "a=y*1 b=2*2 a=y*3 ");
-    table = Table(aba);
-    CKeywords other = Table({{"c", "x", 4}, {"a", "y", 5}, {"d", "z", 6}, {"a", "w", 7}});
-    table.AddRefcountRemove(other);
-    EXPECT_EQ(Rows(table), "a=1*13 b=2*2 a=3*3 ");
-    EXPECT_EQ(Rows(other), "c=x*4 d=z*6 ");
-    table.AddRefcountRemove(table);
-    EXPECT_EQ(table.GetSize(), 0);
-}
-
-TEST(Keywords, AreRemovedWhenUnusedOrAskedTo) {
-    CKeywords table = Table({{"x", "1", 1}, {"y", "2", 0}, {"x", "3", 0}, {"z", "4", -1}});
-    table.RemoveKeyword("x", false);
-    table.RemoveKeyword("z", false);
-    table.RemoveKeyword("none", true);
-    EXPECT_EQ(Rows(table), "x=1*1 y=2*0 x=3*0 z=4*-1 ");
-    table.RemoveKeyword("y", false);
-    table.RemoveKeyword("x", true);
-    EXPECT_EQ(Rows(table), "x=3*0 z=4*-1 ");
-    table.ClearRefCount();
-    EXPECT_EQ(Rows(table), "x=3*0 z=4*0 ");
-}
-
-TEST(Keywords, AreExcludedOneForOne) {
-    CKeywords table = Table({{"a", "1", 1}, {"b", "2", 2}, {"a", "3", 3}, {"a", "4", 4}});
-    table.ExcludeKeywords(Table({{"a", "", 0}, {"c", "", 0}, {"a", "", 0}}));
-    EXPECT_EQ(Rows(table), "b=2*2 a=4*4 ");
-    table.ExcludeKeywords(table);
-    EXPECT_EQ(table.GetSize(), 0);
-}
-
 TEST(Keywords, AreEqualInAnyOrderAndCount) {
     const CKeywords table = Table({{"a", "1", 1}, {"b", "2", 2}});
     const CKeywords turned = Table({{"b", "2", 9}, {"a", "1", 9}});
     EXPECT_EQ(table, turned);
     EXPECT_NE(table.GetChecksum(), turned.GetChecksum());
     EXPECT_EQ(table.GetChecksum(), Table({{"a", "1", 5}, {"b", "2", 5}}).GetChecksum());
-    const CKeywords a = Table({{"a", "1", 1}});
-    for (const CKeywords& other :
-         {a, Table({{"a", "1", 1}, {"b", "3", 2}}), Table({{"a", "1", 1}, {"c", "2", 2}})}) {
-        EXPECT_FALSE(table == other) << Rows(other);
-        EXPECT_FALSE(other == table) << Rows(other);
+    for (const CKeywords& other : {Table({{"a", "1", 1}}), Table({{"a", "1", 1}, {"b", "3", 2}}),
+                                   Table({{"a", "1", 1}, {"c", "2", 2}})}) {
+        EXPECT_FALSE(table == other || other == table) << Rows(other);
     }
 }
 
 TEST(Keywords, StandInASectionInTheirOrder) {
     Section section("Texts");
+    section.SetComments("a comment");
     section += SectionKey("Old", "key");
     const CKeywords table = Table({{"b", "2", 2}, {"", "x", 0}, {"b", "1", 1}});
     EXPECT_TRUE(table.Write(section).Empty());
     EXPECT_EQ(KeysOf(section), "b=2\n=x\nb=1\n");
+    EXPECT_EQ(*section.GetName() + ";" + section.GetComments(), "Texts;a comment");
     EXPECT_EQ(table.GetChecksum(), section.ComputeChecksum());
     section.AddChecksum();
     CKeywords read = Numbered(0, 3);
@@ -165,30 +141,24 @@ TEST(Keywords, StandInASectionInTheirOrder) {
               "b=2*0 =x*0 b=1*0 $CHECKSUM$=" + std::to_string(table.GetChecksum()) + "*0 ");
 }
 
-TEST(Keywords, ReadOneLineLists) {
-    const struct {
-        std::string text;
-        const char* rows;
-    } cases[] = {{"", ""},
-                 {"a%b%a", "a=*2 b=*1 "},
-                 {"%a%%b%", "a=*1 b=*1 "},
-                 {" a ,b%\n", " a ,b=*1 \n=*1 "}};
+TEST(Keywords, AreReadFromOneLineListsAndWrittenToThem) {
+    const std::string odd("n\0ul", 4);
+    const std::string list = "project name%" + odd + "%Z";
+    const std::pair<std::string, std::string> cases[] = {
+        {"", ""},
+        {"a%b%a", "a=*2 b=*1 "},
+        {"%a%%b%", "a=*1 b=*1 "},
+        {" a ,b%\n", " a ,b=*1 \n=*1 "},
+        {list, "project name=*1 " + odd + "=*1 Z=*1 "}};
     for (const auto& [text, rows] : cases) {
         CKeywords table = Table({{"old", "1", 1}});
         table.FromString(text);
         EXPECT_EQ(Rows(table), rows) << text;
     }
-}
-
-TEST(Keywords, NamesSurviveTheOneLineList) {
-    const std::string odd("n\0ul", 4);
-    const CKeywords table = Table({{"project name", "1", 1}, {odd, "2", 2}, {"Z", "3", 3}});
-    EXPECT_EQ(table.ToString(), "project name%" + odd + "%Z");
+    EXPECT_EQ(Table({{"project name", "1", 1}, {odd, "2", 2}, {"Z", "3", 3}}).ToString(), list);
     EXPECT_EQ(CKeywords().ToString(), "");
-    CKeywords read;
-    read.FromString(table.ToString());
-    EXPECT_EQ(Rows(read), "project name=*1 " + odd + "=*1 Z=*1 ");
     const CKeywords many = Numbered(0, 20'000);
+    CKeywords read;
     read.FromString(many.ToString());
     EXPECT_EQ(read.ToString(), many.ToString());
     EXPECT_EQ(read.GetSize(), 20'000);

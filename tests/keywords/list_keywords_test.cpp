@@ -44,12 +44,14 @@ TEST(ListKeyword, HoldsEachChoiceOnce) {
         keyword.AddValue(value);
     }
     EXPECT_EQ(Choices(&keyword), "[B][A][][a]");
-    EXPECT_EQ(keyword.GetValue(-1), "");
-    EXPECT_EQ(keyword.GetValue(4), "");
+    EXPECT_EQ(keyword.GetValue(-1) + keyword.GetValue(4), "");
+    CListKeyword copy = keyword;
+    copy.AddValue("A");
+    copy.AddValue("new");
+    EXPECT_EQ(Choices(&copy), "[B][A][][a][new]");
     keyword.Clear();
     keyword.AddValue("A");
-    EXPECT_EQ(Choices(&keyword), "[A]");
-    EXPECT_EQ(keyword.GetName(), "client");
+    EXPECT_EQ(keyword.GetName() + Choices(&keyword), "client[A]");
 }
 
 TEST_F(ListKeywordsTest, AreTheSectionsOfTheFile) {
@@ -64,6 +66,8 @@ TEST_F(ListKeywordsTest, AreTheSectionsOfTheFile) {
         {"before\n[n]\n[ m ]\nx", "n  m [x] "},
         {"[n]\na\n[N]\nb\n[m]\nc", "n[a] "},
         {"[n]\na\nA", "n[a][A] "},
+        {"\xEF\xBB\xBF[klient]\n\xC3\x85", "klient[\xC3\x85] "},
+        {"[klient]\n\xC3\x85", "klient[\xC3\x85] "},
         {"", ""}};
     for (const auto& [text, expected] : cases) {
         Write(text);

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -211,6 +212,17 @@ TEST_F(FontEnumeration, EndsWhereTheCallEndsItAndNeedsAContextAndACall) {
     EXPECT_EQ(EnumFontFamiliesExA(nullptr, &m_Wanted, Note, m_Argument, 0), 0);
     EXPECT_EQ(EnumFontFamiliesExA(m_DC, &m_Wanted, nullptr, m_Argument, 0), 0);
     EXPECT_EQ(m_Faces.size(), 6U);
+}
+
+TEST(FontCatalog, FindsAFileThatWasAddedAfterItsListing) {
+    FontMatch mono = FaceOf("Liberation Mono");
+    const std::string bytes = TemporaryFolder::Read(mono.Path);
+    const FolderFonts folder(TemporaryFolder::Read(FaceOf("Liberation Sans").Path));
+    EXPECT_EQ(FontCatalog::Families(), std::vector<std::string>{"Liberation Sans"});
+    EXPECT_EQ(FaceOf("Liberation Serif").Family, "Liberation Sans");
+    std::ofstream(std::filesystem::path(folder.File()).replace_filename("mono.ttf")) << bytes;
+    EXPECT_EQ(FaceOf("Liberation Mono").Family, "Liberation Mono");
+    EXPECT_EQ(FontCatalog::Families().size(), 2U);
 }
 
 TEST(FontCatalog, NamesTheSubstituteOfAnUnknownFace) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/platform/kernel/clock.h>
 #include <marlin/platform/kernel/detail/test_levers.h>
 #include <marlin/platform/kernel/mutex.h>
 #include <marlin/platform/kernel/version.h>
@@ -6,11 +7,13 @@
 
 #include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <future>
 #include <string>
 #include <thread>
 
 #include <gtest/gtest.h>
+#include <pthread.h>
 #include <support/workers.h>
 #include <sys/resource.h>
 
@@ -52,18 +55,34 @@ TEST(Mutex, ItsOwnerAloneReleasesItAsOftenAsItTookItOrAbandonsItByEnding) {
     const HANDLE mutex = owned.get();
     EXPECT_EQ(WaitForSingleObject(mutex, 0), WAIT_OBJECT_0);
     EXPECT_EQ(ReleaseMutex(mutex), 1);
-    EXPECT_EQ(WaitElsewhere(mutex, 1), WAIT_TIMEOUT);
-    std::thread other([mutex] {
-        EXPECT_EQ(ReleaseMutex(mutex), 0);
-        EXPECT_EQ(WaitForSingleObject(mutex, INFINITE), WAIT_OBJECT_0);
-    });
-    EXPECT_EQ(WaitElsewhere(mutex), WAIT_TIMEOUT);
+    for (const unsigned long time : {0UL, 1UL, 1UL << 32U}) {  // the last one is 0 in 32 bits
+        EXPECT_EQ(WaitElsewhere(mutex, time), WAIT_TIMEOUT);
+    }
+    EXPECT_EQ(std::async(std::launch::async, ReleaseMutex, mutex).get(), 0);
+    auto first = std::async(std::launch::async, WaitForSingleObject, mutex, INFINITE);
+    auto second = std::async(std::launch::async, WaitForSingleObject, mutex, ~0UL);
+    for (auto* const waiting : {&first, &second}) {  // most likely in the wait by then
+        EXPECT_EQ(waiting->wait_for(std::chrono::milliseconds(10)), std::future_status::timeout);
+    }
     EXPECT_EQ(ReleaseMutex(mutex), 1);
-    other.join();
+    EXPECT_EQ(first.get() + second.get(), WAIT_OBJECT_0 + WAIT_ABANDONED);
     EXPECT_EQ(ReleaseMutex(mutex), 0);
     EXPECT_EQ(WaitForSingleObject(mutex, 0), WAIT_ABANDONED);
     EXPECT_EQ(ReleaseMutex(mutex), 1);
     EXPECT_EQ(WaitForSingleObject(mutex, 0), WAIT_OBJECT_0);
+}
+
+TEST(Clock, AndWaitsCountMilliseconds) {
+    const auto owned = Own(CreateMutexA(nullptr, 1, nullptr));
+    const auto begin = std::chrono::steady_clock::now();
+    const unsigned long first = timeGetTime();
+    EXPECT_EQ(WaitElsewhere(owned.get(), 30), WAIT_TIMEOUT);
+    const unsigned long counted = (timeGetTime() - first) & 0xFFFFFFFF;
+    const auto time = std::chrono::duration_cast<std::chrono::milliseconds>(
+        std::chrono::steady_clock::now() - begin);
+    EXPECT_GE(counted, 29U);
+    EXPECT_GE(time.count() + 1, static_cast<long>(counted));
+    EXPECT_LT(time.count(), 10'000);
 }
 
 TEST(Mutex, ANameStandsForOneMutexAsLongAsItIsOpen) {
@@ -128,6 +147,16 @@ TEST(WinThread, WorkersRunUnlessWithoutWorkBeyondTheLimitOrDeletedSuspended) {
     PLATFORM::detail::SetWorkerLimit(PLATFORM::detail::NoWorkerLimit);
     EXPECT_NE(Suspended(work), nullptr);
     EXPECT_EQ(work.Calls, 0);
+    const auto cancelled = [](void*) -> unsigned int { ::pthread_exit(nullptr); };
+    CWinThread* const thread =
+        AfxBeginThread(cancelled, nullptr, THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
+    thread->m_bAutoDelete = false;
+    const std::unique_ptr<CWinThread> owner(thread);
+    ResumeThread(thread->m_hThread);
+    EXPECT_EQ(WaitForSingleObject(thread->m_hThread, INFINITE), WAIT_OBJECT_0);
+    unsigned long code = 0;
+    EXPECT_EQ(GetExitCodeThread(thread->m_hThread, &code), 1);
+    EXPECT_EQ(code, 1U);
     ASSERT_NE(AfxBeginThread(&Record, &work), nullptr);
     AwaitNoWorkers();  // the one that nobody owns deletes itself
     EXPECT_EQ(work.Calls, 1);

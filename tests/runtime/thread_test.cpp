@@ -244,6 +244,7 @@ TEST_F(ThreadTest, WaitsForTheEndOfAllItsWorkersAtMostSoLongAndNotOnThemselves) 
     {
         Thread inner;
         EXPECT_TRUE(inner.Start(&polling));
+        polling.Called.acquire();
     }  // stops and waits
     EXPECT_EQ(polling.Calls, 1);
 }
@@ -259,6 +260,7 @@ TEST_F(ThreadTest, AForgottenWorkerDisturbsNoLaterRunNorIsItRevived) {
         return 1;
     });
     EXPECT_TRUE(thread.Start(&forgotten));
+    forgotten.Called.acquire();
     thread.Stop();
     thread.HandleEndThread();
     caller.AwaitEnd();

@@ -12,6 +12,47 @@
 
 namespace UTL {
 
+/// The places of a subscriber in its contexts. Most have one, which needs no memory of its own.
+class Observer::Places {
+public:
+    [[nodiscard]] bool Empty() const noexcept { return !m_First && m_More.empty(); }
+    /// False, and nothing added, where the context has a place.
+    bool Add(Context& context, std::size_t place) {
+        if (m_First == &context || (!m_More.empty() && m_More.contains(&context))) {
+            return false;
+        }
+        if (m_First) {
+            m_More.emplace(&context, place);
+        } else {
+            m_First = &context;
+            m_Place = place;
+        }
+        return true;
+    }
+    std::optional<std::size_t> Remove(Context& context) {
+        if (m_First == &context) {
+            m_First = nullptr;
+            return m_Place;
+        }
+        const auto removed = m_More.extract(&context);
+        return removed ? std::optional(removed.mapped()) : std::nullopt;
+    }
+    template <class Call>
+    void ForEach(const Call& call) const {
+        if (m_First) {
+            call(*m_First, m_Place);
+        }
+        for (const auto& [context, place] : m_More) {
+            call(*context, place);
+        }
+    }
+
+private:
+    Context* m_First = nullptr;
+    std::size_t m_Place = 0;
+    std::map<Context*, std::size_t> m_More;
+};
+
 /// The contexts by name, and for each subscriber its places in them, so that leaving searches
 /// neither the subscribers of a context nor all contexts.
 class Observer::Table {
@@ -39,11 +80,8 @@ public:
 
 private:
     using Contexts = std::unordered_map<std::string, Context>;
-    using Places = std::map<Context*, std::size_t>;
-
-    /// Takes the context from the subscriber's places; the place that it had there.
-    std::optional<std::size_t> Forget(const Subscriber& subscriber, Context& context);
     void Vacate(Context& context, std::size_t place);
+    void Clear(Contexts::iterator found);
     void Remove(Contexts::iterator found);
 
     Contexts m_Contexts;
@@ -51,36 +89,30 @@ private:
 };
 
 void Observer::Table::Join(Subscriber& subscriber, Context& context) {
-    if (m_Places[&subscriber].try_emplace(&context, context.OldestFirst.size()).second) {
+    if (m_Places[&subscriber].Add(context, context.OldestFirst.size())) {
         context.OldestFirst.push_back(&subscriber);
     }
 }
 
-std::optional<std::size_t> Observer::Table::Forget(const Subscriber& subscriber, Context& context) {
+void Observer::Table::Leave(const Subscriber& subscriber, const std::string& name) {
+    const auto found = m_Contexts.find(name);
     const auto places = m_Places.find(&subscriber);
-    if (places == m_Places.end()) {
-        return std::nullopt;
+    if (found == m_Contexts.end() || places == m_Places.end()) {
+        return;
     }
-    const auto forgotten = places->second.extract(&context);
-    if (places->second.empty()) {
+    const auto place = places->second.Remove(found->second);
+    if (places->second.Empty()) {
         m_Places.erase(places);
     }
-    return forgotten ? std::optional(forgotten.mapped()) : std::nullopt;
-}
-
-void Observer::Table::Leave(const Subscriber& subscriber, const std::string& name) {
-    if (const auto found = m_Contexts.find(name); found != m_Contexts.end()) {
-        if (const auto place = Forget(subscriber, found->second)) {
-            Vacate(found->second, *place);
-        }
+    if (place) {
+        Vacate(found->second, *place);
     }
 }
 
 void Observer::Table::LeaveAll(const Subscriber& subscriber) {
     if (const auto left = m_Places.extract(&subscriber)) {
-        for (const auto& [context, place] : left.mapped()) {
-            Vacate(*context, place);
-        }
+        left.mapped().ForEach(
+            [this](Context& context, std::size_t place) { Vacate(context, place); });
     }
 }
 
@@ -99,7 +131,9 @@ void Observer::Table::CloseGaps(Context& context) {
     std::erase(context.OldestFirst, nullptr);
     context.Gaps = 0;
     for (std::size_t place = 0; place < context.OldestFirst.size(); ++place) {
-        m_Places[context.OldestFirst[place]][&context] = place;
+        Places& places = m_Places[context.OldestFirst[place]];
+        places.Remove(context);
+        places.Add(context, place);
     }
 }
 
@@ -112,8 +146,8 @@ void Observer::Table::Move(const std::string& from, Context& to) {
     for (auto newest = moved.rbegin(); newest != moved.rend(); ++newest) {
         if (*newest) {
             Places& places = m_Places[*newest];
-            places.erase(&found->second);
-            if (places.try_emplace(&to, to.OldestFirst.size()).second) {
+            places.Remove(found->second);
+            if (places.Add(to, to.OldestFirst.size())) {
                 to.OldestFirst.push_back(*newest);
             }
         }
@@ -122,22 +156,25 @@ void Observer::Table::Move(const std::string& from, Context& to) {
 }
 
 void Observer::Table::Clear(const std::string& name) {
-    const auto found = m_Contexts.find(name);
-    if (found == m_Contexts.end()) {
-        return;
+    if (const auto found = m_Contexts.find(name); found != m_Contexts.end()) {
+        Clear(found);
     }
+}
+
+// Whoever is in no context any more stays in the list until it leaves: taking all off, one by one
+// from all over the memory, would take longer than all else.
+void Observer::Table::Clear(Contexts::iterator found) {
     for (const Subscriber* const subscriber : found->second.OldestFirst) {
         if (subscriber) {
-            Forget(*subscriber, found->second);
+            m_Places[subscriber].Remove(found->second);
         }
     }
     Remove(found);
 }
 
 void Observer::Table::Clear() {
-    m_Places.clear();
     for (auto next = m_Contexts.begin(); next != m_Contexts.end();) {
-        Remove(next++);
+        Clear(next++);
     }
 }
 

@@ -69,6 +69,7 @@ public:
     void Clear(const std::string& context);
 
 private:
+    class Places;
     class Table;
 
     /// The subscribers of one name. Whoever leaves only empties its place, so that places keep

@@ -10,8 +10,8 @@ namespace PLATFORM {
 
 /// One text of a resource string table.
 struct StringResource {
-    unsigned int Id;
-    std::string_view Text;
+    unsigned int Id;        ///< Its number, as `CString::LoadString` takes it.
+    std::string_view Text;  ///< UTF-8; lives as long as the table.
 };
 
 /// The string table from which `CString::LoadString` takes its texts: the one that the library's

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/platform/drawing/detail/outline_buffer.h>
 #include <marlin/platform/drawing/detail/rasterizer.h>
 #include <marlin/platform/fonts/detail/font_store.h>
 
@@ -16,14 +17,10 @@ namespace {
 
 // An outline of FreeType: counts have 16 bits, coordinates 26.6 fixed point. `Fits` becomes false
 // for a shape that they cannot hold.
-struct Contours {
-    std::vector<FT_Vector> Points;
-    std::vector<char> Tags;
-    std::vector<short> Ends;
+struct Contours : OutlineBuffer<FT_Outline> {
     bool Fits = true;
 
     void Add(OutlinePoint point, const Placement& at, int tag);
-    [[nodiscard]] FT_Outline Outline() noexcept;
 };
 
 constexpr double LargestPixel = 32000;
@@ -36,24 +33,13 @@ void Contours::Add(OutlinePoint point, const Placement& at, int tag) {
     Fits = Fits && std::fabs(x) < LargestPixel && std::fabs(y) < LargestPixel &&
            Points.size() < MostPoints;
     if (Fits) {
-        Points.push_back({std::lround(x * 64), std::lround(-y * 64)});
-        Tags.push_back(static_cast<char>(tag));
+        OutlineBuffer::Add({std::lround(x * 64), std::lround(-y * 64)}, tag);
     }
-}
-
-FT_Outline Contours::Outline() noexcept {
-    FT_Outline outline{};
-    outline.n_contours = static_cast<short>(Ends.size());
-    outline.n_points = static_cast<short>(Points.size());
-    outline.points = Points.data();
-    outline.tags = Tags.data();
-    outline.contours = Ends.data();
-    return outline;
 }
 
 void AddStep(Contours& contours, const OutlineStep& step, const Placement& at) {
     if (step.Kind == OutlineStep::MOVE && !contours.Points.empty()) {
-        contours.Ends.push_back(static_cast<short>(contours.Points.size() - 1));
+        contours.EndContour();
     }
     if (step.Kind == OutlineStep::CONIC) {
         contours.Add(step.Control1, at, FT_CURVE_TAG_CONIC);
@@ -109,14 +95,14 @@ void PaintShape(const std::vector<OutlineStep>& steps, const Placement& placemen
     if (!contours.Fits || contours.Points.empty()) {
         return;
     }
-    contours.Ends.push_back(static_cast<short>(contours.Points.size() - 1));
+    contours.EndContour();
     Ink ink{&surface, PixelOf(color)};
     FT_Raster_Params parameters{};
     parameters.flags = FT_RASTER_FLAG_AA | FT_RASTER_FLAG_DIRECT | FT_RASTER_FLAG_CLIP;
     parameters.gray_spans = PaintSpans;
     parameters.user = &ink;
     parameters.clip_box = {0, -surface.Height, surface.Width, 0};
-    FT_Outline outline = contours.Outline();
+    FT_Outline outline = contours.Get();
     // An instance of FreeType serves one thread at a time.
     const std::scoped_lock lock(FontStore::Lock());
     if (FreeType()) {

@@ -132,12 +132,12 @@ void FontQuery::SetFolders(const std::vector<std::string>& folders) {
     m_Configuration.reset();
 }
 
-void FontQuery::Refresh() {
-    if (m_Folders.empty()) {
-        FcInitBringUptoDate();
-    } else {
+bool FontQuery::Refresh() {
+    if (!m_Folders.empty()) {
         m_Configuration.reset();  // reads the folders again
+        return true;
     }
+    return FcConfigUptoDate(nullptr) == FcFalse && FcInitReinitialize() == FcTrue;
 }
 
 bool FontQuery::Prepare() {

@@ -38,8 +38,8 @@ class FontQuery {
 public:
     /// Files in these folders alone, or those of the system for none.
     void SetFolders(const std::vector<std::string>& folders);
-    /// Takes note of fonts that came or went.
-    void Refresh();
+    /// Takes note of fonts that came or went; false when there are none.
+    bool Refresh();
 
     /// The font that comes nearest to the wish; `outline` is true when its shapes are outlines.
     [[nodiscard]] std::optional<FontMatch> Match(const FontWish& wish, bool& outline);

@@ -73,9 +73,12 @@ const FoundFont* Cache::Find(FontWish&& wish) {
     ++Costs.Queries;
     bool outline = false;
     std::optional<FontMatch> match = Query.Match(wish, outline);
+    if ((!match || match->Substituted) && Query.Refresh()) {
+        match = Query.Match(wish, outline);  // the font may have come
+    }
     const FontFace* face = match && outline ? FaceOf(*match) : nullptr;
     if (!face) {
-        Query.Refresh();
+        static_cast<void>(Query.Refresh());
         return nullptr;
     }
     return &m_Found.try_emplace(std::move(wish), FoundFont{std::move(*match), face}).first->second;
@@ -113,6 +116,7 @@ bool FontStore::Match(FontWish wish, FontMatch& match) {
 std::vector<InstalledFont> FontStore::Families() {
     const std::scoped_lock lock(Lock());
     ++TheCache().Costs.Queries;
+    static_cast<void>(TheCache().Query.Refresh());
     return TheCache().Query.Families();
 }
 

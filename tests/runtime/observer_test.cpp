@@ -107,7 +107,8 @@ TEST_F(ObserverTest, ACopyNotifiesTheSameAndGoesItsOwnWay) {
     Subscribe({&a, &b}, "X");
     observer.RenameSubscribers("X", "Y");
     UTL::Observer copy = observer;
-    EXPECT_EQ(copy.GetPreviousContext() + copy.GetCurrentContext(), "XY");
+    const auto names = [&copy] { return copy.GetPreviousContext() + copy.GetCurrentContext(); };
+    EXPECT_EQ(names(), "XY");
     copy.Subscribe(&c, "Y");
     copy.UnSubscribe(&b);
     EXPECT_EQ(Heard("Y"), "a:1 b:1 ");
@@ -116,8 +117,32 @@ TEST_F(ObserverTest, ACopyNotifiesTheSameAndGoesItsOwnWay) {
     UTL::Observer& alias = copy;
     copy = alias;
     EXPECT_EQ(HeardFrom(copy, "Y"), "c:1 a:1 ");
+    copy.RenameSubscribers("P", "C");
     copy = observer;
+    EXPECT_EQ(names(), "XY");
     EXPECT_EQ(HeardFrom(copy, "Y") + "| " + HeardFrom(copy, "Z"), "a:1 b:1 | c:1 ");
+}
+
+TEST_F(ObserverTest, ASubscriberOfSeveralContextsLeavesThemInAnyOrder) {
+    for (const std::string order : {"XYZ", "ZYX", "YXZ", "YZX"}) {
+        std::string left = "XYZ";
+        for (const char context : left) {
+            Subscribe({&a, &b}, {context});
+        }
+        for (const char context : order) {
+            if (context == 'Y') {
+                observer.Clear("Y");
+                observer.Subscribe(&b, "Y");
+            }
+            observer.UnSubscribe(&a, {context});
+            std::erase(left, context);
+            for (const char other : std::string("XYZ")) {
+                const bool stays = left.find(other) != std::string::npos;
+                EXPECT_EQ(Heard({other}), stays ? "b:1 a:1 " : "b:1 ") << order << context << other;
+            }
+        }
+        observer.Clear();
+    }
 }
 
 TEST_F(ObserverTest, ManyContextsAndManySubscribersOfOne) {

@@ -71,6 +71,11 @@ TEST(GDIMapper, MeaninglessMappingsDoNoHarm) {
     EXPECT_EQ((Mapper({0, 0}, {1, 1}, {5, 5, 5, 5}) << Point(nan, nan)).x, 0);
     const GDIMapper huge = Mapper({0, 0}, {1, 1}, {-most - 1, -most - 1, most, most});
     EXPECT_EQ((huge << Point(1e300, -1e300)).x, most);
+    const GDIMapper plain = Mapper({-10, -10}, {10, 10}, {-10, -10, 10, 10});
+    for (const int edge : {most, -most, -most - 1}) {
+        EXPECT_EQ((plain << Point(edge, 0)).x, edge);
+    }
+    EXPECT_EQ((plain << Point(-1e300, 0)).x, -most - 1);
     mapper.Create({}, {0, 0, 10, 10});
     const Point keptCenter = mapper << CPoint(7, 7);
     EXPECT_EQ(keptCenter.x, 0.5);

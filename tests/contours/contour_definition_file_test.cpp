@@ -179,7 +179,9 @@ TEST_F(ContourDefinitionFile, IsSearchedByHalvesThoughItsLevelsDoNotAscend) {
     ContourDefinitionList moved = std::move(m_List);
     EXPECT_EQ(moved.Add({.Level = 30.0}), -1);
     EXPECT_EQ(moved.Add({.Level = 20.0}), 1);
-    EXPECT_EQ(TextOf(moved), "10/0/0/0/0 20/0/0/0/0 30/0/0/0/0 5/0/0/0/0 ");
+    EXPECT_EQ(moved.Set(2, {.Level = 30.0, .Color = 7}), 2) << "in its place";
+    EXPECT_EQ(moved.Set(3, {.Level = 5.0, .Color = 9}), 3);
+    EXPECT_EQ(TextOf(moved), "10/0/0/0/0 20/0/0/0/0 30/7/0/0/0 5/9/0/0/0 ");
 }
 
 TEST_F(ContourDefinitionFile, KeepsSixDecimalsOfALevelAndNamesUnknownLineTypesContinuous) {

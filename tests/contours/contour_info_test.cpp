@@ -12,6 +12,11 @@ TEST(ContourInfo, WritesItsDefaults) {
               "SmoothingWindow=0;Values between 0 and 8\nContourLabelSpacing=20.000000\n"
               "SuppressionLength=0.000000;A value of 0 disables suppresion\nSmoothingPasses=1\n"
               "EnableContouring=1\nLabelOrientation=OptimumTextAngle\n");
+    std::string fields;  // the two keys of the spacing are one
+    for (const MARLINSUITE::RecordField& field : ContourInfo().Fields()) {
+        fields += std::to_string(field.Key.Field) + (field.Key.IsCommon ? "c " : " ");
+    }
+    EXPECT_EQ(fields, "4 2c 2 3 5 1 6 ");
 }
 
 TEST(ContourInfo, PrefersTheNewerKeyOfTheSpacing) {

@@ -141,16 +141,23 @@ std::string TableOf(const std::string& name) {
     return keys;
 }
 
+bool Succeeded(bool result) {
+    return result;
+}
+bool Succeeded(const ErrorString& result) {
+    return result.Empty();
+}
+
 template <class Record>
 Record ReadFrom(const Section& section, Record record = Record()) {
-    static_cast<void>(record.Read(section));
+    EXPECT_TRUE(Succeeded(record.Read(section)));
     return record;
 }
 
 template <class Record>
 std::string Written(const Record& record) {
     Section section("Record");
-    static_cast<void>(record.Write(section));
+    EXPECT_TRUE(Succeeded(record.Write(section)));
     return KeysOf(section);
 }
 

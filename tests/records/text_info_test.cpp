@@ -109,6 +109,8 @@ TEST(TextInfo, TurnsTextsThatReadUpsideDown) {
         TextInfo ti = Justified(TOP_LEFT, rotation);
         ti.OptTextAngle(view);
         EXPECT_EQ(ti, Justified(TOP_LEFT, expected)) << rotation << " " << view;
+        EXPECT_EQ(Justified(TOP_LEFT, rotation).OptTextAngleJust(view),
+                  Justified(expected == rotation ? TOP_LEFT : BOTTOM_RIGHT, expected));
     }
 }
 

@@ -84,7 +84,8 @@ TEST(RecordAccessors, OfTextsAndDepthLabels) {
     using Text = TextInfo;
     Expect(&Text::SetFont, &Text::Font, std::string("Times"), "0=Times\n");
     Expect(&Text::SetSize, &Text::Size, 3.5F, "1=3.5\n");
-    Expect(&Text::SetStyle, &Text::Style, Text::BOLD | Text::UNDERLINE, "2=5\n");
+    Expect(&Text::SetStyle, &Text::Style, Text::BOLD, "2=1\n");
+    Expect(&Text::SetStyle, &Text::Style, Text::ITALIC | Text::UNDERLINE, "2=6\n");
     Expect(&Text::SetJustification, &Text::Justification, Text::TOP_LEFT, "3=6\n");
     Expect(&Text::SetColor, &Text::Color, 0xFFUL, "4=10\n9=255\n");
     Expect(&Text::SetRotation, &Text::Rotation, Angle(30.25), "5=30.25\n");

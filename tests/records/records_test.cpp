@@ -232,6 +232,12 @@ TYPED_TEST(Records, AppendOrReplaceKeysOfWhichTheFirstCount) {
     EXPECT_EQ(Written(ReadFrom<TypeParam>(section)), keys.Appends ? plain : keys.Changed);
 }
 
+TEST(PrefixedRecords, LeaveTheCommentsOfOthers) {
+    Section section = SectionOf("BiasMode=7;mine\n");
+    EXPECT_TRUE(BiasInfo().Write(section));
+    EXPECT_EQ(KeysOf(section), "BiasMode=0;mine\n");
+}
+
 TYPED_TEST(Records, ListTheKeysThatTheyWrite) {
     const auto record = ReadFrom<TypeParam>(SectionOf(Keys<TypeParam>.Changed));
     std::string listed;

@@ -27,8 +27,8 @@ TextInfo Read(const std::string& text) {
 }
 
 TEST(TextInfo, IsOrderedByFontThenSizeThenStyle) {
-    const char* const ordered[] = {"Arial,2,7", "ARIAL,3,1", "arial,3,2", "Arial Black,1",
-                                   "Zapf,0.5"};
+    const char* const ordered[] = {"Arial,2,7", "ARIAL,3,1",     "arial,3,2", "arial,4,1",
+                                   "arial,4,3", "Arial Black,1", "Zapf,0.5"};
     for (const char* const& a : ordered) {
         for (const char* const& b : ordered) {
             EXPECT_EQ(Read(a) < Read(b), &a < &b) << a << " " << b;
@@ -86,14 +86,29 @@ TEST(TextInfo, ConvertsItsJustification) {
 }
 
 TEST(TextInfo, TakesTheJustificationOfDxfTexts) {
-    const std::array<int, 3> cases[] = {
-        {0, 0, BASELINE_LEFT}, {1, 0, BASELINE_CENTER},  {2, 0, BASELINE_RIGHT},
-        {4, 0, BOTTOM_CENTER}, {3, 0, BOTTOM_LEFT},      {5, 0, BOTTOM_LEFT},
-        {0, 1, BOTTOM_LEFT},   {1, 1, BOTTOM_CENTER},    {2, 1, BOTTOM_RIGHT},
-        {4, 1, BOTTOM_LEFT},   {0, 2, MIDDLE_LEFT},      {1, 2, MIDDLE_CENTER},
-        {2, 2, MIDDLE_RIGHT},  {0, 3, TOP_LEFT},         {1, 3, TOP_CENTER},
-        {2, 3, TOP_RIGHT},     {0, 4, BOTTOM_LEFT},      {-1, 0, BOTTOM_LEFT},
-        {12, 0, BOTTOM_RIGHT}, {-9, 1, BASELINE_CENTER}, {2147483647, 2147483647, BOTTOM_LEFT}};
+    const std::array<int, 3> cases[] = {{0, 0, BASELINE_LEFT},
+                                        {1, 0, BASELINE_CENTER},
+                                        {2, 0, BASELINE_RIGHT},
+                                        {4, 0, BOTTOM_CENTER},
+                                        {3, 0, BOTTOM_LEFT},
+                                        {5, 0, BOTTOM_LEFT},
+                                        {0, 1, BOTTOM_LEFT},
+                                        {1, 1, BOTTOM_CENTER},
+                                        {2, 1, BOTTOM_RIGHT},
+                                        {3, 1, BOTTOM_LEFT},
+                                        {3, 2, BOTTOM_LEFT},
+                                        {4, 1, BOTTOM_LEFT},
+                                        {0, 2, MIDDLE_LEFT},
+                                        {1, 2, MIDDLE_CENTER},
+                                        {2, 2, MIDDLE_RIGHT},
+                                        {0, 3, TOP_LEFT},
+                                        {1, 3, TOP_CENTER},
+                                        {2, 3, TOP_RIGHT},
+                                        {0, 4, BOTTOM_LEFT},
+                                        {-1, 0, BOTTOM_LEFT},
+                                        {12, 0, BOTTOM_RIGHT},
+                                        {-9, 1, BASELINE_CENTER},
+                                        {2147483647, 2147483647, BOTTOM_LEFT}};
     for (const auto& [h, v, expected] : cases) {
         TextInfo ti = Justified(MIDDLE_LEFT);
         ti.FromAcadJust(h, v);

@@ -112,6 +112,9 @@ void Thread::Stop() noexcept {
 unsigned int Thread::ThreadProc(void* thread) {
     auto& self = *static_cast<Thread*>(thread);
     const bool isOwner = WaitForSingleObject(self.m_Mutex, 0) != WAIT_TIMEOUT;
+    if (!isOwner) {
+        PLATFORM::detail::Worker::Retire();
+    }
     const Runs::iterator run = self.NoteTrial(isOwner);
     if (!isOwner) {
         return MutexNotTaken;
@@ -125,6 +128,7 @@ unsigned int Thread::ThreadProc(void* thread) {
 
         ~Ending() {
             ReleaseMutex(Self.m_Mutex);
+            PLATFORM::detail::Worker::Retire();
             Self.EndRun(Run, Result, std::move(Exception));
         }
     } ending{self, run, 1, nullptr};

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/core/detail/load_order.h>
 #include <marlin/core/detail/process_object.h>
 
+#include <cstdlib>
 #include <mutex>
 #include <vector>
 
@@ -12,13 +12,6 @@ namespace {
 constinit std::mutex listLock;
 constinit std::vector<std::shared_ptr<void>>* list = nullptr;
 constinit bool processEnds = false;
-
-// At the end of the process static objects are destroyed before the function below runs, and after
-// it when the library is unloaded.
-struct ProcessEnd {
-    ~ProcessEnd() { processEnds = true; }
-};
-[[maybe_unused, gnu::init_priority(LoadStartUp)]] const ProcessEnd processEnd;
 
 [[gnu::destructor]] void Unload() {
     const std::unique_ptr<std::vector<std::shared_ptr<void>>> kept(processEnds ? nullptr : list);
@@ -35,6 +28,9 @@ void KeepUntilUnload(std::shared_ptr<void> object) {
         list = std::make_unique<std::vector<std::shared_ptr<void>>>().release();
     }
     list->push_back(std::move(object));
+    // Called before the function above when the process ends, after it when the library is
+    // unloaded.
+    static_cast<void>(std::atexit([] { processEnds = true; }));
 }
 
 }  // namespace MARLINSUITE::detail

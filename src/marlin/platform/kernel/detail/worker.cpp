@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/core/detail/process_object.h>
+#include <marlin/core/detail/load_order.h>
 #include <marlin/platform/kernel/detail/test_levers.h>
 #include <marlin/platform/kernel/detail/worker.h>
 
@@ -17,6 +17,7 @@ namespace {
 
 constinit std::atomic<unsigned int> workerCount{0};
 constinit thread_local CWinThread* currentThread = nullptr;
+constinit thread_local Worker* currentWorker = nullptr;
 
 // Counts one worker more unless that would exceed the limit; two threads at once cannot both take
 // the last place.
@@ -42,29 +43,32 @@ void ApplyPriority(int priority) noexcept {
     }
 }
 
-// The worker that ended last. The next one joins it, or else the unloading of the library, in whose
-// code no thread may be then.
-class LastEnded {
-public:
-    LastEnded() = default;
-    LastEnded(const LastEnded&) = delete;
-    LastEnded& operator=(const LastEnded&) = delete;
-    ~LastEnded() { Replace({}); }
+// The worker that ended last. It is never destroyed: workers may end while the process does.
+union LastEnded {
+    std::thread Thread;
 
-    void Replace(std::thread thread) {
-        {
-            const std::lock_guard lock(m_Lock);
-            std::swap(m_Thread, thread);
-        }
-        if (thread.joinable()) {
-            thread.join();
-        }
-    }
-
-private:
-    std::mutex m_Lock;
-    std::thread m_Thread;
+    LastEnded() noexcept : Thread() {}
+    ~LastEnded() {}
 };
+constinit std::mutex lastLock;
+[[gnu::init_priority(MARLINSUITE::detail::LoadValues)]] LastEnded last;
+
+// Each worker that ends is joined by the next one.
+void ReplaceLast(std::thread thread) {
+    {
+        const std::lock_guard lock(lastLock);
+        std::swap(last.Thread, thread);
+    }
+    if (thread.joinable()) {
+        thread.join();
+    }
+}
+
+// Joins the very last one, before the code that it ran may be unloaded.
+struct Joiner {
+    ~Joiner() { ReplaceLast({}); }
+};
+[[maybe_unused, gnu::init_priority(MARLINSUITE::detail::LoadValues)]] const Joiner joiner;
 
 }  // namespace
 
@@ -128,9 +132,15 @@ void Worker::Finish() {
     }
     // A worker that deletes itself cannot wait for its own end.
     if (m_Thread.get_id() == std::this_thread::get_id()) {
-        MARLINSUITE::detail::ProcessObject<LastEnded>().Replace(std::move(m_Thread));
+        Retire();
     } else {
         m_Thread.join();
+    }
+}
+
+void Worker::Retire() {
+    if (currentWorker) {
+        ReplaceLast(std::move(currentWorker->m_Thread));
     }
 }
 
@@ -163,6 +173,7 @@ void Worker::Run(CWinThread* thread) {
         }
     } ending{*this, thread, 1};
     currentThread = thread;
+    currentWorker = this;
     ApplyPriority(m_Priority);
     ending.Code = m_Procedure(m_Parameter);
 }

@@ -29,6 +29,10 @@ public:
     bool Resume();
     [[nodiscard]] unsigned long ExitCode();
 
+    /// Has the next worker that ends, or the end of the process, wait for the calling one. It does
+    /// so before anybody may take it for ended.
+    static void Retire();
+
     /// Waits for the end of the thread; a suspended one ends without running. A worker that
     /// calls it for itself goes on alone.
     void Finish();

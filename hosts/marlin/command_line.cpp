@@ -49,12 +49,7 @@ CommandLine::CommandLine() {
     m_App.set_version_flag("--version", "marlin " MARLIN_VERSION, "Print the version and exit");
     m_App.require_subcommand(1);
     Family program(m_App, m_Chosen);
-    AddContours(program);
-    AddColors(program);
-    AddSettings(program);
-    AddKeywords(program);
-    AddFile(program);
-    AddText(program);
+    AddFamilies(program);
 }
 
 // The program's name, then the families and commands that the line named before it went wrong.

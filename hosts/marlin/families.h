@@ -3,15 +3,32 @@
 
 #include "command.h"
 
-/// The families of commands. Each is declared where it is implemented, in a file or a folder of
-/// its name, with the options of every command beside its work.
+/// The families of commands, and the commands of those that have a folder. Each is declared where
+/// it is implemented, in a file or a folder of its name, with the options of every command beside
+/// its work.
 namespace HOST {
 
-void AddContours(Family& program);
+void AddFamilies(Family& program);
+
 void AddColors(Family& program);
-void AddSettings(Family& program);
 void AddKeywords(Family& program);
 void AddFile(Family& program);
-void AddText(Family& program);
+
+void AddListContours(Family& contours);
+void AddEditContours(Family& contours);
+void AddGenerateContours(Family& contours);
+/// "set", "add" and "remove".
+void AddChangeContours(Family& contours);
+
+void AddCheckSettings(Family& settings);
+void AddSealSettings(Family& settings);
+/// "get" and "set".
+void AddOneSetting(Family& settings);
+void AddShowSettings(Family& settings);
+void AddDiffSettings(Family& settings);
+
+void AddMeasureTexts(Family& text);
+void AddMeasureDepths(Family& text);
+void AddListFonts(Family& text);
 
 }  // namespace HOST

@@ -51,11 +51,11 @@ TEST_P(EditContourDlgTest, HoldsWhatWasEnteredOnceConfirmed) {
     Script().AnswerColor(0x0000FF);
     const auto held = Show({1.0F, 0, 1.0, 0xFF0000, true}, [](Screen& screen) {
         screen.User.Type(CONTROL_LEVEL, "-12.345");
-        screen.User.Click(CONTROL_COLOR);
         screen.User.Choose(CONTROL_LINE_STYLE, 2);
         screen.User.Type(CONTROL_LINE_WIDTH, "0.75");
         screen.User.Click(CONTROL_SHOW_LABELS);
-        screen.User.Press(VK_RETURN);
+        screen.User.Click(CONTROL_COLOR);
+        screen.User.Press(VK_RETURN);  // confirms, though the color button has the focus
     });
     EXPECT_EQ(m_Result, IDOK);
     EXPECT_EQ(held.Level, -12.345);

@@ -91,14 +91,14 @@ TEST(Messages, AWindowThatIsGoneGetsNothingUntilMadeAnewUnderAnotherHandle) {
     Receiver window;
     const HWND handle = window.GetSafeHwnd();
     EXPECT_FALSE(window.Create());
-    EXPECT_EQ(CWnd::FromHandlePermanent(handle), &window);
+    EXPECT_EQ(CWnd::FromHandle(handle), &window);
     window.PostMessage(1);
     EXPECT_TRUE(window.DestroyWindow());
     EXPECT_FALSE(window.DestroyWindow());
     EXPECT_FALSE(window.PostMessage(1));
     EXPECT_TRUE(window.Create());
     EXPECT_FALSE(DispatchOne());
-    EXPECT_EQ(CWnd::FromHandlePermanent(handle), nullptr);
+    EXPECT_EQ(CWnd::FromHandle(handle), nullptr);
     const MSG taken{handle, 2, 0, 0};
     EXPECT_EQ(DispatchMessageA(&taken), 0);
     EXPECT_EQ(PostMessageA(handle, 3, 0, 0), 0);

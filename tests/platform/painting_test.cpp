@@ -3,7 +3,6 @@
 #include <marlin/platform/drawing/c_brush.h>
 #include <marlin/platform/drawing/c_client_dc.h>
 #include <marlin/platform/drawing/c_font.h>
-#include <marlin/platform/drawing/detail/outline_buffer.h>
 #include <marlin/platform/fonts/fonts.h>
 
 #include <algorithm>
@@ -70,32 +69,6 @@ struct Surface {
         return rows;
     }
 };
-
-// The fields of FreeType's outline, signed before version 2.13.3 and unsigned since.
-template <class Count, class Tag>
-struct OutlineFields {
-    Count n_contours;
-    Count n_points;
-    int* points;
-    Tag* tags;
-    Count* contours;
-};
-
-template <class Outline>
-void ExpectFields() {
-    PLATFORM::detail::OutlineBuffer<Outline> buffer;
-    buffer.Add(7, 1);
-    buffer.Add(8, 2);
-    buffer.EndContour();
-    const Outline outline = buffer.Get();
-    EXPECT_EQ(outline.n_contours * 10 + outline.n_points, 12);
-    EXPECT_EQ(outline.points[1] * 100 + outline.tags[1] * 10 + outline.contours[0], 821);
-}
-
-TEST(OutlineBuffer, SuitsEitherSignatureOfAnOutline) {
-    ExpectFields<OutlineFields<short, char>>();
-    ExpectFields<OutlineFields<unsigned short, unsigned char>>();
-}
 
 TEST(Painting, FillsAndFramesWithoutTheRightAndBottomEdge) {
     Surface surface(5, 4);

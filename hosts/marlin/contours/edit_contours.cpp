@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "contours.h"
+#include "families.h"
 #include "input/files.h"
 #include <marlin/base/error_string.h>
 #include <marlin/platform/kernel/process.h>

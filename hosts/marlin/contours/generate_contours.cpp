@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "contour_file.h"
-#include "contours.h"
+#include "families.h"
 #include "input/color_source.h"
 #include "input/files.h"
 #include "input/level.h"

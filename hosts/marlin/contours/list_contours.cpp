@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "contour_file.h"
-#include "contours.h"
+#include "families.h"
 #include "input/level.h"
 #include "output/color_text.h"
 #include "output/json.h"

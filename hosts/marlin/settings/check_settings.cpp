@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "families.h"
 #include "input/settings_source.h"
 #include "output/json.h"
 #include "output/table.h"
-#include "settings.h"
 
 #include <algorithm>
 #include <string_view>

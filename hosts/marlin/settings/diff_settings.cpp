@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "families.h"
 #include "input/ignoring_case.h"
 #include "input/settings_source.h"
 #include "output/json.h"
-#include "settings.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "families.h"
 #include "input/settings_source.h"
-#include "settings.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "families.h"
 #include "input/files.h"
 #include "input/settings_source.h"
-#include "settings.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "families.h"
 #include "input/settings_source.h"
 #include "output/color_text.h"
 #include "output/json.h"
 #include "output/table.h"
 #include "section_records.h"
-#include "settings.h"
 
 namespace HOST {
 

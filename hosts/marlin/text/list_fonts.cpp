@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "families.h"
 #include "output/json.h"
-#include "text.h"
 #include <marlin/platform/fonts/font_catalog.h>
 
 namespace HOST {

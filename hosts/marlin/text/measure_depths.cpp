@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "families.h"
 #include "measurement.h"
 #include "style_options.h"
-#include "text.h"
 #include <marlin/core/number_text.h>
 #include <marlin/records/depth_label_info.h>
 

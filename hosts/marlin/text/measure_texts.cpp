@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "families.h"
 #include "measurement.h"
 #include "style_options.h"
-#include "text.h"
 
 #include <algorithm>
 

@@ -7,10 +7,8 @@
 
 namespace {
 
-// How a text begins that `ParseNumber` refuses: with no number, or with one out of range.
-enum class START { NO_NUMBER, POSITIVE, NEGATIVE };
-
-START StartOf(std::string_view text, bool pointMayLead) noexcept {
+// The sign of the number that a text begins with; 0 without one.
+int SignOf(std::string_view text, bool pointMayLead) noexcept {
     text.remove_prefix(static_cast<std::size_t>(
         std::ranges::find_if_not(text, MARLINSUITE::IsBlank) - text.begin()));
     const bool negative = text.starts_with('-');
@@ -21,9 +19,20 @@ START StartOf(std::string_view text, bool pointMayLead) noexcept {
         text.remove_prefix(1);
     }
     if (text.empty() || !MARLINSUITE::IsDigit(text.front())) {
-        return START::NO_NUMBER;
+        return 0;
     }
-    return negative ? START::NEGATIVE : START::POSITIVE;
+    return negative ? -1 : 1;
+}
+
+// A number that cannot be parsed, though there is one, lies beyond a limit of the type.
+template <class T>
+T LeadingNumber(const std::string& text, bool pointMayLead, T lowest, T highest) noexcept {
+    T value = 0;
+    if (!MARLINSUITE::ParseNumber(text, value)) {
+        const int sign = SignOf(text, pointMayLead);
+        value = sign < 0 ? lowest : sign > 0 ? highest : T{0};
+    }
+    return value;
 }
 
 template <class T>
@@ -57,35 +66,13 @@ void trim(std::string& text, std::string characters) {
 }
 
 int atoi(const std::string& text) noexcept {
-    int value = 0;
-    if (MARLINSUITE::ParseNumber(text, value)) {
-        return value;
-    }
-    switch (StartOf(text, false)) {
-        case START::POSITIVE:
-            return std::numeric_limits<int>::max();
-        case START::NEGATIVE:
-            return std::numeric_limits<int>::min();
-        case START::NO_NUMBER:
-            break;
-    }
-    return 0;
+    using Limits = std::numeric_limits<int>;
+    return LeadingNumber(text, false, Limits::min(), Limits::max());
 }
 
 double atof(const std::string& text) noexcept {
-    double value = 0.0;
-    if (MARLINSUITE::ParseNumber(text, value)) {
-        return value;
-    }
-    switch (StartOf(text, true)) {
-        case START::POSITIVE:
-            return std::numeric_limits<double>::infinity();
-        case START::NEGATIVE:
-            return -std::numeric_limits<double>::infinity();
-        case START::NO_NUMBER:
-            break;
-    }
-    return 0.0;
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    return LeadingNumber(text, true, -infinity, infinity);
 }
 
 CString& operator<<(CString& text, bool value) {

@@ -104,18 +104,6 @@ const char* Scan(std::string_view text, double& value) noexcept {
     return ScanDecimal(text, value);
 }
 
-template <class T>
-bool ScanWhole(std::string_view text, T& value) noexcept {
-    T scanned{};
-    const char* const stop = Scan(text, scanned);
-    const char* const end = text.data() + text.size();
-    if (!stop || SkipBlanks(stop, end) != end) {
-        return false;
-    }
-    value = scanned;
-    return true;
-}
-
 template <class... Options>
 void AppendChars(std::string& text, Options... options) {
     std::array<char, 32> digits{};
@@ -178,49 +166,36 @@ bool AppendUsualFixed(std::string& text, double value, int decimals) {
 
 }  // namespace
 
-bool ParseNumber(std::string_view text, int& value) noexcept {
+template <class T>
+bool ParseNumber(std::string_view text, T& value) noexcept {
     return Scan(text, value) != nullptr;
 }
 
-bool ParseNumber(std::string_view text, unsigned int& value) noexcept {
-    return Scan(text, value) != nullptr;
+template bool ParseNumber(std::string_view text, int& value) noexcept;
+template bool ParseNumber(std::string_view text, unsigned int& value) noexcept;
+template bool ParseNumber(std::string_view text, unsigned long& value) noexcept;
+template bool ParseNumber(std::string_view text, bool& value) noexcept;
+template bool ParseNumber(std::string_view text, float& value) noexcept;
+template bool ParseNumber(std::string_view text, double& value) noexcept;
+
+template <class T>
+bool ParseWhole(std::string_view text, T& value) noexcept {
+    T scanned{};
+    const char* const stop = Scan(text, scanned);
+    const char* const end = text.data() + text.size();
+    if (!stop || SkipBlanks(stop, end) != end) {
+        return false;
+    }
+    value = scanned;
+    return true;
 }
 
-bool ParseNumber(std::string_view text, unsigned long& value) noexcept {
-    return Scan(text, value) != nullptr;
-}
-
-bool ParseNumber(std::string_view text, bool& value) noexcept {
-    return Scan(text, value) != nullptr;
-}
-
-bool ParseNumber(std::string_view text, float& value) noexcept {
-    return Scan(text, value) != nullptr;
-}
-
-bool ParseNumber(std::string_view text, double& value) noexcept {
-    return Scan(text, value) != nullptr;
-}
-
-bool ParseWhole(std::string_view text, int& value) noexcept {
-    return ScanWhole(text, value);
-}
-
-bool ParseWhole(std::string_view text, unsigned long& value) noexcept {
-    return ScanWhole(text, value);
-}
-
-bool ParseWhole(std::string_view text, bool& value) noexcept {
-    return ScanWhole(text, value);
-}
-
-bool ParseWhole(std::string_view text, float& value) noexcept {
-    return ScanWhole(text, value);
-}
-
-bool ParseWhole(std::string_view text, double& value) noexcept {
-    return ScanWhole(text, value);
-}
+template bool ParseWhole(std::string_view text, int& value) noexcept;
+template bool ParseWhole(std::string_view text, unsigned int& value) noexcept;
+template bool ParseWhole(std::string_view text, unsigned long& value) noexcept;
+template bool ParseWhole(std::string_view text, bool& value) noexcept;
+template bool ParseWhole(std::string_view text, float& value) noexcept;
+template bool ParseWhole(std::string_view text, double& value) noexcept;
 
 void AppendNumber(std::string& text, int value) {
     AppendChars(text, value);

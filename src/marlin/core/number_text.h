@@ -24,21 +24,15 @@ namespace MARLINSUITE {
 /// not fit. Integers: an optional sign ("-" for `int` alone) and decimal digits; `unsigned
 /// long` ends at 4294967295 as on the 32-bit platform that the contracts come from. A bool is
 /// an integer 0 or 1. Decimal numbers: digits with an optional fraction and exponent, rounded
-/// to the nearest value; numbers too small for the type become 0.
-MARLIN_API bool ParseNumber(std::string_view text, int& value) noexcept;
-MARLIN_API bool ParseNumber(std::string_view text, unsigned int& value) noexcept;
-MARLIN_API bool ParseNumber(std::string_view text, unsigned long& value) noexcept;
-MARLIN_API bool ParseNumber(std::string_view text, bool& value) noexcept;
-MARLIN_API bool ParseNumber(std::string_view text, float& value) noexcept;
-MARLIN_API bool ParseNumber(std::string_view text, double& value) noexcept;
+/// to the nearest value; numbers too small for the type become 0. The types are `int`, `unsigned
+/// int`, `unsigned long`, `bool`, `float` and `double`.
+template <class T>
+MARLIN_API bool ParseNumber(std::string_view text, T& value) noexcept;
 
 /// Reads a text that is one value of the type and nothing else, but for white space at its ends.
 /// False, and the target unchanged, for any other.
-MARLIN_API bool ParseWhole(std::string_view text, int& value) noexcept;
-MARLIN_API bool ParseWhole(std::string_view text, unsigned long& value) noexcept;
-MARLIN_API bool ParseWhole(std::string_view text, bool& value) noexcept;
-MARLIN_API bool ParseWhole(std::string_view text, float& value) noexcept;
-MARLIN_API bool ParseWhole(std::string_view text, double& value) noexcept;
+template <class T>
+MARLIN_API bool ParseWhole(std::string_view text, T& value) noexcept;
 
 /// Appends an integer in decimal, an `unsigned long` as its low 32 bits, a bool as 1 or 0.
 MARLIN_API void AppendNumber(std::string& text, int value);

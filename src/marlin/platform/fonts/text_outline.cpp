@@ -57,10 +57,9 @@ constexpr FT_Outline_Funcs penMoves{MoveTo, LineTo, ConicTo, CubicTo, 0, 0};
 // A glyph that cannot be read leaves its place empty.
 void AppendGlyph(const FontFace& face, char32_t codePoint, Pen& pen) {
     const std::scoped_lock lock(FontStore::Lock());
-    const FT_Outline* const outline = face.Outline(codePoint);
+    FT_Outline* const outline = face.Outline(codePoint);
     const std::size_t before = pen.Steps->size();
-    // FreeType only reads the outline, though its signature does not say so.
-    if (outline && FT_Outline_Decompose(const_cast<FT_Outline*>(outline), &penMoves, &pen) != 0) {
+    if (outline && FT_Outline_Decompose(outline, &penMoves, &pen) != 0) {
         pen.Steps->resize(before);
     }
 }
@@ -97,17 +96,19 @@ bool GetTextOutline(HDC dc, const char* text, int count, TextOutline& outline) {
         return false;
     }
     const FontFace& face = font.Sized.Face();
-    const FaceMetrics& metrics = face.Metrics();
+    const OUTLINETEXTMETRICA& metrics = face.Metrics();
     TextOutline made;
     made.Advance = AppendText(face, {text, static_cast<std::size_t>(count)}, made.Steps);
     if (font.Record->Underline) {
-        AppendLine(made.Advance, metrics.UnderlinePosition, metrics.UnderlineSize, made.Steps);
+        AppendLine(made.Advance, metrics.otmsUnderscorePosition, metrics.otmsUnderscoreSize,
+                   made.Steps);
     }
     if (font.Record->StrikeOut) {
-        AppendLine(made.Advance, metrics.StrikeoutPosition, metrics.StrikeoutSize, made.Steps);
+        AppendLine(made.Advance, metrics.otmsStrikeoutPosition, metrics.otmsStrikeoutSize,
+                   made.Steps);
     }
-    made.Ascent = metrics.CellAscent;
-    made.Descent = metrics.CellDescent;
+    made.Ascent = metrics.otmTextMetrics.tmAscent;
+    made.Descent = metrics.otmTextMetrics.tmDescent;
     made.Scale = font.Sized.Scale();
     outline = std::move(made);
     return true;

@@ -54,10 +54,6 @@ CWnd* CWnd::FromHandle(HWND window) {
     return WindowTable::Get().Wrapper(window);
 }
 
-CWnd* CWnd::FromHandlePermanent(HWND window) {
-    return WindowTable::Get().Attached(window);
-}
-
 bool CWnd::Create() {
     if (m_hWnd) {
         return false;

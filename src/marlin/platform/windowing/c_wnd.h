@@ -38,8 +38,6 @@ public:
     /// The object that is attached to the window, or one made up for it that lives as long as
     /// the window; null for a handle of none.
     [[nodiscard]] static CWnd* FromHandle(HWND window);
-    /// The object that is attached to the window, or null. For use on the window's thread only.
-    [[nodiscard]] static CWnd* FromHandlePermanent(HWND window);
 
     /// The handle, or null for an object without a window.
     [[nodiscard]] HWND GetSafeHwnd() const noexcept { return m_hWnd.load(); }

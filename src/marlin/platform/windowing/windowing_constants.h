@@ -46,5 +46,4 @@ inline constexpr int VK_F2 = 0x71;
 /// The type of a `DRAWITEMSTRUCT` and what it asks for.
 inline constexpr UINT ODT_BUTTON = 4;
 inline constexpr UINT ODA_DRAWENTIRE = 1;
-inline constexpr UINT ODA_SELECT = 2;
 inline constexpr UINT ODA_FOCUS = 4;

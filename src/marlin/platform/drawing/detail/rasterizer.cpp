@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/platform/drawing/detail/outline_buffer.h>
 #include <marlin/platform/drawing/detail/rasterizer.h>
-#include <marlin/platform/fonts/detail/font_store.h>
+#include <marlin/platform/fonts/detail/font_face.h>
 
 #include <algorithm>
 #include <cmath>
@@ -14,41 +13,6 @@
 namespace PLATFORM::detail {
 
 namespace {
-
-// An outline of FreeType: counts have 16 bits, coordinates 26.6 fixed point. `Fits` becomes false
-// for a shape that they cannot hold.
-struct Contours : OutlineBuffer<FT_Outline> {
-    bool Fits = true;
-
-    void Add(OutlinePoint point, const Placement& at, int tag);
-};
-
-constexpr double LargestPixel = 32000;
-constexpr std::size_t MostPoints = 32000;
-
-// The rows of FreeType count upwards, those of a surface downwards.
-void Contours::Add(OutlinePoint point, const Placement& at, int tag) {
-    const double x = at.X + point.X * at.ScaleX;
-    const double y = at.Y - point.Y * at.ScaleY;
-    Fits = Fits && std::fabs(x) < LargestPixel && std::fabs(y) < LargestPixel &&
-           Points.size() < MostPoints;
-    if (Fits) {
-        OutlineBuffer::Add({std::lround(x * 64), std::lround(-y * 64)}, tag);
-    }
-}
-
-void AddStep(Contours& contours, const OutlineStep& step, const Placement& at) {
-    if (step.Kind == OutlineStep::MOVE && !contours.Points.empty()) {
-        contours.EndContour();
-    }
-    if (step.Kind == OutlineStep::CONIC) {
-        contours.Add(step.Control1, at, FT_CURVE_TAG_CONIC);
-    } else if (step.Kind == OutlineStep::CUBIC) {
-        contours.Add(step.Control1, at, FT_CURVE_TAG_CUBIC);
-        contours.Add(step.Control2, at, FT_CURVE_TAG_CUBIC);
-    }
-    contours.Add(step.To, at, FT_CURVE_TAG_ON);
-}
 
 struct Ink {
     BitmapRecord* Surface;
@@ -84,30 +48,36 @@ void PaintSpans(int y, int count, const FT_Span* spans, void* user) {
     }
 }
 
+// Coordinates of FreeType's renderer have 26.6 bits.
+bool Fits(const FT_BBox& box, const Placement& at) noexcept {
+    constexpr double largest = 32000;
+    const double pixels[] = {at.X + static_cast<double>(box.xMin) * at.ScaleX,
+                             at.X + static_cast<double>(box.xMax) * at.ScaleX,
+                             at.Y - static_cast<double>(box.yMin) * at.ScaleY,
+                             at.Y - static_cast<double>(box.yMax) * at.ScaleY};
+    return std::ranges::all_of(pixels, [](double pixel) { return std::fabs(pixel) < largest; });
+}
+
 }  // namespace
 
-void PaintShape(const std::vector<OutlineStep>& steps, const Placement& placement, COLORREF color,
-                BitmapRecord& surface) {
-    Contours contours;
-    for (const OutlineStep& step : steps) {
-        AddStep(contours, step, placement);
-    }
-    if (!contours.Fits || contours.Points.empty()) {
+void PaintGlyph(FT_Outline_& glyph, const Placement& at, COLORREF color, BitmapRecord& surface) {
+    FT_BBox box;
+    FT_Outline_Get_CBox(&glyph, &box);
+    if (!Fits(box, at)) {
         return;
     }
-    contours.EndContour();
+    constexpr double unit = 64.0 * 65536.0;  // a 64th of a pixel, in 16.16 fixed point
+    const FT_Matrix scale{std::lround(at.ScaleX * unit), 0, 0, std::lround(at.ScaleY * unit)};
+    FT_Outline_Transform(&glyph, &scale);
+    // The rows of FreeType count upwards, those of a surface downwards.
+    FT_Outline_Translate(&glyph, std::lround(at.X * 64), std::lround(-at.Y * 64));
     Ink ink{&surface, PixelOf(color)};
     FT_Raster_Params parameters{};
     parameters.flags = FT_RASTER_FLAG_AA | FT_RASTER_FLAG_DIRECT | FT_RASTER_FLAG_CLIP;
     parameters.gray_spans = PaintSpans;
     parameters.user = &ink;
     parameters.clip_box = {0, -surface.Height, surface.Width, 0};
-    FT_Outline outline = contours.Get();
-    // An instance of FreeType serves one thread at a time.
-    const std::scoped_lock lock(FontStore::Lock());
-    if (FreeType()) {
-        FT_Outline_Render(FreeType(), &outline, &parameters);
-    }
+    FT_Outline_Render(FreeType(), &glyph, &parameters);
 }
 
 }  // namespace PLATFORM::detail

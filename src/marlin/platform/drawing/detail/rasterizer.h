@@ -2,13 +2,12 @@
 #pragma once
 
 #include <marlin/platform/drawing/detail/drawing_objects.h>
-#include <marlin/platform/fonts/text_outline.h>
 
-#include <vector>
+struct FT_Outline_;
 
 namespace PLATFORM::detail {
 
-/// Where a shape is painted: the pixel of its origin, and the pixels of one unit.
+/// Where a glyph is painted: the pixel of its origin, and the pixels of a design unit.
 struct Placement {
     double X = 0;
     double Y = 0;
@@ -16,10 +15,9 @@ struct Placement {
     double ScaleY = 1;
 };
 
-/// Paints the inside of the contours, with smooth edges, on the surface. A shape that reaches
-/// further than 32,000 pixels from the surface's corner, or has more than 32,000 points, is not
-/// painted.
-void PaintShape(const std::vector<OutlineStep>& steps, const Placement& placement, COLORREF color,
-                BitmapRecord& surface);
+/// Paints the inside of a glyph, with smooth edges, on the surface, and changes the outline to that
+/// of the painted glyph. One that reaches further than 32,000 pixels from the surface's corner is
+/// not painted. Callers hold the lock of the font store.
+void PaintGlyph(FT_Outline_& glyph, const Placement& at, COLORREF color, BitmapRecord& surface);
 
 }  // namespace PLATFORM::detail

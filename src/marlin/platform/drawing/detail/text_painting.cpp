@@ -3,10 +3,12 @@
 #include <marlin/platform/drawing/detail/rasterizer.h>
 #include <marlin/platform/drawing/detail/rounding.h>
 #include <marlin/platform/drawing/detail/text_painting.h>
+#include <marlin/platform/fonts/detail/font_store.h>
 #include <marlin/platform/fonts/detail/selected_font.h>
-#include <marlin/platform/fonts/text_outline.h>
 #include <marlin/platform/text/code_page.h>
 
+#include <algorithm>
+#include <mutex>
 #include <string>
 
 namespace PLATFORM::detail {
@@ -17,10 +19,6 @@ namespace {
 constexpr unsigned int HorizontalBits = TA_CENTER;
 constexpr unsigned int VerticalBits = TA_BASELINE;
 
-// Long texts are painted in pieces of so many characters: FreeType's outlines count points in 16
-// bits.
-constexpr int PieceLength = 64;
-
 // Design units from the start of the text to its reference point.
 double ReferenceX(unsigned int alignment, double advance) noexcept {
     const unsigned int horizontal = alignment & HorizontalBits;
@@ -30,35 +28,36 @@ double ReferenceX(unsigned int alignment, double advance) noexcept {
     return horizontal == TA_RIGHT ? advance : 0;
 }
 
-double ReferenceY(unsigned int alignment, const FaceMetrics& face) noexcept {
+double ReferenceY(unsigned int alignment, const TEXTMETRICA& cell) noexcept {
     const unsigned int vertical = alignment & VerticalBits;
     if (vertical == TA_BASELINE) {
         return 0;
     }
-    return vertical == TA_BOTTOM ? -face.CellDescent : face.CellAscent;
+    return vertical == TA_BOTTOM ? -cell.tmDescent : cell.tmAscent;
 }
 
-// The size in bytes of a text's first piece.
-std::size_t PieceSize(std::string_view utf8) noexcept {
-    std::string_view rest = utf8;
-    for (int i = 0; i < PieceLength && !rest.empty(); ++i) {
-        TakeCodePoint(rest);
-    }
-    return utf8.size() - rest.size();
-}
-
-void PaintLetters(HDC dc, std::string_view utf8, Placement at, COLORREF color,
+void PaintLetters(const FontFace& face, std::string_view utf8, Placement at, COLORREF color,
                   BitmapRecord& surface) {
-    TextOutline piece;
     while (!utf8.empty()) {
-        const std::size_t size = PieceSize(utf8);
-        if (!GetTextOutline(dc, utf8.data(), static_cast<int>(size), piece)) {
-            return;
+        const char32_t codePoint = TakeCodePoint(utf8);
+        const int advance = face.Advance(codePoint);
+        const std::scoped_lock lock(FontStore::Lock());
+        if (FT_Outline_* const glyph = face.Outline(codePoint)) {
+            PaintGlyph(*glyph, at, color, surface);
         }
-        PaintShape(piece.Steps, at, color, surface);
-        at.X += piece.Advance * at.ScaleX;
-        utf8.remove_prefix(size);
+        at.X += advance * at.ScaleX;
     }
+}
+
+// A line of that middle and thickness, under or through a text, at least a pixel high.
+void PaintLine(const Placement& at, double length, double middle, double thickness, COLORREF color,
+               BitmapRecord& surface) {
+    const double top = at.Y - (middle + thickness / 2) * at.ScaleY;
+    const double bottom = top + std::max(thickness * at.ScaleY, 1.0);
+    FillPixels(surface,
+               {RoundToInt(at.X), RoundToInt(top), RoundToInt(at.X + length * at.ScaleX),
+                RoundToInt(bottom)},
+               color);
 }
 
 }  // namespace
@@ -74,19 +73,29 @@ bool PaintText(HDC dc, POINT at, std::string_view text) {
         return true;
     }
     const FontFace& face = font.Sized.Face();
-    const FaceMetrics& metrics = face.Metrics();
+    const OUTLINETEXTMETRICA& metrics = face.Metrics();
+    const TEXTMETRICA& cell = metrics.otmTextMetrics;
     const auto advance = static_cast<double>(face.Advance(text));
     const double scaleX = context.Map.ScaleX() * font.Sized.Scale();
     const double scaleY = context.Map.ScaleY() * font.Sized.Scale();
     const POINT device = context.Map.ToDevice(at);
-    const double x = device.x - ReferenceX(context.Alignment, advance) * scaleX;
-    const double y = device.y + ReferenceY(context.Alignment, metrics) * scaleY;
-    FillPixels(*surface,
-               {RoundToInt(x), RoundToInt(y - metrics.CellAscent * scaleY),
-                RoundToInt(x + advance * scaleX), RoundToInt(y + metrics.CellDescent * scaleY)},
-               context.BackColor);
-    // As UTF-8, since a piece of a text in Windows-1252 may happen to be valid UTF-8.
-    PaintLetters(dc, ToUtf8(text), {x, y, scaleX, scaleY}, context.TextColor, *surface);
+    const Placement start{device.x - ReferenceX(context.Alignment, advance) * scaleX,
+                          device.y + ReferenceY(context.Alignment, cell) * scaleY, scaleX, scaleY};
+    FillPixels(
+        *surface,
+        {RoundToInt(start.X), RoundToInt(start.Y - cell.tmAscent * scaleY),
+         RoundToInt(start.X + advance * scaleX), RoundToInt(start.Y + cell.tmDescent * scaleY)},
+        context.BackColor);
+    // As UTF-8, since only a whole text tells whether it is UTF-8.
+    PaintLetters(face, ToUtf8(text), start, context.TextColor, *surface);
+    if (font.Record->Underline) {
+        PaintLine(start, advance, metrics.otmsUnderscorePosition, metrics.otmsUnderscoreSize,
+                  context.TextColor, *surface);
+    }
+    if (font.Record->StrikeOut) {
+        PaintLine(start, advance, metrics.otmsStrikeoutPosition, metrics.otmsStrikeoutSize,
+                  context.TextColor, *surface);
+    }
     return true;
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/platform/drawing/detail/mapping.h>
 #include <marlin/platform/fonts/detail/face_metrics.h>
 
 #include <algorithm>
@@ -11,6 +12,10 @@ namespace PLATFORM::detail {
 
 namespace {
 
+constexpr unsigned char FixedPitchBit = 0;
+constexpr unsigned char VariablePitchBit = 1;
+constexpr unsigned char OutlineBits = 2 | 4;  // vector, TrueType
+
 template <typename Table>
 const Table* TableOf(FT_Face face, FT_Sfnt_Tag tag) noexcept {
     return static_cast<const Table*>(FT_Get_Sfnt_Table(face, tag));
@@ -22,75 +27,90 @@ const TT_OS2* Os2Of(FT_Face face) noexcept {
     return os2 && os2->version != 0xFFFFU ? os2 : nullptr;
 }
 
-void ReadStyle(const TT_OS2& os2, FaceMetrics& metrics) noexcept {
-    metrics.AverageWidth = os2.xAvgCharWidth;
-    metrics.Weight = os2.usWeightClass;
-    metrics.Selection = os2.fsSelection;
-    metrics.EmbeddingRights = os2.fsType;
-    std::copy_n(os2.panose, metrics.Panose.size(), metrics.Panose.begin());
+unsigned int Unsigned(int length) noexcept {
+    return static_cast<unsigned int>(length);
+}
+
+void ReadStyle(const TT_OS2& os2, OUTLINETEXTMETRICA& metrics) noexcept {
+    TEXTMETRICA& tm = metrics.otmTextMetrics;
+    tm.tmAveCharWidth = os2.xAvgCharWidth;
+    tm.tmWeight = os2.usWeightClass;
+    tm.tmItalic = static_cast<unsigned char>(os2.fsSelection & 1U);
+    metrics.otmfsSelection = os2.fsSelection;
+    metrics.otmfsType = os2.fsType;
+    std::ranges::copy(os2.panose, metrics.otmPanoseNumber.bNumbers);
     if (os2.version >= 2) {
-        metrics.CapHeight = os2.sCapHeight;
-        metrics.XHeight = os2.sxHeight;
+        metrics.otmsCapEmHeight = Unsigned(os2.sCapHeight);
+        metrics.otmsXHeight = Unsigned(os2.sxHeight);
     }
 }
 
-void ReadScripts(const TT_OS2& os2, FaceMetrics& metrics) noexcept {
-    metrics.Subscript[0] = os2.ySubscriptXSize;
-    metrics.Subscript[1] = os2.ySubscriptYSize;
-    metrics.Subscript[2] = os2.ySubscriptXOffset;
-    metrics.Subscript[3] = os2.ySubscriptYOffset;
-    metrics.Superscript[0] = os2.ySuperscriptXSize;
-    metrics.Superscript[1] = os2.ySuperscriptYSize;
-    metrics.Superscript[2] = os2.ySuperscriptXOffset;
-    metrics.Superscript[3] = os2.ySuperscriptYOffset;
-    metrics.StrikeoutSize = os2.yStrikeoutSize;
-    metrics.StrikeoutPosition = os2.yStrikeoutPosition;
+void ReadScripts(const TT_OS2& os2, OUTLINETEXTMETRICA& metrics) noexcept {
+    metrics.otmptSubscriptSize = {os2.ySubscriptXSize, os2.ySubscriptYSize};
+    metrics.otmptSubscriptOffset = {os2.ySubscriptXOffset, os2.ySubscriptYOffset};
+    metrics.otmptSuperscriptSize = {os2.ySuperscriptXSize, os2.ySuperscriptYSize};
+    metrics.otmptSuperscriptOffset = {os2.ySuperscriptXOffset, os2.ySuperscriptYOffset};
+    metrics.otmsStrikeoutSize = Unsigned(os2.yStrikeoutSize);
+    metrics.otmsStrikeoutPosition = os2.yStrikeoutPosition;
 }
 
 // Text is laid out by the cell of the OS/2 table's Windows numbers; faces made for other systems
 // lack them, and get the cell of their lines.
-void ReadCell(const TT_OS2* os2, FaceMetrics& metrics) noexcept {
-    const int windowsHeight = os2 ? os2->usWinAscent + os2->usWinDescent : 0;
-    const bool windows = windowsHeight > 0;
-    metrics.CellAscent = windows ? os2->usWinAscent : metrics.HheaAscender;
-    metrics.CellDescent = windows ? os2->usWinDescent : -metrics.HheaDescender;
-    metrics.TypoAscender = os2 ? os2->sTypoAscender : metrics.HheaAscender;
-    metrics.TypoDescender = os2 ? os2->sTypoDescender : metrics.HheaDescender;
-    metrics.TypoLineGap = os2 ? os2->sTypoLineGap : metrics.HheaLineGap;
-    const int cell = metrics.CellAscent + metrics.CellDescent;
-    const int line = metrics.HheaAscender - metrics.HheaDescender;
-    metrics.ExternalLeading = std::max(0, metrics.HheaLineGap - (cell - line));
+void ReadCell(const TT_OS2* os2, OUTLINETEXTMETRICA& metrics) noexcept {
+    const bool windows = os2 && os2->usWinAscent + os2->usWinDescent > 0;
+    TEXTMETRICA& tm = metrics.otmTextMetrics;
+    tm.tmAscent = windows ? os2->usWinAscent : metrics.otmMacAscent;
+    tm.tmDescent = windows ? os2->usWinDescent : -metrics.otmMacDescent;
+    tm.tmHeight = tm.tmAscent + tm.tmDescent;
+    metrics.otmAscent = os2 ? os2->sTypoAscender : metrics.otmMacAscent;
+    metrics.otmDescent = os2 ? os2->sTypoDescender : metrics.otmMacDescent;
+    metrics.otmLineGap = os2 ? Unsigned(os2->sTypoLineGap) : metrics.otmMacLineGap;
+    const int line = metrics.otmMacAscent - metrics.otmMacDescent;
+    const int gap = static_cast<int>(metrics.otmMacLineGap);
+    tm.tmExternalLeading = std::max(0, gap - (tm.tmHeight - line));
 }
 
-void ReadLines(FT_Face face, FaceMetrics& metrics) noexcept {
-    metrics.HheaAscender = face->ascender;
-    metrics.HheaDescender = face->descender;
-    metrics.SlopeRise = 1;
+void ReadLines(FT_Face face, OUTLINETEXTMETRICA& metrics) noexcept {
+    metrics.otmMacAscent = face->ascender;
+    metrics.otmMacDescent = face->descender;
+    metrics.otmsCharSlopeRise = 1;
     if (const auto* hhea = TableOf<TT_HoriHeader>(face, FT_SFNT_HHEA)) {
-        metrics.HheaAscender = hhea->Ascender;
-        metrics.HheaDescender = hhea->Descender;
-        metrics.HheaLineGap = hhea->Line_Gap;
-        metrics.SlopeRise = hhea->caret_Slope_Rise;
-        metrics.SlopeRun = hhea->caret_Slope_Run;
+        metrics.otmMacAscent = hhea->Ascender;
+        metrics.otmMacDescent = hhea->Descender;
+        metrics.otmMacLineGap = Unsigned(hhea->Line_Gap);
+        metrics.otmsCharSlopeRise = hhea->caret_Slope_Rise;
+        metrics.otmsCharSlopeRun = hhea->caret_Slope_Run;
     }
     if (const auto* post = TableOf<TT_Postscript>(face, FT_SFNT_POST)) {
         // 16.16 fixed point.
-        metrics.ItalicAngle = static_cast<int>(post->italicAngle * 10 / 65536);
+        metrics.otmItalicAngle = static_cast<int>(post->italicAngle * 10 / 65536);
     }
+}
+
+void ReadFace(FT_Face face, OUTLINETEXTMETRICA& metrics) noexcept {
+    metrics.otmSize = sizeof metrics;
+    metrics.otmEMSquare = face->units_per_EM;
+    metrics.otmsUnderscoreSize = face->underline_thickness;
+    metrics.otmsUnderscorePosition = face->underline_position;
+    metrics.otmrcFontBox = {static_cast<int>(face->bbox.xMin), static_cast<int>(face->bbox.yMax),
+                            static_cast<int>(face->bbox.xMax), static_cast<int>(face->bbox.yMin)};
+    TEXTMETRICA& tm = metrics.otmTextMetrics;
+    tm.tmMaxCharWidth = face->max_advance_width;
+    tm.tmDigitizedAspectX = DotsPerInch;
+    tm.tmDigitizedAspectY = DotsPerInch;
+    // Every byte of the code page can be measured, whatever the face has glyphs for.
+    tm.tmFirstChar = 32;
+    tm.tmLastChar = 255;
+    tm.tmDefaultChar = 31;
+    tm.tmBreakChar = 32;
+    tm.tmPitchAndFamily = static_cast<unsigned char>(
+        (FT_IS_FIXED_WIDTH(face) ? FixedPitchBit : VariablePitchBit) | OutlineBits);
 }
 
 }  // namespace
 
-bool ReadMetrics(FT_FaceRec_* face, FaceMetrics& metrics) noexcept {
-    metrics.UnitsPerEm = face->units_per_EM;
-    metrics.MaxWidth = face->max_advance_width;
-    metrics.UnderlineSize = face->underline_thickness;
-    metrics.UnderlinePosition = face->underline_position;
-    metrics.FixedPitch = FT_IS_FIXED_WIDTH(face);
-    const FT_BBox& box = face->bbox;
-    const FT_Pos sides[4] = {box.xMin, box.yMax, box.xMax, box.yMin};
-    std::transform(std::begin(sides), std::end(sides), metrics.Box,
-                   [](FT_Pos side) { return static_cast<int>(side); });
+bool ReadMetrics(FT_FaceRec_* face, OUTLINETEXTMETRICA& metrics) noexcept {
+    ReadFace(face, metrics);
     ReadLines(face, metrics);
     const TT_OS2* os2 = Os2Of(face);
     if (os2) {
@@ -98,7 +118,7 @@ bool ReadMetrics(FT_FaceRec_* face, FaceMetrics& metrics) noexcept {
         ReadScripts(*os2, metrics);
     }
     ReadCell(os2, metrics);
-    return metrics.CellAscent + metrics.CellDescent > 0;
+    return metrics.otmTextMetrics.tmHeight > 0;
 }
 
 }  // namespace PLATFORM::detail

@@ -120,7 +120,7 @@ long long FontFace::Advance(std::string_view text) const noexcept {
     return sum;
 }
 
-const FT_Outline_* FontFace::Outline(char32_t codePoint) const noexcept {
+FT_Outline_* FontFace::Outline(char32_t codePoint) const noexcept {
     FT_Face face = m_Face.get();
     const bool loaded = FT_Load_Glyph(face, GlyphOf(codePoint), FT_LOAD_NO_SCALE) == 0;
     return loaded && face->glyph->format == FT_GLYPH_FORMAT_OUTLINE ? &face->glyph->outline

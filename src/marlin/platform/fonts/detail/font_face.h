@@ -41,14 +41,15 @@ public:
     FontFace& operator=(const FontFace&) = delete;
     ~FontFace() = default;
 
-    [[nodiscard]] const FaceMetrics& Metrics() const noexcept { return m_Metrics; }
+    /// All lengths are in design units.
+    [[nodiscard]] const OUTLINETEXTMETRICA& Metrics() const noexcept { return m_Metrics; }
     /// The sum of the advances of the text's characters, in design units.
     [[nodiscard]] long long Advance(std::string_view text) const noexcept;
     [[nodiscard]] int Advance(char32_t codePoint) const noexcept;
 
-    /// The outline of a character's glyph in design units, good until the next call; null for a
-    /// glyph that cannot be read.
-    [[nodiscard]] const FT_Outline_* Outline(char32_t codePoint) const noexcept;
+    /// The outline of a character's glyph in design units, the caller's until the next call; null
+    /// for a glyph that cannot be read.
+    [[nodiscard]] FT_Outline_* Outline(char32_t codePoint) const noexcept;
 
 private:
     struct Closer {
@@ -61,7 +62,7 @@ private:
 
     FontBytes m_Bytes;
     std::unique_ptr<FT_FaceRec_, Closer> m_Face;  // reads the bytes as long as it lives
-    FaceMetrics m_Metrics;
+    OUTLINETEXTMETRICA m_Metrics;
     std::array<int, 256> m_Advances{};  // of the bytes of Windows-1252
 };
 

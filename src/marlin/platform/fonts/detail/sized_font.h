@@ -3,7 +3,6 @@
 
 #include <marlin/platform/drawing/size.h>
 #include <marlin/platform/fonts/detail/font_face.h>
-#include <marlin/platform/fonts/font_types.h>
 
 #include <string_view>
 
@@ -34,9 +33,8 @@ public:
 
 private:
     [[nodiscard]] int Round(double designUnits) const noexcept;
-    [[nodiscard]] TEXTMETRICA CellMetrics() const noexcept;
-    void SetLines(OUTLINETEXTMETRICA& otm) const noexcept;
-    void SetMarks(OUTLINETEXTMETRICA& otm) const noexcept;
+    template <typename... Lengths>
+    void Scale(Lengths&... lengths) const noexcept;
 
     const FontFace* m_Face = nullptr;
     double m_Logical = 0;

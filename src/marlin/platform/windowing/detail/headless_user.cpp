@@ -116,7 +116,10 @@ bool HeadlessUser::PressEnter(const HeadlessControl* focus) {
     if (focus && focus->Is(CONTROL::REPORT_LIST) && SendKey(focus->Window, VK_RETURN)) {
         return true;
     }
-    return focus && focus->IsButton() && focus->IsEnabled ? Push(*focus) : PushDefault();
+    // It does so also while an owner-drawn button has the focus; the others click themselves.
+    const bool clicksItself =
+        focus && focus->IsEnabled && focus->IsButton() && !focus->Is(CONTROL::OWNER_BUTTON);
+    return clicksItself ? Push(*focus) : PushDefault();
 }
 
 bool HeadlessUser::PressInList(HeadlessControl& list, int key) {

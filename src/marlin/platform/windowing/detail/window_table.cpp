@@ -118,12 +118,6 @@ MessageTarget WindowTable::Target(HWND window) {
     return record ? MessageTarget{WrapperOf(*record, window), record->Queue} : MessageTarget();
 }
 
-CWnd* WindowTable::Attached(HWND window) {
-    const std::scoped_lock lock(m_Lock);
-    const Record* const record = Find(window);
-    return record ? record->Attached : nullptr;
-}
-
 CWnd* WindowTable::WrapperOf(Record& record, HWND window) {
     if (record.Attached) {
         return record.Attached;

@@ -48,7 +48,6 @@ public:
     [[nodiscard]] HWND Child(HWND parent, int id);
     [[nodiscard]] MessageTarget Target(HWND window);
 
-    [[nodiscard]] CWnd* Attached(HWND window);
     /// The attached object, or one made up for the window.
     [[nodiscard]] CWnd* Wrapper(HWND window);
     bool Attach(HWND window, CWnd* wrapper);

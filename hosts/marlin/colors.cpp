@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "families.h"
-#include "input/color_argument.h"
 #include "input/color_source.h"
 #include "input/files.h"
 #include "input/level.h"
-#include "output/color_text.h"
 #include "output/json.h"
 #include "output/table.h"
 #include <marlin/base/files/file_object.h>
+#include <marlin/color/color_text.h>
 #include <marlin/color/dxf_color.h>
 #include <marlin/settings/ini_file.h>
 
 namespace HOST {
+
+using MARLINSUITE::ColorForms;
+using MARLINSUITE::ColorText;
+using MARLINSUITE::ParseColor;
 
 namespace {
 

@@ -33,6 +33,7 @@
 #include <marlin/base/start_up.h>
 #include <marlin/base/text_functions.h>
 #include <marlin/base/version_gate.h>
+#include <marlin/color/color_text.h>
 #include <marlin/color/dxf_color.h>
 #include <marlin/color/dxf_color_table.h>
 #include <marlin/color/hsv_color.h>
@@ -111,6 +112,7 @@
 #include <marlin/platform/windowing/c_file_dialog.h>
 #include <marlin/platform/windowing/c_image_list.h>
 #include <marlin/platform/windowing/c_list_ctrl.h>
+#include <marlin/platform/windowing/c_menu.h>
 #include <marlin/platform/windowing/c_spin_button_ctrl.h>
 #include <marlin/platform/windowing/c_wnd.h>
 #include <marlin/platform/windowing/dialog_template.h>

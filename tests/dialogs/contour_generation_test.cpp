@@ -75,7 +75,8 @@ TEST_P(ContourGenerationTest, RefusesWordsAndStaysOpen) {
             screen.User.Type(CONTROL_LOWEST_LEVEL, text);
             screen.User.Click(IDOK);
             EXPECT_EQ(Messages().size(), before + 1) << text;
-            EXPECT_EQ(Messages().back(), "Generate Contours: Please enter a number.");
+            EXPECT_TRUE(Messages().back().starts_with("Generate Contours: Lowers level: ")) << text;
+            EXPECT_EQ(Messages().back().ends_with("use a point"), std::string(text) == "1,5");
             EXPECT_TRUE(screen.HasFocus(CONTROL_LOWEST_LEVEL));
         }
         screen.User.Type(CONTROL_LOWEST_LEVEL, "+3");

@@ -3,6 +3,7 @@
 
 #include "stage.h"
 #include <marlin/platform/windowing/c_wnd.h>
+#include <marlin/platform/windowing/user_events.h>
 #include <marlin/resources/dialogs.h>
 
 #include <string>
@@ -35,15 +36,19 @@ public:
         Texts rows = Column(0);
         for (int row = 0; row < List().RowCount(); ++row) {
             for (int column = 1; column < List().ColumnCount(); ++column) {
-                rows[static_cast<size_t>(row)] += "|" + std::string(List().Cell(row, column));
+                rows[static_cast<size_t>(row)] += "|" + Cell(row, column);
             }
         }
         return rows;
     }
+    [[nodiscard]] std::string Cell(int row, int column) const {
+        const HWND list = Window(CONTROL_CONTOUR_LIST);
+        return std::string(PLATFORM::AskCell(list, row, column).Text);
+    }
     [[nodiscard]] Texts Column(int column) const {
         Texts cells;
         for (int row = 0; row < List().RowCount(); ++row) {
-            cells.emplace_back(List().Cell(row, column));
+            cells.push_back(Cell(row, column));
         }
         return cells;
     }

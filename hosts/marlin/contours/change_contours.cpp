@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "contour_file.h"
 #include "families.h"
-#include "input/color_argument.h"
 #include "input/level.h"
+#include <marlin/color/color_text.h>
 #include <marlin/core/ascii.h>
 #include <marlin/core/number_text.h>
 
@@ -11,6 +11,9 @@
 #include <string_view>
 
 namespace HOST {
+
+using MARLINSUITE::ColorForms;
+using MARLINSUITE::ParseColor;
 
 namespace {
 

@@ -4,12 +4,10 @@
 #include "input/files.h"
 #include "input/ignoring_case.h"
 #include "input/level.h"
-#include <marlin/core/ascii.h>
 
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
-#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -17,31 +15,26 @@ namespace HOST {
 
 namespace {
 
-bool IsContourName(std::string_view name) {
-    constexpr std::string_view start = "Contour(";
-    return MARLINSUITE::EqualIgnoringCase(name.substr(0, start.size()), start);
+ContourDefinitionList ListIn(const SettingsSource& source) {
+    ContourDefinitionList list;
+    const ErrorString taken = list.Open(source.File());
+    if (!taken.Empty()) {
+        Fail(source.Path() + ": " + taken.Text());
+    }
+    return list;
 }
 
-// By number, without a gap.
-std::vector<int> PositionsOf(const SettingsSource& source) {
+// By number.
+std::vector<int> PositionsOf(const IniFile& file) {
     ByName<int> sections;
-    for (int i = 0; i < source.File().NumSections(); ++i) {
-        if (const std::string& name = *source.File()[i].GetName(); IsContourName(name)) {
-            sections.emplace(name, i);
-        }
+    for (int i = 0; i < file.NumSections(); ++i) {
+        sections.emplace(*file[i].GetName(), i);
     }
     std::vector<int> positions;
     std::string name = ContourDefinitionList::SectionName(0);
     for (auto found = sections.find(name); found != sections.end(); found = sections.find(name)) {
         positions.push_back(found->second);
         name = ContourDefinitionList::SectionName(static_cast<int>(positions.size()));
-    }
-    if (positions.empty()) {
-        Fail(source.Path() + ": no section [" + name + "]: not a contour definition file");
-    }
-    if (positions.size() != sections.size()) {
-        Fail(source.Path() + ": no section [" + name +
-             "], but others of higher numbers, which are not read");
     }
     return positions;
 }
@@ -58,21 +51,6 @@ private:
     Contour m_Contour;
     int m_PaletteIndex = 0;
 };
-
-std::vector<Contour> ContoursAt(const std::vector<int>& positions, const IniFile& file) {
-    Reading reading;
-    std::vector<Contour> contours;
-    contours.reserve(positions.size());
-    for (const int position : positions) {
-        contours.push_back(reading.Next(file[position]));
-    }
-    return contours;
-}
-
-bool AreSame(const Contour& a, const Contour& b) {
-    return a.Level == b.Level && a.Color == b.Color && a.LineType == b.LineType &&
-           a.LineWidth == b.LineWidth && a.Annotate == b.Annotate;
-}
 
 // Numbers are compared to six decimals, with which they would be written.
 bool IsSameValue(const std::string& text, const std::string& other) {
@@ -96,10 +74,10 @@ void Write(const Contour& contour, Section& section) {
 
 }  // namespace
 
-std::vector<Contour> ReadContours(const std::string& path) {
+ContourDefinitionList ReadContours(const std::string& path) {
     SettingsSource source;
     Require(source.OpenWithSections(path));
-    return ContoursAt(PositionsOf(source), source.File());
+    return ListIn(source);
 }
 
 ContourFile::ContourFile(std::string path, MISSING missing) : m_Path(std::move(path)) {
@@ -115,12 +93,12 @@ ContourFile::ContourFile(std::string path, MISSING missing) : m_Path(std::move(p
 }
 
 void ContourFile::TakeItems() {
-    m_Positions = PositionsOf(m_Source);
-    const std::vector<Contour> contours = ContoursAt(m_Positions, m_Source.File());
-    for (std::size_t i = 0; i < contours.size(); ++i) {
-        const auto position = static_cast<std::size_t>(m_Positions[i]);
-        m_Items.push_back({StoredLevel(contours[i].Level), contours[i],
-                           m_Source.File()[m_Positions[i]], m_Source.Text().Blocks()[position]});
+    const ContourDefinitionList list = ListIn(m_Source);
+    m_Positions = PositionsOf(m_Source.File());
+    for (int i = 0; i < list.NumContours(); ++i) {
+        const int position = m_Positions[static_cast<std::size_t>(i)];
+        m_Items.push_back({StoredLevel(list[i].Level), list[i], m_Source.File()[position],
+                           m_Source.Text().Blocks()[static_cast<std::size_t>(position)]});
     }
     std::ranges::stable_sort(m_Items, {}, &Item::Level);
     const auto twice = std::ranges::adjacent_find(m_Items, {}, &Item::Level);
@@ -167,7 +145,7 @@ void ContourFile::Save(Output& output) {
     for (std::size_t i = 0; i < m_Items.size(); ++i) {
         Section& section = m_Items[i].Keys;
         section.SetName(ContourDefinitionList::SectionName(static_cast<int>(i)));
-        if (section.NumKeys() == 0 || !AreSame(reading.Next(section), m_Items[i].Definition)) {
+        if (section.NumKeys() == 0 || reading.Next(section) != m_Items[i].Definition) {
             const bool wasSealed = IsSealed(section);
             Write(m_Items[i].Definition, section);
             reading.Next(section);

@@ -13,7 +13,7 @@ using Contour = ContourDefinitionList::ContourDefInfo;
 
 /// Reads the definitions of a contour file, in the order of their numbers. Fails for a file that
 /// holds none, or one that readers would not reach because a number before it is missing.
-[[nodiscard]] std::vector<Contour> ReadContours(const std::string& path);
+[[nodiscard]] ContourDefinitionList ReadContours(const std::string& path);
 
 /// A contour definition file that is changed definition by definition. All other bytes stay.
 /// Definitions are kept in ascending order of level, no level twice.

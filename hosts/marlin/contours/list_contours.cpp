@@ -2,19 +2,22 @@
 #include "contour_file.h"
 #include "families.h"
 #include "input/level.h"
-#include "output/color_text.h"
 #include "output/json.h"
 #include "output/table.h"
+#include <marlin/color/color_text.h>
 #include <marlin/color/dxf_color.h>
 
 namespace HOST {
 
+using MARLINSUITE::ColorText;
+
 namespace {
 
-void AppendTable(const std::vector<Contour>& contours, Output& output) {
+void AppendTable(const ContourDefinitionList& contours, Output& output) {
     Table table{{"Level", Table::RIGHT}, {"Color"}, {"DXF", Table::RIGHT}, {"Line type"},
                 {"Width", Table::RIGHT}, {"Labels"}};
-    for (const Contour& contour : contours) {
+    for (int i = 0; i < contours.NumContours(); ++i) {
+        const Contour& contour = contours[i];
         table << LevelText(contour.Level) << RGBColor(contour.Color)
               << DXFColor(contour.Color).Index()
               << ContourDefinitionList::LINESTYLES[contour.LineType]
@@ -23,9 +26,10 @@ void AppendTable(const std::vector<Contour>& contours, Output& output) {
     table.AppendTo(output);
 }
 
-Json JsonOf(const std::vector<Contour>& contours) {
+Json JsonOf(const ContourDefinitionList& contours) {
     Json list = Json::array();
-    for (const Contour& contour : contours) {
+    for (int i = 0; i < contours.NumContours(); ++i) {
+        const Contour& contour = contours[i];
         list.push_back({{"level", JsonNumber(contour.Level)},
                         {"color", ColorText(RGBColor(contour.Color))},
                         {"dxf", DXFColor(contour.Color).Index()},
@@ -46,7 +50,7 @@ struct ListContours {
     }
 
     int Run(Output& output) const {
-        const std::vector<Contour> contours = ReadContours(File);
+        const ContourDefinitionList contours = ReadContours(File);
         if (IsJson) {
             AppendJson({{"file", AsUtf8(File)}, {"contours", JsonOf(contours)}}, output);
         } else {

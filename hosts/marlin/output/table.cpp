@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "table.h"
 
-#include "color_text.h"
+#include "swatch.h"
+#include <marlin/color/color_text.h>
 
 #include <algorithm>
 #include <string_view>
 #include <utility>
 
 namespace HOST {
+
+using MARLINSUITE::ColorText;
 
 namespace {
 

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "families.h"
 #include "input/settings_source.h"
-#include "output/color_text.h"
 #include "output/json.h"
 #include "output/table.h"
 #include "section_records.h"
+#include <marlin/color/color_text.h>
 
 namespace HOST {
+
+using MARLINSUITE::ColorText;
 
 namespace {
 

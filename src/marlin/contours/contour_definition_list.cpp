@@ -139,6 +139,10 @@ void ContourDefinitionList::Swap(ContourDefinitionList& other) noexcept {
     std::swap(m_IsAscending, other.m_IsAscending);
 }
 
+void ContourDefinitionList::NoteOrder() noexcept {
+    m_IsAscending = std::ranges::is_sorted(Begin(), m_Storage.end(), {}, &ContourDefInfo::Level);
+}
+
 void ContourDefinitionList::Insert(int index, const ContourDefInfo& def) {
     const ContourDefInfo inserted = def;  // it may be one of this list, which moves
     if (index > NumContours() / 2) {
@@ -197,6 +201,14 @@ bool ContourDefinitionList::Remove(int index) {
     return true;
 }
 
+void ContourDefinitionList::Replace(int index, int count,
+                                    std::span<const ContourDefInfo> definitions) {
+    assert(index >= 0 && count >= 0 && index + count <= NumContours());
+    const auto place = m_Storage.erase(Begin() + index, Begin() + index + count);
+    m_Storage.insert(place, definitions.begin(), definitions.end());
+    NoteOrder();
+}
+
 bool ContourDefinitionList::Generate(double lowest, double highest, double interval) {
     *this = ContourDefinitionList();
     if (!(lowest < highest) || !(interval > 0.0) || !std::isfinite(lowest) ||
@@ -229,6 +241,29 @@ bool ContourDefinitionList::Generate(const ColorTable& table, bool invert) {
     return NumContours() != 0;
 }
 
+ErrorString ContourDefinitionList::Open(const std::string& path) {
+    IniFile file;
+    if (const ErrorString read = file.Open(path); !read.Empty()) {
+        return read;
+    }
+    const ErrorString taken = Open(file);
+    return taken.Empty() ? taken : ErrorString(path + ": " + taken.Text());
+}
+
+ErrorString ContourDefinitionList::Open(const IniFile& file) {
+    std::vector<ContourDefInfo> definitions = DefinitionsIn(file);
+    if (definitions.empty() || definitions.size() != NumContourSections(file)) {
+        return ErrorString(
+            "no section [" + SectionName(static_cast<int>(definitions.size())) + "]" +
+            (definitions.empty() ? ": not a contour definition file"
+                                 : ", but others of higher numbers, which are not read"));
+    }
+    m_Storage = std::move(definitions);
+    m_First = 0;
+    NoteOrder();
+    return {};
+}
+
 bool ContourDefinitionList::Load(const char* path) {
     if (!path || !*path) {
         return false;
@@ -242,15 +277,7 @@ bool ContourDefinitionList::Load(const char* path) {
     if (file.Empty() || error.Text().starts_with(failure)) {
         return false;
     }
-    NumberedSections sections(file.Sections());
-    ContourDefInfo definition;
-    int paletteIndex = 0;
-    int number = 0;
-    while (const Section* const section = sections.Find(number++)) {
-        definition.Read(*section, paletteIndex);
-        m_Storage.push_back(definition);
-    }
-    m_IsAscending = std::ranges::is_sorted(Begin(), m_Storage.end(), {}, &ContourDefInfo::Level);
+    Replace(NumContours(), 0, DefinitionsIn(file));
     return NumContours() != 0;
 }
 

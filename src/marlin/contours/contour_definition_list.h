@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/base/error_string.h>
 #include <marlin/core/export.h>
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <vector>
 
 class ColorTable;
+class IniFile;
 class Section;
 
 /// The contours to draw, one definition a level. `Add` and `Set` keep them in ascending order of
@@ -44,6 +47,8 @@ public:
         /// Sets six keys, in the place of keys of those names. A line type that is none of the
         /// three is written as continuous. True.
         bool Write(Section& section) const;
+
+        bool operator==(const ContourDefInfo& other) const noexcept = default;
     };
 
     /// The line types as files name them: continuous, dashed, dotted.
@@ -84,6 +89,9 @@ public:
     int Set(int index, const ContourDefInfo& def);
     /// False, and nothing changed, for an index outside the list.
     bool Remove(int index);
+    /// Puts definitions in the place of `count` others from `index` on, in the order given and
+    /// whatever their levels. All that is replaced must be in the list.
+    void Replace(int index, int count, std::span<const ContourDefInfo> definitions);
 
     /// Replaces the list by black, unlabelled contours at the multiples of the interval from
     /// `lowest` to `highest`, both included, built by repeated addition from the first. True,
@@ -95,6 +103,13 @@ public:
     /// which the whole 32-bit color word is subtracted, modulo 2^32. False, and the list empty,
     /// for a table without entries.
     bool Generate(const ColorTable& table, bool invert);
+
+    /// Replaces the list by the definitions of a contour definition file, provided that it reads
+    /// all that the file holds. Otherwise says why not, and the list is unchanged: the file cannot
+    /// be read, or it lacks a section [Contour(n)] of those from 0 to the highest.
+    ErrorString Open(const std::string& path);
+    /// The same from the sections of a file, whose name is not in the message.
+    ErrorString Open(const IniFile& file);
 
     /// Appends the definitions of a contour definition file (docs/formats/
     /// contour_definitions.md), in the order of their numbers and whatever their levels. False,
@@ -117,6 +132,7 @@ private:
     }
     [[nodiscard]] int LowerBound(double level) const noexcept;
     void Insert(int index, const ContourDefInfo& def);
+    void NoteOrder() noexcept;
 
     // The definitions begin at m_First. The room before them lets an insertion move the shorter
     // side alone: additions at random take 0.6 times as long as in a flat map, of which 1.0 is

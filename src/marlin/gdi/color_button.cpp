@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <marlin/color/color_text.h>
 #include <marlin/gdi/color_button.h>
 #include <marlin/platform/drawing/c_brush.h>
 #include <marlin/platform/drawing/c_dc.h>
 #include <marlin/platform/fonts/fonts.h>
 #include <marlin/platform/windowing/c_color_dialog.h>
+#include <marlin/platform/windowing/window_system.h>
 
 BEGIN_MESSAGE_MAP(ColorButton, CButton)
 ON_CONTROL_REFLECT(BN_CLICKED, OnClicked)
@@ -41,6 +43,25 @@ void ColorButton::DrawItem(DRAWITEMSTRUCT* draw) {
     CString caption;
     GetWindowText(caption);
     DrawCaption(*dc, draw->rcItem, caption);
+    // Who cannot see the face hears it.
+    PLATFORM::WindowSystem::Current().Describe(
+        m_hWnd, CString("Color " + MARLINSUITE::ColorText(RGBColor(m_Color))));
+}
+
+BOOL ColorButton::PreTranslateMessage(const MSG* message) {
+    PLATFORM::WindowSystem& system = PLATFORM::WindowSystem::Current();
+    const bool isHeld =
+        message->message == WM_KEYDOWN && GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_SHIFT) >= 0;
+    if (!isHeld || (message->wParam != 'C' && message->wParam != 'V')) {
+        return CButton::PreTranslateMessage(message);
+    }
+    if (message->wParam == 'C') {
+        system.SetClipboardText(CString(MARLINSUITE::ColorText(RGBColor(m_Color))));
+    } else if (const auto color = MARLINSUITE::ParseColor(system.ClipboardText().Trim().View())) {
+        m_Color = *color;
+        InvalidateRect(nullptr, true);
+    }
+    return 1;
 }
 
 void ColorButton::OnClicked() {

@@ -30,6 +30,10 @@ public:
     /// Does what a click does.
     void ForceColorChange() { OnClicked(); }
 
+    /// With Control, C copies the color as "#rrggbb" and V takes one that `MARLINSUITE::ParseColor`
+    /// understands; another text changes nothing.
+    BOOL PreTranslateMessage(const MSG* message) override;
+
     /// Draws the button when all of it is to be drawn: the focus and a press show nothing.
     void DrawItem(DRAWITEMSTRUCT* draw) override;
 

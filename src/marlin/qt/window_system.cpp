@@ -4,6 +4,7 @@
 #include <marlin/qt/detail/dialog_window.h>
 #include <marlin/qt/detail/drop_down_widget.h>
 #include <marlin/qt/detail/form_layout.h>
+#include <marlin/qt/detail/key_filter.h>
 #include <marlin/qt/detail/list_widget.h>
 #include <marlin/qt/detail/make.h>
 #include <marlin/qt/detail/owner_button.h>
@@ -12,7 +13,9 @@
 #include <marlin/qt/detail/widgets.h>
 #include <marlin/qt/window_system.h>
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QWindow>
@@ -52,6 +55,14 @@ QWidget* QtWindowSystem::Widget(HWND window) const noexcept {
     return found == m_State->Widgets.end() ? nullptr : found->second;
 }
 
+void QtWindowSystem::SetWidget(HWND window, QWidget* widget) {
+    if (widget) {
+        m_State->Widgets[window] = widget;
+    } else {
+        m_State->Widgets.erase(window);
+    }
+}
+
 template <typename Kind>
 Kind* QtWindowSystem::Find(HWND window) const noexcept {
     return dynamic_cast<Kind*>(Widget(window));
@@ -64,8 +75,10 @@ bool QtWindowSystem::CreateDialog(HWND dialog, const DialogTemplate& form,
     const std::vector<QWidget*> widgets = MakeWidgets(form, controls, *window);
     LayOut(form, widgets, *window);
     PutAbove(*window, Widget(parent));
+    window->KeepSize(m_SizesPath, form.Id);
     for (std::size_t i = 0; i < controls.size(); ++i) {
         m_State->Widgets[controls[i]] = widgets[i];
+        widgets[i]->installEventFilter(Make<KeyFilter>(controls[i], widgets[i]));
     }
     m_State->Widgets[dialog] = window.get();
     m_State->Dialogs[dialog] = std::move(window);
@@ -160,6 +173,18 @@ void QtWindowSystem::Invalidate(HWND control) {
     }
 }
 
+void QtWindowSystem::Describe(HWND control, const CString& text) {
+    if (QWidget* const widget = Widget(control)) {
+        widget->setAccessibleDescription(QtText(text.View()));
+        widget->setToolTip(widget->accessibleDescription());
+    }
+}
+
+CString QtWindowSystem::Description(HWND control) const {
+    const QWidget* const widget = Widget(control);
+    return widget ? TextOf(widget->accessibleDescription()) : CString();
+}
+
 bool QtWindowSystem::IsChecked(HWND box) const {
     const auto* const found = Find<QCheckBox>(box);
     return found && found->isChecked();
@@ -189,6 +214,18 @@ int QtWindowSystem::ShowMessage(HWND parent, const MessageRequest& request) {
     return detail::ShowMessage(Widget(parent), request);
 }
 
+int QtWindowSystem::ShowMenu(HWND parent, const MenuRequest& request) {
+    return detail::ShowMenu(Widget(parent), request);
+}
+
+CString QtWindowSystem::ClipboardText() const {
+    return TextOf(QApplication::clipboard()->text());
+}
+
+void QtWindowSystem::SetClipboardText(const CString& text) {
+    QApplication::clipboard()->setText(QtText(text.View()));
+}
+
 bool QtWindowSystem::ChooseFile(HWND parent, const FileRequest& request, CString& path) {
     return detail::ChooseFile(Widget(parent), request, path);
 }
@@ -204,6 +241,9 @@ bool MARLINSUITE::UseQtWindows() {
         return false;
     }
     static auto* const windows = PLATFORM::detail::MakeForever<PLATFORM::QtWindowSystem>();
+    // Messages that are posted from any thread are handled by the loop of Qt.
+    PLATFORM::WakeWhenPosted(
+        [] { QMetaObject::invokeMethod(qApp, PLATFORM::DispatchWaiting, Qt::QueuedConnection); });
     PLATFORM::WindowSystem::SetCurrent(windows);
     return true;
 }

@@ -5,6 +5,7 @@
 #include <marlin/platform/windowing/window_system.h>
 
 #include <memory>
+#include <string>
 
 class QWidget;
 
@@ -21,6 +22,11 @@ public:
 
     /// The widget of a dialog or a control, or null. Owned by the window system.
     [[nodiscard]] QWidget* Widget(HWND window) const noexcept;
+    /// Lets a host's own widget stand for a window, which `CWnd::Create` has made: dialogs with
+    /// that parent are shown above it. Null takes it back, before the widget goes.
+    void SetWidget(HWND window, QWidget* widget);
+    /// Keeps the sizes of dialogs in a settings file, so that each opens as the user left it.
+    void KeepSizesIn(const std::string& path) { m_SizesPath = path; }
 
     bool CreateDialog(HWND dialog, const DialogTemplate& form, std::span<const HWND> controls,
                       HWND parent) override;
@@ -36,6 +42,9 @@ public:
     [[nodiscard]] HWND Focus(HWND dialog) const override;
     void Invalidate(HWND control) override;
 
+    void Describe(HWND control, const CString& text) override;
+    [[nodiscard]] CString Description(HWND control) const override;
+
     [[nodiscard]] bool IsChecked(HWND box) const override;
     void SetChecked(HWND box, bool checked) override;
     void SetRange(HWND spin, const SpinRange& range) override;
@@ -43,8 +52,12 @@ public:
     [[nodiscard]] ReportList* FindList(HWND window) const override;
 
     int ShowMessage(HWND parent, const MessageRequest& request) override;
+    int ShowMenu(HWND parent, const MenuRequest& request) override;
     bool ChooseFile(HWND parent, const FileRequest& request, CString& path) override;
     bool ChooseColor(HWND parent, const ColorRequest& request, COLORREF& color) override;
+
+    [[nodiscard]] CString ClipboardText() const override;
+    void SetClipboardText(const CString& text) override;
 
 private:
     struct State;
@@ -53,6 +66,7 @@ private:
     [[nodiscard]] Kind* Find(HWND window) const noexcept;
 
     std::unique_ptr<State> m_State;
+    std::string m_SizesPath;
 };
 
 }  // namespace PLATFORM
@@ -60,8 +74,10 @@ private:
 namespace MARLINSUITE {
 
 /// Shows all dialogs from now on in windows of Qt. A host without a `QApplication` gets one, which
-/// lives until the process ends. False, and nothing changed, without a display to show windows on:
-/// one that $QT_QPA_PLATFORM names, or else a Wayland or an X server that can be reached.
+/// lives until the process ends, keeps the process's locale as it was, and drops the toolkit's own
+/// notes. False, and nothing changed, without a display to show windows on: the first of those that
+/// $QT_QPA_PLATFORM names, or else a Wayland or an X server, that has its plug-in and can be
+/// reached. `ErrorString::LastError()` then says why.
 /// @code
 /// // not run: takes over the dialogs of the whole process
 /// if (MARLINSUITE::UseQtWindows()) {

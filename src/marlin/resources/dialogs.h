@@ -29,6 +29,19 @@ enum CONTROL_ID : int {
     CONTROL_LEVEL = 9036,            ///< edit of a contour
 };
 
+/// The numbers of the commands of the contour editor's menu that are not those of its buttons.
+enum COMMAND_ID : int {
+    COMMAND_UNDO = 9041,
+    COMMAND_REDO = 9042,
+    COMMAND_EDIT_LEVEL = 9043,
+    COMMAND_DUPLICATE = 9044,
+    COMMAND_INSERT_BETWEEN = 9045,
+    COMMAND_COPY_COLOR = 9046,
+    COMMAND_PASTE_COLOR = 9047,
+    COMMAND_RECOLOR = 9048,
+    COMMAND_SELECT_ALL = 9049,
+};
+
 /// Hands the dialog templates over to the platform.
 void LoadDialogs() noexcept;
 

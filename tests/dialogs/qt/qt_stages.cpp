@@ -26,13 +26,15 @@ public:
         return {size.width(), size.height()};
     }
     COLORREF SwatchPixel(HWND list, int row, int x, int y) override {
-        const QIcon icon = List(list).topLevelItem(row)->icon(0);
-        const QColor color = icon.pixmap(16, 16).toImage().pixelColor(x, y);
+        const auto& shown = List(list);
+        const QModelIndex cell = shown.model()->index(row, 0);
+        const QVariant icon = shown.model()->data(cell, Qt::DecorationRole);
+        const QColor color = icon.value<QIcon>().pixmap(16, 16).toImage().pixelColor(x, y);
         return color.alpha() == 0 ? CLR_INVALID : PLATFORM::detail::ColorOf(color);
     }
     bool IsInView(HWND list, int row) override {
         const auto& shown = List(list);
-        return shown.viewport()->rect().intersects(shown.visualItemRect(shown.topLevelItem(row)));
+        return shown.viewport()->rect().intersects(shown.visualRect(shown.model()->index(row, 0)));
     }
 
 private:

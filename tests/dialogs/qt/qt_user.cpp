@@ -8,10 +8,11 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QTest>
 #include <QToolButton>
-#include <QTreeWidget>
+#include <QTreeView>
 #include <algorithm>
 #include <map>
 
@@ -22,16 +23,18 @@ Qt::Key KeyOf(int key) {
         {VK_RETURN, Qt::Key_Return}, {VK_ESCAPE, Qt::Key_Escape}, {VK_UP, Qt::Key_Up},
         {VK_DOWN, Qt::Key_Down},     {VK_INSERT, Qt::Key_Insert}, {VK_DELETE, Qt::Key_Delete},
         {VK_F1, Qt::Key_F1},         {VK_F2, Qt::Key_F2}};
-    return keys.at(key);
+    const auto found = keys.find(key);
+    // Letters have the same numbers in both.
+    return found == keys.end() ? static_cast<Qt::Key>(key) : found->second;
 }
 
-QPoint PlaceOf(QTreeWidget& list, int row) {
-    QTreeWidgetItem* const item = list.topLevelItem(row);
-    list.scrollToItem(item);
-    return list.visualItemRect(item).center();
+QPoint PlaceOf(QTreeView& list, int row) {
+    const QModelIndex place = list.model()->index(row, 0);
+    list.scrollTo(place);
+    return list.visualRect(place).center();
 }
 
-QPoint EmptyPlace(const QTreeWidget& list) {
+QPoint EmptyPlace(const QTreeView& list) {
     return list.viewport()->rect().bottomRight() - QPoint(2, 2);
 }
 
@@ -63,14 +66,20 @@ bool QtUser::Click(int control) {
 }
 
 bool QtUser::Type(int edit, const CString& text) {
-    auto* const found = Reach<QLineEdit>(edit);
+    auto* const list = Reach<QTreeView>(edit);
+    auto* const found =
+        list ? qobject_cast<QLineEdit*>(list->window()->focusWidget()) : Reach<QLineEdit>(edit);
     if (!found) {
         return false;
     }
     QTest::mouseClick(found, Qt::LeftButton);
     QTest::keyClick(found, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(found, Qt::Key_Delete);
-    QTest::keyClicks(found, QString::fromLatin1(text.GetString()));
+    QTest::keyClicks(found, QString::fromUtf8(text.GetString()));
+    if (list) {
+        QTest::keyClick(found, Qt::Key_Return);
+        QApplication::processEvents();  // takes the text when the key is done with
+    }
     return true;
 }
 
@@ -96,8 +105,8 @@ bool QtUser::Choose(int combo, int item) {
 }
 
 bool QtUser::SelectRows(int list, const std::vector<int>& rows) {
-    auto* const found = Reach<QTreeWidget>(list);
-    const auto isThere = [&](int row) { return found->topLevelItem(row) != nullptr; };
+    auto* const found = Reach<QTreeView>(list);
+    const auto isThere = [&](int row) { return row >= 0 && row < found->model()->rowCount(); };
     if (!found || !std::ranges::all_of(rows, isThere)) {
         return false;
     }
@@ -116,19 +125,39 @@ bool QtUser::DoubleClick(int list, int row) {
     if (!SelectRows(list, {row})) {
         return false;
     }
-    auto* const found = Reach<QTreeWidget>(list);
+    auto* const found = Reach<QTreeView>(list);
     QTest::mouseDClick(found->viewport(), Qt::LeftButton, Qt::NoModifier, PlaceOf(*found, row));
     return true;
 }
 
-bool QtUser::Press(int key) {
+bool QtUser::RightClick(int list, int row) {
+    auto* const found = Reach<QTreeView>(list);
+    if (!found) {
+        return false;
+    }
+    const QPoint place = row < 0 ? EmptyPlace(*found) : PlaceOf(*found, row);
+    QTest::mouseClick(found->viewport(), Qt::RightButton, Qt::NoModifier, place);
+    // The window system makes the request of the press, which is not one here.
+    QContextMenuEvent request(QContextMenuEvent::Mouse, place,
+                              found->viewport()->mapToGlobal(place));
+    QApplication::sendEvent(found->viewport(), &request);
+    return true;
+}
+
+bool QtUser::Press(int key, const PLATFORM::HeldKeys& held) {
     if (!IsOnTop()) {
         return false;
     }
     QWidget* const dialog = m_Windows.Widget(m_Dialog);
     QWidget* const focus = dialog->focusWidget();
-    QTest::keyClick(focus ? focus : dialog, KeyOf(key));
+    const Qt::KeyboardModifiers modifiers = (held.Shift ? Qt::ShiftModifier : Qt::NoModifier) |
+                                            (held.Control ? Qt::ControlModifier : Qt::NoModifier);
+    QTest::keyClick(focus ? focus : dialog, KeyOf(key), modifiers);
     return true;
+}
+
+void QtUser::Idle() {
+    QApplication::processEvents();
 }
 
 bool QtUser::CloseFrame() {

@@ -17,7 +17,10 @@ public:
     bool Choose(int combo, int item) override;
     bool SelectRows(int list, const std::vector<int>& rows) override;
     bool DoubleClick(int list, int row) override;
-    bool Press(int key) override;
+    bool RightClick(int list, int row) override;
+    using DialogUser::Press;
+    bool Press(int key, const PLATFORM::HeldKeys& held) override;
+    void Idle() override;
     bool CloseFrame() override;
 
 private:

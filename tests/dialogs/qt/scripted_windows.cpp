@@ -9,6 +9,7 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -29,7 +30,10 @@ void InNext(Act act) {
 }
 
 QMessageBox::StandardButton ButtonOf(int number) {
-    return number == IDYES ? QMessageBox::Yes : number == IDNO ? QMessageBox::No : QMessageBox::Ok;
+    return number == IDYES      ? QMessageBox::Yes
+           : number == IDNO     ? QMessageBox::No
+           : number == IDCANCEL ? QMessageBox::Cancel
+                                : QMessageBox::Ok;
 }
 
 }  // namespace
@@ -55,6 +59,23 @@ int ScriptedWindows::ShowMessage(HWND parent, const PLATFORM::MessageRequest& re
     const int result = QtWindowSystem::ShowMessage(parent, request);
     EXPECT_EQ(result, button);
     return result;
+}
+
+int ScriptedWindows::ShowMenu(HWND parent, const PLATFORM::MenuRequest& request) {
+    const int chosen = m_Script.NextMenu(request);
+    QTimer::singleShot(0, qApp, [chosen] {
+        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        for (QAction* const action : menu->actions()) {
+            if (action->isEnabled() && action->data().toInt() == chosen && chosen != 0) {
+                QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
+                                  menu->actionGeometry(action).center());
+                return;
+            }
+        }
+        menu->close();
+    });
+    return QtWindowSystem::ShowMenu(parent, request);
 }
 
 bool ScriptedWindows::ChooseFile(HWND parent, const PLATFORM::FileRequest& request, CString& path) {

@@ -11,6 +11,7 @@ public:
 
     int RunDialog(HWND dialog) override;
     int ShowMessage(HWND parent, const PLATFORM::MessageRequest& request) override;
+    int ShowMenu(HWND parent, const PLATFORM::MenuRequest& request) override;
     bool ChooseFile(HWND parent, const PLATFORM::FileRequest& request, CString& path) override;
     bool ChooseColor(HWND parent, const PLATFORM::ColorRequest& request, COLORREF& color) override;
 

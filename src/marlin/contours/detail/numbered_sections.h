@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <deque>
 #include <unordered_map>
+#include <vector>
 
 namespace MARLINSUITE::detail {
 
@@ -40,5 +41,10 @@ private:
     const std::deque<Section>& m_Sections;
     std::unordered_map<HashedString, const Section*> m_ByName;  // empty while they are in order
 };
+
+/// The definitions of a contour file, by number, up to the first that is missing.
+[[nodiscard]] std::vector<ContourDefinitionList::ContourDefInfo> DefinitionsIn(const IniFile& file);
+/// The number of sections that are named like definitions.
+[[nodiscard]] std::size_t NumContourSections(const IniFile& file);
 
 }  // namespace MARLINSUITE::detail

@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include <marlin/contours/dialogs/contour_editor.h>
 #include <marlin/contours/dialogs/edit_contour_list.h>
 
 bool DLG::EditContourList(const CString& path) {
-    CContourEditor editor;
+    ContourEditResult result;
+    return EditContourList(path, result);
+}
+
+bool DLG::EditContourList(const CString& path, ContourEditResult& result, CWnd* parent) {
+    CContourEditor editor(parent);
     editor.FileName(path);
-    return editor.DoModal() == IDOK;
+    const bool isConfirmed = editor.DoModal() == IDOK;
+    result = editor.Result();
+    return isConfirmed;
 }

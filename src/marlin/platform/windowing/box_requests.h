@@ -2,10 +2,12 @@
 #pragma once
 
 #include <marlin/platform/drawing/handles.h>
+#include <marlin/platform/drawing/point.h>
 #include <marlin/platform/text/c_string.h>
 #include <marlin/platform/windowing/messages.h>
 
 #include <string>
+#include <vector>
 
 // The boxes that a program asks its window system to show.
 
@@ -16,6 +18,19 @@ struct MessageRequest {
     CString Text;
     CString Caption;
     UINT Type = 0;  ///< Buttons and icon, the framework's MB_ numbers.
+};
+
+/// A menu that is shown at a place.
+struct MenuRequest {
+    struct Item {
+        /// What is sent when it is chosen; 0 for a line between items.
+        int Id = 0;
+        /// "&" before a mnemonic; after a tab, the key that does the same.
+        CString Text;
+        bool IsEnabled = true;
+    };
+    std::vector<Item> Items;
+    POINT Place;  ///< On the screen, in pixels.
 };
 
 /// A file dialog.

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/core/number_text.h>
 #include <marlin/platform/windowing/c_data_exchange.h>
+#include <marlin/platform/windowing/detail/window_table.h>
 #include <marlin/platform/windowing/window_system.h>
 
 #include <limits>
 
 using PLATFORM::DropDownList;
 using PLATFORM::WindowSystem;
+using PLATFORM::detail::WindowTable;
 
 namespace {
-
-constexpr const char* numberWanted = "Please enter a number.";
 
 template <typename Real>
 void ExchangeReal(CDataExchange& exchange, int id, Real& value) {
@@ -29,11 +29,19 @@ void ExchangeReal(CDataExchange& exchange, int id, Real& value) {
     CString text;
     edit->GetWindowText(text);
     if (!MARLINSUITE::ParseWhole(text.View(), value)) {
-        exchange.Fail(*edit, numberWanted);
+        exchange.Fail(*edit, NumberWanted(WindowTable::Get().Name(edit->GetSafeHwnd()), text));
     }
 }
 
 }  // namespace
+
+CString NumberWanted(const std::string& field, const CString& text) {
+    const CString start((field + ": ").c_str());
+    if (text.IsEmpty()) {
+        return start + "a number is wanted";
+    }
+    return start + text + " is no number" + (text.Find(',') >= 0 ? "; use a point" : "");
+}
 
 CWnd* CDataExchange::PrepareCtrl(int id) const {
     return m_Failed ? nullptr : m_pDlgWnd->GetDlgItem(id);

@@ -3,6 +3,8 @@
 
 #include <marlin/platform/windowing/c_wnd.h>
 
+#include <string>
+
 /// One exchange of values between the fields of a dialog and its controls. After a text was
 /// refused, the rest of the exchange does nothing.
 class MARLIN_API CDataExchange {
@@ -24,6 +26,10 @@ public:
 private:
     bool m_Failed = false;
 };
+
+/// Says that a text is not the number that a field wants: "Interval: 7,5 is no number; use a
+/// point".
+[[nodiscard]] MARLIN_API CString NumberWanted(const std::string& field, const CString& text);
 
 /// Attaches a field to its control, the first time.
 MARLIN_API void DDX_Control(CDataExchange* exchange, int id, CWnd& control);

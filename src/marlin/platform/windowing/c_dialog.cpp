@@ -31,8 +31,9 @@ bool CDialog::CreateWindows() {
     const HWND dialog = windows.Add(parent, 0);
     // Labels get windows too, so that controls and template match by their order.
     std::vector<HWND> controls;
-    for (const PLATFORM::ControlTemplate& control : m_Template->Controls) {
-        controls.push_back(windows.Add(dialog, control.Id));
+    for (std::size_t i = 0; i < m_Template->Controls.size(); ++i) {
+        controls.push_back(
+            windows.Add(dialog, m_Template->Controls[i].Id, PLATFORM::NameOf(*m_Template, i)));
     }
     Attach(dialog);
     if (!WindowSystem::Current().CreateDialog(dialog, *m_Template, controls, parent)) {
@@ -88,9 +89,8 @@ void CDialog::OnCancel() {
 }
 
 LRESULT CDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    // Closing the frame is cancelling, which a derived class may handle.
     if (message == WM_CLOSE) {
-        OnCancel();
+        OnClose();
         return 0;
     }
     return CWnd::WindowProc(message, wParam, lParam);

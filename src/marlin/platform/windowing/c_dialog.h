@@ -43,6 +43,8 @@ protected:
     virtual void OnOK();
     /// Ends the dialog and leaves the fields as they are.
     virtual void OnCancel();
+    /// Called for the frame and for Escape; cancels the dialog.
+    virtual void OnClose() { OnCancel(); }
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 

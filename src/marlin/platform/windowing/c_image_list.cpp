@@ -18,6 +18,7 @@ bool CImageList::Create(int width, int height, UINT, int, int) {
     m_Width = width;
     m_Height = height;
     m_Pixels.clear();
+    m_Blocks.clear();
     return true;
 }
 
@@ -25,14 +26,11 @@ void CImageList::DeleteImageList() noexcept {
     m_Width = 0;
     m_Height = 0;
     m_Pixels.clear();
+    m_Blocks.clear();
 }
 
 std::size_t CImageList::Area() const noexcept {
     return static_cast<std::size_t>(m_Width) * static_cast<std::size_t>(m_Height);
-}
-
-int CImageList::GetImageCount() const noexcept {
-    return m_Width == 0 ? 0 : static_cast<int>(m_Pixels.size() / Area());
 }
 
 int CImageList::Add(CBitmap* bitmap, COLORREF mask) {
@@ -47,6 +45,7 @@ int CImageList::Add(CBitmap* bitmap, COLORREF mask) {
     // In a bitmap each row of pixels runs through all images; here every image lies by itself.
     const int first = GetImageCount();
     for (int left = 0; left + m_Width <= size.bmWidth; left += m_Width) {
+        m_Blocks.push_back(static_cast<std::uint32_t>(m_Pixels.size() / Area()));
         for (int y = 0; y < m_Height; ++y) {
             for (int x = left; x < left + m_Width; ++x) {
                 const std::size_t offset =
@@ -59,9 +58,17 @@ int CImageList::Add(CBitmap* bitmap, COLORREF mask) {
     return first;
 }
 
-std::span<const std::uint32_t> CImageList::Pixels(int image) const noexcept {
-    if (image < 0 || image >= GetImageCount()) {
-        return {};
+bool CImageList::Copy(int image, int source) {
+    const bool areThere = HasImage(image) && HasImage(source);
+    if (areThere) {
+        m_Blocks[static_cast<std::size_t>(image)] = m_Blocks[static_cast<std::size_t>(source)];
     }
-    return std::span(m_Pixels).subspan(static_cast<std::size_t>(image) * Area(), Area());
+    return areThere;
+}
+
+std::span<const std::uint32_t> CImageList::Pixels(int image) const noexcept {
+    const std::uint32_t block =
+        HasImage(image) ? m_Blocks[static_cast<std::size_t>(image)] : NoBlock;
+    return block == NoBlock ? std::span<const std::uint32_t>()
+                            : std::span(m_Pixels).subspan(block * Area(), Area());
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <marlin/platform/windowing/c_list_ctrl.h>
+#include <marlin/platform/windowing/user_events.h>
 #include <marlin/platform/windowing/window_system.h>
 
 #include <algorithm>
@@ -33,7 +34,7 @@ int CListCtrl::GetItemCount() const {
 
 CString CListCtrl::GetItemText(int row, int column) const {
     const ReportList* const list = ListWith(*this, row, column);
-    return list ? list->Cell(row, column) : CString();
+    return list ? PLATFORM::AskCell(GetSafeHwnd(), row, column).Text : CString();
 }
 
 UINT CListCtrl::GetSelectedCount() const {
@@ -61,31 +62,15 @@ int CListCtrl::InsertColumn(int column, const char* heading, int, int width) {
     return place;
 }
 
-int CListCtrl::InsertItem(int row, const char* text, int image) {
-    ReportList* const list = ListOf(*this);
-    if (!list) {
-        return -1;
-    }
-    const int place = std::clamp(row, 0, list->RowCount());
-    list->InsertRow(place, text, image);
-    return place;
-}
-
-void CListCtrl::SetItemText(int row, int column, const char* text) {
-    if (ReportList* const list = ListWith(*this, row, column)) {
-        list->SetCell(row, column, text);
+void CListCtrl::SetItemCountEx(int count) {
+    if (ReportList* const list = ListOf(*this)) {
+        list->SetRowCount(std::max(count, 0));
     }
 }
 
 void CListCtrl::DeleteItem(int row) {
     if (ReportList* const list = ListWith(*this, row)) {
         list->DeleteRow(row);
-    }
-}
-
-void CListCtrl::DeleteAllItems() {
-    if (ReportList* const list = ListOf(*this)) {
-        list->DeleteRows();
     }
 }
 
@@ -101,6 +86,12 @@ void CListCtrl::EnsureVisible(int row, bool) {
     }
 }
 
+void CListCtrl::EditLabel(int row) {
+    if (ReportList* const list = ListWith(*this, row)) {
+        list->EditLabel(row);
+    }
+}
+
 void CListCtrl::SetSelectionMark(int row) {
     if (ReportList* const list = ListOf(*this)) {
         list->SetSelectionMark(ListWith(*this, row) ? row : -1);
@@ -108,11 +99,13 @@ void CListCtrl::SetSelectionMark(int row) {
 }
 
 void CListCtrl::SetItemState(int row, UINT state, UINT mask) {
-    ReportList* const list = ListWith(*this, row);
+    constexpr int everyRow = -1;
+    ReportList* const list = ListWith(*this, row == everyRow ? 0 : row);
     if (list && (mask & LVIS_SELECTED) != 0) {
-        list->SelectRow(row, (state & LVIS_SELECTED) != 0);
+        list->SelectRows(std::max(row, 0), row == everyRow ? list->RowCount() - 1 : row,
+                         (state & LVIS_SELECTED) != 0);
     }
-    if (list && (mask & state & LVIS_FOCUSED) != 0) {
+    if (list && row != everyRow && (mask & state & LVIS_FOCUSED) != 0) {
         list->SetFocusedRow(row);
     }
 }

@@ -27,6 +27,17 @@ int IdOf(WPARAM wParam) noexcept {
     return static_cast<short>(wParam & 0xFFFFU);
 }
 
+// The two halves of the word that WM_CONTEXTMENU packs: a place left of or above the first screen
+// is negative.
+
+int LowHalf(LPARAM word) noexcept {
+    return static_cast<short>(word & 0xFFFF);
+}
+
+int HighHalf(LPARAM word) noexcept {
+    return static_cast<short>(word >> 16 & 0xFFFF);
+}
+
 // The control that a message to its dialog is about, or null.
 HWND ControlOf(UINT message, LPARAM lParam) noexcept {
     switch (message) {
@@ -145,6 +156,10 @@ const AFX_MSGMAP* CWnd::GetMessageMap() const {
     return GetThisMessageMap();
 }
 
+BOOL CWnd::PreTranslateMessage(const MSG*) {
+    return 0;
+}
+
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     LRESULT result = 0;
     // The control's own class comes first; only what it leaves is for the dialog.
@@ -163,7 +178,8 @@ bool CWnd::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* re
 
 bool CWnd::CallOwnHandler(UINT message, WPARAM wParam, LPARAM lParam, bool isReflected,
                           LRESULT* result) {
-    PLATFORM::detail::Notice notice = {message, 0, 0, isReflected, RecordAt<void>(lParam), result};
+    PLATFORM::detail::Notice notice = {message, 0,     0, isReflected, RecordAt<void>(lParam),
+                                       {},      result};
     if (message == WM_COMMAND) {
         notice.Code = CodeOf(wParam);
         notice.Id = IdOf(wParam);
@@ -171,6 +187,9 @@ bool CWnd::CallOwnHandler(UINT message, WPARAM wParam, LPARAM lParam, bool isRef
         const auto* const header = RecordAt<NMHDR>(lParam);
         notice.Code = header->code;
         notice.Id = static_cast<int>(header->idFrom);
+    } else if (message == WM_CONTEXTMENU) {
+        notice.Record = reinterpret_cast<void*>(wParam);
+        notice.Place = {LowHalf(lParam), HighHalf(lParam)};
     }
     return CallHandler(*this, GetMessageMap(), notice);
 }

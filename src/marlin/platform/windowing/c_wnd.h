@@ -78,6 +78,10 @@ public:
     bool PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
 
+    /// Asked before a key goes to a control, first in the control and then in its dialog, with
+    /// `WM_KEYDOWN` and the key in `wParam`. True when the key is used up; the default is false.
+    virtual BOOL PreTranslateMessage(const MSG* message);
+
     /// Called with each message to the window; it may destroy the object. The default calls the
     /// handler in the message map; a message without one has the result 0.
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);

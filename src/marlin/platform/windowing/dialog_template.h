@@ -4,6 +4,7 @@
 #include <marlin/core/export.h>
 
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace PLATFORM {
@@ -48,6 +49,10 @@ struct DialogTemplate {
     int FontSize;  ///< Points.
     std::span<const ControlTemplate> Controls;
 };
+
+/// The name of a control for people: its own, or else its text or that of the label before it,
+/// without the mark of the mnemonic and the colon.
+[[nodiscard]] MARLIN_API std::string NameOf(const DialogTemplate& form, std::size_t control);
 
 /// The library's resources hand over their templates when it is loaded; these live as long as it.
 void SetDialogTemplates(std::span<const DialogTemplate> templates) noexcept;

@@ -3,7 +3,7 @@
 
 #include <marlin/core/export.h>
 #include <marlin/platform/text/c_string.h>
-#include <marlin/platform/windowing/messages.h>
+#include <marlin/platform/windowing/user_events.h>
 
 #include <vector>
 
@@ -32,7 +32,7 @@ public:
 
     /// Presses a button or a check box.
     virtual bool Click(int control) = 0;
-    /// Replaces the text of an edit.
+    /// Replaces the text of an edit, or of the row that a list lets the user type.
     virtual bool Type(int edit, const CString& text) = 0;
     /// Presses the upper arrow of a spin that many times, the lower one for a negative number.
     virtual bool Spin(int spin, int steps) = 0;
@@ -42,8 +42,14 @@ public:
     /// the empty space, which selects nothing.
     virtual bool SelectRows(int list, const std::vector<int>& rows) = 0;
     virtual bool DoubleClick(int list, int row) = 0;
+    /// Clicks on a row (-1: the empty space) with the right button, which selects it where it is
+    /// not selected.
+    virtual bool RightClick(int list, int row) = 0;
     /// Presses a key, one of the VK_ numbers, in the control that has the focus.
-    virtual bool Press(int key) = 0;
+    virtual bool Press(int key, const HeldKeys& held) = 0;
+    bool Press(int key) { return Press(key, {}); }
+    /// Waits until the dialog has handled the messages that were posted.
+    virtual void Idle() = 0;
     /// Closes the dialog by the frame of its window.
     virtual bool CloseFrame() = 0;
 };

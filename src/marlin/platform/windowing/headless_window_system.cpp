@@ -71,7 +71,9 @@ int HeadlessWindowSystem::RunDialog(HWND dialog) {
     m_State->Running.push_back(dialog);
     if (const UserScript::DialogAct act = m_Script.NextAct()) {
         detail::HeadlessUser user(*this, dialog);
+        DispatchWaiting();
         act(user);
+        DispatchWaiting();
     }
     if (!shown->HasEnded) {
         SendClose(dialog);
@@ -153,6 +155,17 @@ void HeadlessWindowSystem::Invalidate(HWND control) {
     }
 }
 
+void HeadlessWindowSystem::Describe(HWND control, const CString& text) {
+    if (HeadlessControl* const found = FindControl(control)) {
+        found->Description = text;
+    }
+}
+
+CString HeadlessWindowSystem::Description(HWND control) const {
+    const HeadlessControl* const found = FindControl(control);
+    return found ? found->Description : CString();
+}
+
 bool HeadlessWindowSystem::IsChecked(HWND box) const {
     const HeadlessControl* const found = FindControl(box);
     return found && found->IsChecked;
@@ -184,6 +197,10 @@ int HeadlessWindowSystem::ShowMessage(HWND, const MessageRequest& request) {
     return m_Script.NextMessage(request);
 }
 
+int HeadlessWindowSystem::ShowMenu(HWND, const MenuRequest& request) {
+    return m_Script.NextMenu(request);
+}
+
 bool HeadlessWindowSystem::ChooseFile(HWND, const FileRequest& request, CString& path) {
     const std::optional<CString> chosen = m_Script.NextFile(request);
     path = chosen.value_or(path);
@@ -208,7 +225,9 @@ SIZE HeadlessWindowSystem::FaceSize(HWND button) const noexcept {
 
 COLORREF HeadlessWindowSystem::SwatchPixel(HWND list, int row, int x, int y) const noexcept {
     const HeadlessControl* const found = FindControl(list);
-    return found ? found->List.SwatchPixel(row, x, y) : CLR_INVALID;
+    return found && found->List.HasRow(row)
+               ? found->List.ImagePixel(AskCell(list, row, 0).Image, x, y)
+               : CLR_INVALID;
 }
 
 int HeadlessWindowSystem::RowInView(HWND list) const noexcept {

@@ -55,6 +55,9 @@ public:
     [[nodiscard]] HWND Focus(HWND dialog) const override;
     void Invalidate(HWND control) override;
 
+    void Describe(HWND control, const CString& text) override;
+    [[nodiscard]] CString Description(HWND control) const override;
+
     [[nodiscard]] bool IsChecked(HWND box) const override;
     void SetChecked(HWND box, bool checked) override;
     void SetRange(HWND spin, const SpinRange& range) override;
@@ -62,8 +65,12 @@ public:
     [[nodiscard]] ReportList* FindList(HWND window) const override;
 
     int ShowMessage(HWND parent, const MessageRequest& request) override;
+    int ShowMenu(HWND parent, const MenuRequest& request) override;
     bool ChooseFile(HWND parent, const FileRequest& request, CString& path) override;
     bool ChooseColor(HWND parent, const ColorRequest& request, COLORREF& color) override;
+
+    [[nodiscard]] CString ClipboardText() const override { return m_Clipboard; }
+    void SetClipboardText(const CString& text) override { m_Clipboard = text; }
 
 private:
     friend class detail::HeadlessUser;
@@ -75,6 +82,7 @@ private:
     [[nodiscard]] bool IsOnTop(HWND dialog) const noexcept;
 
     UserScript m_Script;
+    CString m_Clipboard;
     std::unique_ptr<State> m_State;
 };
 

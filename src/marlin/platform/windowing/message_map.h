@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/platform/drawing/point.h>
 #include <marlin/platform/windowing/message_records.h>
 #include <marlin/platform/windowing/windowing_constants.h>
 
@@ -11,8 +12,8 @@ class CWnd;
 /// The handler of one message, a member of the class that the map belongs to.
 struct AFX_MSGMAP_ENTRY {
     /// One of the kinds of functions that handle a message.
-    using Handler =
-        std::variant<void (CWnd::*)(), void (CWnd::*)(NMHDR*, LRESULT*), BOOL (CWnd::*)(HELPINFO*)>;
+    using Handler = std::variant<void (CWnd::*)(), void (CWnd::*)(NMHDR*, LRESULT*),
+                                 BOOL (CWnd::*)(HELPINFO*), void (CWnd::*)(CWnd*, CPoint)>;
     UINT nMessage;
     UINT nCode;
     int nID;
@@ -52,13 +53,18 @@ protected:                                                      \
     }
 
 // The forms of handlers: `void OnButton()`, `void OnNotify(NMHDR*, LRESULT*)`,
-// `BOOL OnHelpInfo(HELPINFO*)`. `ON_CONTROL_REFLECT` is for the class of the control itself.
+// `BOOL OnHelpInfo(HELPINFO*)`, `void OnContextMenu(CWnd*, CPoint)`. `ON_CONTROL_REFLECT` is for
+// the class of the control itself.
 #define ON_BN_CLICKED(id, handler) \
     {WM_COMMAND, BN_CLICKED, id, false, static_cast<void (CWnd::*)()>(&ThisClass::handler)},
+#define ON_COMMAND(id, handler) ON_BN_CLICKED(id, handler)
 #define ON_CONTROL_REFLECT(code, handler) \
     {WM_COMMAND, code, 0, true, static_cast<void (CWnd::*)()>(&ThisClass::handler)},
 #define ON_NOTIFY(code, id, handler) \
     {WM_NOTIFY, code, id, false,     \
      static_cast<void (CWnd::*)(NMHDR*, LRESULT*)>(&ThisClass::handler)},
+#define ON_WM_CONTEXTMENU()       \
+    {WM_CONTEXTMENU, 0, 0, false, \
+     static_cast<void (CWnd::*)(CWnd*, CPoint)>(&ThisClass::OnContextMenu)},
 #define ON_WM_HELPINFO() \
     {WM_HELP, 0, 0, false, static_cast<BOOL (CWnd::*)(HELPINFO*)>(&ThisClass::OnHelpInfo)},

@@ -3,6 +3,8 @@
 #include <marlin/platform/windowing/detail/window_table.h>
 #include <marlin/platform/windowing/messages.h>
 
+#include <utility>
+
 using PLATFORM::detail::MessageQueue;
 using PLATFORM::detail::MessageTarget;
 using PLATFORM::detail::WindowTable;
@@ -40,4 +42,15 @@ int GetMessageA(MSG* message, HWND window, UINT first, UINT last) {
 LRESULT DispatchMessageA(const MSG* message) {
     return message ? SendMessageA(message->hwnd, message->message, message->wParam, message->lParam)
                    : 0;
+}
+
+void PLATFORM::WakeWhenPosted(std::function<void()> wake) {
+    MessageQueue::OfThisThread()->WakeBy(std::move(wake));
+}
+
+void PLATFORM::DispatchWaiting() {
+    MSG message;
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
+        DispatchMessageA(&message);
+    }
 }

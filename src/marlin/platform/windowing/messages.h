@@ -4,6 +4,7 @@
 #include <marlin/core/export.h>
 
 #include <cstdint>
+#include <functional>
 
 // Window messages: how they are posted, sent, waited for and handled. Their numbers are in
 // windowing_constants.h, the records that some of them carry in message_records.h.
@@ -33,6 +34,9 @@ struct MSG {
     LPARAM lParam = 0;
 };
 
+/// Negative while `VK_SHIFT` or `VK_CONTROL` is held with the key that is being handled, else 0.
+[[nodiscard]] MARLIN_API short GetKeyState(int key);
+
 /// Appends a message to the queue of the thread that made the window and returns at once: 1, or
 /// 0 when there is no such window. May be called from any thread; the window handles the message
 /// when its own thread dispatches it.
@@ -60,6 +64,16 @@ MARLIN_API int PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UI
 /// Waits for such a message and takes it. Returns 1; -1 when `message` is null, and when `window`
 /// is not of the calling thread, so that no message could come.
 MARLIN_API int GetMessageA(MSG* message, HWND window, UINT first, UINT last);
+
+namespace PLATFORM {
+
+/// For window systems: from now on calls `wake` whenever a message is posted to a window of the
+/// calling thread, on the thread that posts it. `wake` has to return at once and must not post.
+MARLIN_API void WakeWhenPosted(std::function<void()> wake);
+/// Has the windows of the calling thread handle the messages that wait for them, in their order.
+MARLIN_API void DispatchWaiting();
+
+}  // namespace PLATFORM
 
 /// Has the message's window handle it, on the thread that made the window, and returns the
 /// window's result; 0 on another thread and for a window that is gone.

@@ -8,8 +8,9 @@ class CImageList;
 
 namespace PLATFORM {
 
-/// The rows, columns and selection of a list control, as its window system keeps them. Empty at
-/// first. A row or column that is given has to be there, or to be the number after the last one
+/// The columns and the selection of a list control, as its window system keeps them. Its rows are
+/// only counted: what a cell shows is asked of the dialog (`AskCell`) whenever it is needed. Empty
+/// at first. A row or column that is given has to be there, or to be the number after the last one
 /// where something is inserted: `CListCtrl` checks them. The user's own changes of the selection
 /// are reported to the dialog, those made here are not.
 class MARLIN_API ReportList {
@@ -27,17 +28,18 @@ public:
     [[nodiscard]] virtual int ColumnWidth(int column) const = 0;
 
     [[nodiscard]] virtual int RowCount() const = 0;
-    /// `text` goes into column 0, beside the image of that index.
-    virtual void InsertRow(int row, const CString& text, int image) = 0;
+    /// Shows that many rows anew; none of them is selected or has the focus.
+    virtual void SetRowCount(int count) = 0;
+    /// The rows after it move up, with their selection.
     virtual void DeleteRow(int row) = 0;
-    virtual void DeleteRows() = 0;
-    virtual void SetCell(int row, int column, const CString& text) = 0;
-    [[nodiscard]] virtual CString Cell(int row, int column) const = 0;
     /// Copies the images; null takes them away.
     virtual void SetImages(const CImageList* images) = 0;
     virtual void ScrollTo(int row) = 0;
+    /// Lets the user type a text in place of that in column 0.
+    virtual void EditLabel(int row) = 0;
 
-    virtual void SelectRow(int row, bool selected) = 0;
+    /// From `first` to `last`, both included.
+    virtual void SelectRows(int first, int last, bool selected) = 0;
     [[nodiscard]] virtual bool IsSelected(int row) const = 0;
     [[nodiscard]] virtual int SelectedCount() const = 0;
     /// The row that the keyboard moves from; -1 for none.

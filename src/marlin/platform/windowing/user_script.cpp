@@ -28,6 +28,10 @@ void UserScript::AnswerMessage(int button) {
     m_Buttons.push_back(button);
 }
 
+void UserScript::AnswerMenu(int item) {
+    m_Items.push_back(item);
+}
+
 void UserScript::AnswerFile(std::optional<CString> path) {
     m_Paths.push_back(std::move(path));
 }
@@ -37,7 +41,8 @@ void UserScript::AnswerColor(std::optional<COLORREF> color) {
 }
 
 bool UserScript::IsDone() const noexcept {
-    return m_Acts.empty() && m_Buttons.empty() && m_Paths.empty() && m_ChosenColors.empty();
+    return m_Acts.empty() && m_Buttons.empty() && m_Items.empty() && m_Paths.empty() &&
+           m_ChosenColors.empty();
 }
 
 UserScript::DialogAct UserScript::NextAct() {
@@ -47,7 +52,15 @@ UserScript::DialogAct UserScript::NextAct() {
 int UserScript::NextMessage(const MessageRequest& request) {
     m_Messages.push_back(request);
     // The answers that change least.
-    return Next(m_Buttons, (request.Type & MB_YESNO) != 0 ? IDNO : IDOK);
+    const UINT buttons = request.Type & 0x0FU;
+    return Next(m_Buttons, buttons == MB_YESNO         ? IDNO
+                           : buttons == MB_YESNOCANCEL ? IDCANCEL
+                                                       : IDOK);
+}
+
+int UserScript::NextMenu(const MenuRequest& request) {
+    m_Menus.push_back(request);
+    return Next(m_Items, 0);
 }
 
 std::optional<CString> UserScript::NextFile(const FileRequest& request) {

@@ -13,7 +13,7 @@ namespace PLATFORM {
 
 /// The acts of a user who is played, and the boxes that were shown to the user. Acts of each kind
 /// are done in the order given. A dialog or box beyond the last act ends with Cancel, or with No,
-/// or with OK where it has no other button.
+/// or with OK where it has no other button; from a menu nothing is chosen.
 /// @code
 /// PLATFORM::UserScript script;
 /// script.InDialog([](PLATFORM::DialogUser& user) { user.Click(IDOK); });
@@ -30,6 +30,8 @@ public:
     /// The button that closes the next message box.
     void AnswerMessage(int button);
     /// The choice in the next box of the kind; `{}` cancels it.
+    /// The item chosen from the next menu; 0 for none.
+    void AnswerMenu(int item);
     void AnswerFile(std::optional<CString> path);
     void AnswerColor(std::optional<COLORREF> color);
 
@@ -38,6 +40,7 @@ public:
     }
     [[nodiscard]] const std::vector<FileRequest>& Files() const noexcept { return m_Files; }
     [[nodiscard]] const std::vector<ColorRequest>& Colors() const noexcept { return m_Colors; }
+    [[nodiscard]] const std::vector<MenuRequest>& Menus() const noexcept { return m_Menus; }
     /// True when no act is left.
     [[nodiscard]] bool IsDone() const noexcept;
 
@@ -45,15 +48,18 @@ public:
     /// empty.
     DialogAct NextAct();
     int NextMessage(const MessageRequest& request);
+    int NextMenu(const MenuRequest& request);
     std::optional<CString> NextFile(const FileRequest& request);
     std::optional<COLORREF> NextColor(const ColorRequest& request);
 
 private:
     std::deque<DialogAct> m_Acts;
     std::deque<int> m_Buttons;
+    std::deque<int> m_Items;
     std::deque<std::optional<CString>> m_Paths;
     std::deque<std::optional<COLORREF>> m_ChosenColors;
     std::vector<MessageRequest> m_Messages;
+    std::vector<MenuRequest> m_Menus;
     std::vector<FileRequest> m_Files;
     std::vector<ColorRequest> m_Colors;
 };

@@ -53,6 +53,10 @@ public:
     /// Has an owner-drawn button drawn again.
     virtual void Invalidate(HWND control) = 0;
 
+    /// What a screen reader says of a control besides its name, and a tip shows.
+    virtual void Describe(HWND control, const CString& text) = 0;
+    [[nodiscard]] virtual CString Description(HWND control) const = 0;
+
     [[nodiscard]] virtual bool IsChecked(HWND box) const = 0;
     virtual void SetChecked(HWND box, bool checked) = 0;
     virtual void SetRange(HWND spin, const SpinRange& range) = 0;
@@ -63,8 +67,14 @@ public:
     /// Show a box above a window or, with null, by itself. A message box returns the number of
     /// the button that closed it; the others true when something was chosen, which is then set.
     virtual int ShowMessage(HWND parent, const MessageRequest& request) = 0;
+    /// The number of the item that the user chose, 0 for none.
+    virtual int ShowMenu(HWND parent, const MenuRequest& request) = 0;
     virtual bool ChooseFile(HWND parent, const FileRequest& request, CString& path) = 0;
     virtual bool ChooseColor(HWND parent, const ColorRequest& request, COLORREF& color) = 0;
+
+    /// The text that the user cut or copied last, in any program; empty for none.
+    [[nodiscard]] virtual CString ClipboardText() const = 0;
+    virtual void SetClipboardText(const CString& text) = 0;
 };
 
 }  // namespace PLATFORM

@@ -6,6 +6,7 @@
 
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QMenu>
 #include <QMessageBox>
 
 namespace PLATFORM::detail {
@@ -45,13 +46,34 @@ int ShowMessage(QWidget* parent, const MessageRequest& request) {
     box.setTextFormat(Qt::PlainText);
     box.setText(QtText(request.Text.View()));
     box.setIcon(IconOf(request.Type));
-    if ((request.Type & 0x0FU) != MB_YESNO) {
+    const UINT buttons = request.Type & 0x0FU;
+    if (buttons != MB_YESNO && buttons != MB_YESNOCANCEL) {
         box.exec();
         return IDOK;
     }
+    const bool canCancel = buttons == MB_YESNOCANCEL;
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box.setEscapeButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes ? IDYES : IDNO;
+    if (canCancel) {
+        box.addButton(QMessageBox::Cancel);
+    }
+    box.setEscapeButton(canCancel ? QMessageBox::Cancel : QMessageBox::No);
+    const int pressed = box.exec();
+    return pressed == QMessageBox::Yes ? IDYES : pressed == QMessageBox::No ? IDNO : IDCANCEL;
+}
+
+int ShowMenu(QWidget* parent, const MenuRequest& request) {
+    QMenu menu(parent);
+    for (const MenuRequest::Item& item : request.Items) {
+        if (item.Id == 0) {
+            menu.addSeparator();
+            continue;
+        }
+        QAction* const action = menu.addAction(QtText(item.Text.View()));
+        action->setData(item.Id);
+        action->setEnabled(item.IsEnabled);
+    }
+    const QAction* const chosen = menu.exec({request.Place.x, request.Place.y});
+    return chosen ? chosen->data().toInt() : 0;
 }
 
 bool ChooseFile(QWidget* parent, const FileRequest& request, CString& path) {

@@ -2,34 +2,18 @@
 #include <marlin/platform/windowing/user_events.h>
 #include <marlin/platform/windowing/windowing_constants.h>
 #include <marlin/qt/detail/list_widget.h>
-#include <marlin/qt/detail/make.h>
 #include <marlin/qt/detail/qt_text.h>
 
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QScrollBar>
 #include <algorithm>
 
 namespace PLATFORM::detail {
 
 namespace {
-
-constexpr int imageRole = Qt::UserRole;
-constexpr int bytesRole = Qt::UserRole + 1;
-
-QIcon IconOf(const CImageList& images, int index) {
-    QImage icon(images.Width(), images.Height(), QImage::Format_ARGB32);
-    const auto pixels = images.Pixels(index);
-    for (int y = 0; y < icon.height(); ++y) {
-        for (int x = 0; x < icon.width(); ++x) {
-            const auto pixel = pixels[static_cast<std::size_t>(y * icon.width() + x)];
-            icon.setPixelColor(
-                x, y, pixel == CImageList::Transparent ? QColor(0, 0, 0, 0) : QtColor(pixel));
-        }
-    }
-    return QPixmap::fromImage(icon);
-}
 
 // The framework's number of a key that dialogs handle; 0 for all others.
 int NumberOf(int key) noexcept {
@@ -50,8 +34,9 @@ int NumberOf(int key) noexcept {
 
 }  // namespace
 
-ListWidget::ListWidget(HWND handle) : m_Handle(handle) {
-    setColumnCount(0);
+ListWidget::ListWidget(HWND handle) : m_Handle(handle), m_Rows(handle), m_Painter(handle) {
+    setModel(&m_Rows);
+    setItemDelegate(&m_Painter);
     setSelectionMode(ExtendedSelection);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
@@ -64,19 +49,14 @@ ListWidget::ListWidget(HWND handle) : m_Handle(handle) {
 
 void ListWidget::InsertColumn(int column, const CString& heading, int width) {
     m_Widths.insert(m_Widths.begin() + column, width);
-    setColumnCount(static_cast<int>(m_Widths.size()));
-    // Qt adds a column after the last one, so the headings from there on move to the right.
-    for (int i = columnCount() - 1; i > column; --i) {
-        headerItem()->setText(i, headerItem()->text(i - 1));
-    }
-    headerItem()->setText(column, QtText(heading.View()));
-    for (int i = 0; i < columnCount(); ++i) {
+    m_Rows.InsertColumn(column, QtText(heading.View()));
+    for (int i = 0; i < ColumnCount(); ++i) {
         header()->resizeSection(i, ColumnWidth(i));
     }
 }
 
 CString ListWidget::Heading(int column) const {
-    return TextOf(headerItem()->text(column));
+    return TextOf(m_Rows.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
 }
 
 int ListWidget::ColumnWidth(int column) const {
@@ -84,10 +64,11 @@ int ListWidget::ColumnWidth(int column) const {
 }
 
 void ListWidget::FitColumns() {
+    const int widest = screen()->availableSize().width() / 8;
     int total = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
-    for (int i = 0; i < columnCount(); ++i) {
-        const int wanted =
-            std::max({ColumnWidth(i), header()->sectionSizeHint(i), sizeHintForColumn(i)});
+    for (int i = 0; i < ColumnCount(); ++i) {
+        const int content = std::max(header()->sectionSizeHint(i), sizeHintForColumn(i));
+        const int wanted = std::max(ColumnWidth(i), std::min(content, widest));
         // A column that the user made wider stays so.
         header()->resizeSection(i, std::max(header()->sectionSize(i), wanted));
         total += wanted;
@@ -95,33 +76,19 @@ void ListWidget::FitColumns() {
     setMinimumWidth(total);
 }
 
-void ListWidget::ShowImage(QTreeWidgetItem& item) const {
-    const auto image = static_cast<std::size_t>(item.data(0, imageRole).toInt());
-    item.setIcon(0, image < m_Icons.size() ? m_Icons[image] : QIcon());
-}
-
 void ListWidget::SetImages(const CImageList* images) {
-    m_Icons.clear();
-    for (int i = 0; images && i < images->GetImageCount(); ++i) {
-        m_Icons.push_back(IconOf(*images, i));
-    }
-    for (int row = 0; row < RowCount(); ++row) {
-        ShowImage(*topLevelItem(row));
-    }
+    m_Rows.SetImages(images);
+    viewport()->update();
 }
 
-void ListWidget::InsertRow(int row, const CString& text, int image) {
+void ListWidget::SetRowCount(int count) {
     const QScopedValueRollback change(m_IsChangedByProgram, true);
-    if (RowCount() == 0) {
-        // The columns are fitted later, when the cells have their texts.
-        QMetaObject::invokeMethod(
-            this, [this] { FitColumns(); }, Qt::QueuedConnection);
+    const bool isFirst = RowCount() == 0;
+    m_Rows.SetRowCount(count);
+    m_Mark = -1;
+    if (isFirst && count > 0) {
+        FitColumns();
     }
-    auto* const item = Make<QTreeWidgetItem>();
-    item->setData(0, imageRole, image);
-    ShowImage(*item);
-    insertTopLevelItem(row, item);
-    SetCell(row, 0, text);
 }
 
 void ListWidget::DeleteRow(int row) {
@@ -130,84 +97,139 @@ void ListWidget::DeleteRow(int row) {
     if (FocusedRow() == row) {
         selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
     }
-    const std::unique_ptr<QTreeWidgetItem> removed(takeTopLevelItem(row));
+    m_Rows.DeleteRow(row);
     m_Mark = m_Mark == row ? -1 : m_Mark > row ? m_Mark - 1 : m_Mark;
 }
 
-void ListWidget::DeleteRows() {
-    const QScopedValueRollback change(m_IsChangedByProgram, true);
-    clear();
-    m_Mark = -1;
-}
-
-void ListWidget::SetCell(int row, int column, const CString& text) {
-    QTreeWidgetItem& item = *topLevelItem(row);
-    item.setText(column, QtText(text.View()));
-    item.setData(column, bytesRole, QByteArray(text.GetString(), text.GetLength()));
-}
-
-CString ListWidget::Cell(int row, int column) const {
-    return CString(topLevelItem(row)->data(column, bytesRole).toByteArray().toStdString());
-}
-
 void ListWidget::ScrollTo(int row) {
-    scrollToItem(topLevelItem(row));
+    scrollTo(m_Rows.index(row, 0));
 }
 
-void ListWidget::SelectRow(int row, bool selected) {
+void ListWidget::EditLabel(int row) {
+    edit(m_Rows.index(row, 0));
+}
+
+void ListWidget::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    const int row = FocusedRow();
+    const std::optional<QString> typed = m_Rows.TakeTyped();
+    QTreeView::closeEditor(editor, hint);
+    // Only now may the dialog show its rows anew.
+    if (typed) {
+        SendLabel(m_Handle, row, TextOf(*typed));
+    }
+}
+
+void ListWidget::SelectRows(int first, int last, bool selected) {
     const QScopedValueRollback change(m_IsChangedByProgram, true);
-    topLevelItem(row)->setSelected(selected);
+    const QItemSelection rows(m_Rows.index(first, 0), m_Rows.index(last, ColumnCount() - 1));
+    selectionModel()->select(
+        rows, selected ? QItemSelectionModel::Select : QItemSelectionModel::Deselect);
 }
 
 bool ListWidget::IsSelected(int row) const {
-    return topLevelItem(row)->isSelected();
+    return selectionModel()->isSelected(m_Rows.index(row, 0));
 }
 
 int ListWidget::SelectedCount() const {
-    return static_cast<int>(selectionModel()->selectedRows().size());
+    // Rows are selected whole, in ranges that do not overlap: far fewer than rows.
+    int count = 0;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        count += range.left() == 0 ? range.height() : 0;
+    }
+    return count;
 }
 
 void ListWidget::SetFocusedRow(int row) {
     const QScopedValueRollback change(m_IsChangedByProgram, true);
-    setCurrentItem(topLevelItem(row), 0, QItemSelectionModel::NoUpdate);
+    selectionModel()->setCurrentIndex(m_Rows.index(row, 0), QItemSelectionModel::NoUpdate);
+}
+
+void ListWidget::SetSelectionMark(int row) {
+    m_Mark = row;
+}
+
+// Shift with an arrow selects from the mark, which a program may have set; Qt would start from
+// where its own last click was.
+bool ListWidget::MovesBy(const QKeyEvent& event) {
+    const int step = event.key() == Qt::Key_Down ? 1 : event.key() == Qt::Key_Up ? -1 : 0;
+    if (step == 0 || event.modifiers() != Qt::ShiftModifier || RowCount() == 0) {
+        return false;
+    }
+    const int focused = FocusedRow();
+    const int row = focused < 0 ? 0 : std::clamp(focused + step, 0, RowCount() - 1);
+    m_Mark = std::max(m_Mark, 0);
+    const QItemSelection rows(m_Rows.index(std::min(m_Mark, row), 0),
+                              m_Rows.index(std::max(m_Mark, row), ColumnCount() - 1));
+    selectionModel()->setCurrentIndex(m_Rows.index(row, 0), QItemSelectionModel::NoUpdate);
+    selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
+    scrollTo(m_Rows.index(row, 0));
+    return true;
 }
 
 void ListWidget::keyPressEvent(QKeyEvent* event) {
-    const int key = NumberOf(event->key());
+    if (state() == EditingState) {
+        return;  // what a field in the list has no use for is nobody's
+    }
+    const Qt::KeyboardModifiers held = event->modifiers() & ~Qt::KeypadModifier;
+    const int key = held == Qt::NoModifier ? NumberOf(event->key()) : 0;
     if (key != 0 && SendKey(m_Handle, key)) {
         return;
     }
-    if (key == VK_RETURN) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         event->ignore();  // so that the dialog presses its default button
         return;
     }
-    QTreeWidget::keyPressEvent(event);
-    m_Mark = currentIndex().row();
+    const int before = FocusedRow();
+    if (!MovesBy(*event)) {
+        QTreeView::keyPressEvent(event);
+        // Shift alone, for one, moves nothing.
+        m_Mark = FocusedRow() == before ? m_Mark : FocusedRow();
+    }
 }
 
 void ListWidget::mousePressEvent(QMouseEvent* event) {
     m_IsSecondClick = false;
-    QTreeWidget::mousePressEvent(event);
-    m_Mark = currentIndex().row();
+    QTreeView::mousePressEvent(event);
+    if (event->modifiers() != Qt::ShiftModifier) {
+        m_Mark = currentIndex().row();
+    }
 }
 
 void ListWidget::mouseReleaseEvent(QMouseEvent* event) {
     // The second release of a double click is not a click of its own.
-    QTreeWidget::mouseReleaseEvent(event);
-    if (!m_IsSecondClick) {
+    QTreeView::mouseReleaseEvent(event);
+    if (!m_IsSecondClick && event->button() == Qt::LeftButton) {
         SendNotice(m_Handle, NM_CLICK);
     }
 }
 
 void ListWidget::mouseDoubleClickEvent(QMouseEvent* event) {
     m_IsSecondClick = true;
-    QTreeWidget::mouseDoubleClickEvent(event);
-    SendNotice(m_Handle, NM_DBLCLK);
+    QTreeView::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
+        SendNotice(m_Handle, NM_DBLCLK);
+    }
+}
+
+void ListWidget::contextMenuEvent(QContextMenuEvent* event) {
+    const QPoint place = event->reason() == QContextMenuEvent::Keyboard
+                             ? viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft())
+                             : event->globalPos();
+    SendContextMenu(m_Handle, {place.x(), place.y()});
+}
+
+void ListWidget::focusInEvent(QFocusEvent* event) {
+    // Qt gives the first row the focus, so that the first arrow key would pass it by.
+    const bool isNowhere = !currentIndex().isValid();
+    QTreeView::focusInEvent(event);
+    if (isNowhere) {
+        selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
+    }
 }
 
 void ListWidget::selectionChanged(const QItemSelection& selected,
                                   const QItemSelection& deselected) {
-    QTreeWidget::selectionChanged(selected, deselected);
+    QTreeView::selectionChanged(selected, deselected);
     // A dialog knows of the changes that it makes itself.
     if (!m_IsChangedByProgram) {
         SendNotice(m_Handle, LVN_ITEMCHANGED);

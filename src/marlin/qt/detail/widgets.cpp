@@ -64,25 +64,10 @@ QWidget* MakeWidget(const ControlTemplate& control, HWND handle, QWidget* before
     return Make<QWidget>();
 }
 
-// Leaves the marks out that are not spoken: that of the mnemonic and the colon.
-QString Spoken(std::string_view text) {
-    QString spoken = QtText(text);
-    spoken.remove('&');
-    return spoken.endsWith(':') ? spoken.chopped(1) : spoken;
-}
-
-QString SpokenName(const ControlTemplate& control, const ControlTemplate* before) {
-    if (!control.SpokenName.empty()) {
-        return QtText(control.SpokenName);
-    }
-    const bool isNamed = control.Text.empty() && before && before->Kind == CONTROL::LABEL;
-    return Spoken(isNamed ? before->Text : control.Text);
-}
-
 void Name(const DialogTemplate& form, std::span<QWidget* const> widgets) {
     for (std::size_t i = 0; i < widgets.size(); ++i) {
         const ControlTemplate* const before = i > 0 ? &form.Controls[i - 1] : nullptr;
-        widgets[i]->setAccessibleName(SpokenName(form.Controls[i], before));
+        widgets[i]->setAccessibleName(QtText(NameOf(form, i)));
         auto* const label = i > 0 ? qobject_cast<QLabel*>(widgets[i - 1]) : nullptr;
         // A label without a mnemonic is the heading of several controls.
         if (label && before->Text.find('&') != std::string_view::npos) {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <marlin/contours/contour_definition_list.h>
+#include <marlin/platform/drawing/rect.h>
 #include <marlin/platform/text/c_string.h>
 
-#include <vector>
-
+class CDC;
 class CImageList;
 class CListCtrl;
-class ContourDefinitionList;
 
 namespace MARLINSUITE::detail {
 
@@ -17,12 +17,18 @@ namespace MARLINSUITE::detail {
 [[nodiscard]] CString LevelText(double level);
 
 void InsertContourColumns(CListCtrl& list);
-/// Replaces the rows by those of the definitions, and the images by one swatch for each of them.
-void ShowContours(const ContourDefinitionList& definitions, CImageList& swatches, CListCtrl& list);
+/// Makes one swatch for each definition; those of one color share their pixels.
+void MakeSwatches(const ContourDefinitionList& definitions, CImageList& swatches);
 
-/// The first row that shows this level, -1 for none. Levels are compared as they are shown.
-[[nodiscard]] int RowOfLevel(const CListCtrl& list, double level);
-/// From the top.
-[[nodiscard]] std::vector<int> SelectedRows(const CListCtrl& list);
+[[nodiscard]] CString CellText(const ContourDefinitionList::ContourDefInfo& definition, int column);
+/// What a row shows by colors and lines, in words.
+[[nodiscard]] CString TipText(const ContourDefinitionList::ContourDefInfo& definition);
+/// Draws the line of a definition beside its type, as it will be on paper, and moves the place of
+/// the text. False, and nothing drawn, in another column.
+bool DrawLineSample(const ContourDefinitionList::ContourDefInfo& definition, int column, CDC& dc,
+                    const RECT& cell, RECT& text);
+
+/// The highest definition that is shown with the same text as this level, -1 for none.
+[[nodiscard]] int IndexOfLevel(const ContourDefinitionList& definitions, double level);
 
 }  // namespace MARLINSUITE::detail

@@ -19,6 +19,7 @@ struct HeadlessControl {
     const ControlTemplate& Form;
     HWND Before;  ///< The control before it in its template: the edit of a spin.
     CString Text{Form.Text};
+    CString Description;
     bool IsEnabled = !Form.Disabled;
     bool IsChecked = false;
     SpinRange Range;

@@ -23,81 +23,56 @@ int HeadlessList::ColumnWidth(int column) const {
     return m_Columns[static_cast<std::size_t>(column)].Width;
 }
 
-const HeadlessList::Row& HeadlessList::At(int row) const {
-    assert(HasRow(row));
-    return m_Rows[static_cast<std::size_t>(row)];
-}
-
-HeadlessList::Row& HeadlessList::At(int row) {
-    assert(HasRow(row));
-    return m_Rows[static_cast<std::size_t>(row)];
-}
-
-int HeadlessList::RowCount() const {
-    return static_cast<int>(m_Rows.size());
-}
-
-void HeadlessList::InsertRow(int row, const CString& text, int image) {
-    m_Rows.insert(m_Rows.begin() + row, {{text}, image, false});
+void HeadlessList::SetRowCount(int count) {
+    m_IsSelected.assign(static_cast<std::size_t>(count), false);
+    m_Focused = m_Mark = m_InView = m_Edited = -1;
 }
 
 void HeadlessList::DeleteRow(int row) {
-    m_Rows.erase(m_Rows.begin() + row);
+    m_IsSelected.erase(m_IsSelected.begin() + row);
     // These stay with their rows, as those move up.
-    for (int* const kept : {&m_Focused, &m_Mark, &m_InView}) {
+    for (int* const kept : {&m_Focused, &m_Mark, &m_InView, &m_Edited}) {
         *kept = *kept == row ? -1 : *kept > row ? *kept - 1 : *kept;
     }
-}
-
-void HeadlessList::DeleteRows() {
-    m_Rows.clear();
-    m_Focused = m_Mark = m_InView = -1;
-}
-
-void HeadlessList::SetCell(int row, int column, const CString& text) {
-    // A row starts with its first cell alone.
-    std::vector<CString>& cells = At(row).Cells;
-    const auto place = static_cast<std::size_t>(column);
-    cells.resize(std::max(cells.size(), place + 1));
-    cells[place] = text;
-}
-
-CString HeadlessList::Cell(int row, int column) const {
-    const std::vector<CString>& cells = At(row).Cells;
-    const auto place = static_cast<std::size_t>(column);
-    return place < cells.size() ? cells[place] : CString();
 }
 
 void HeadlessList::SetImages(const CImageList* images) {
     m_Images = images ? *images : CImageList();
 }
 
-void HeadlessList::SelectRow(int row, bool selected) {
-    At(row).IsSelected = selected;
+void HeadlessList::SelectRows(int first, int last, bool selected) {
+    assert(HasRow(first) && HasRow(last));
+    std::fill(m_IsSelected.begin() + first, m_IsSelected.begin() + last + 1, selected);
 }
 
 bool HeadlessList::IsSelected(int row) const {
-    return At(row).IsSelected;
+    assert(HasRow(row));
+    return m_IsSelected[static_cast<std::size_t>(row)];
 }
 
 int HeadlessList::SelectedCount() const {
-    return static_cast<int>(std::ranges::count_if(m_Rows, &Row::IsSelected));
+    return static_cast<int>(std::ranges::count(m_IsSelected, true));
 }
 
 void HeadlessList::SelectOnly(const std::vector<int>& rows) {
-    for (Row& row : m_Rows) {
-        row.IsSelected = false;
-    }
+    m_IsSelected.assign(m_IsSelected.size(), false);
     for (const int row : rows) {
-        SelectRow(row, true);
+        SelectRows(row, row, true);
     }
     if (!rows.empty()) {
         m_Mark = m_Focused = rows.back();
     }
 }
 
-COLORREF HeadlessList::SwatchPixel(int row, int x, int y) const noexcept {
-    const auto pixels = HasRow(row) ? m_Images.Pixels(At(row).Image) : std::span<const unsigned>();
+void HeadlessList::SelectUpTo(int row) {
+    m_Mark = std::max(m_Mark, 0);
+    m_IsSelected.assign(m_IsSelected.size(), false);
+    SelectRows(std::min(m_Mark, row), std::max(m_Mark, row), true);
+    m_Focused = row;
+}
+
+COLORREF HeadlessList::ImagePixel(int image, int x, int y) const noexcept {
+    const auto pixels = m_Images.Pixels(image);
     const bool isInside = x >= 0 && y >= 0 && x < m_Images.Width() && y < m_Images.Height();
     if (pixels.empty() || !isInside) {
         return CLR_INVALID;

@@ -5,6 +5,7 @@
 #include <marlin/platform/windowing/c_image_list.h>
 #include <marlin/platform/windowing/report_list.h>
 
+#include <utility>
 #include <vector>
 
 namespace PLATFORM::detail {
@@ -17,16 +18,14 @@ public:
     [[nodiscard]] CString Heading(int column) const override;
     [[nodiscard]] int ColumnWidth(int column) const override;
 
-    [[nodiscard]] int RowCount() const override;
-    void InsertRow(int row, const CString& text, int image) override;
+    [[nodiscard]] int RowCount() const override { return static_cast<int>(m_IsSelected.size()); }
+    void SetRowCount(int count) override;
     void DeleteRow(int row) override;
-    void DeleteRows() override;
-    void SetCell(int row, int column, const CString& text) override;
-    [[nodiscard]] CString Cell(int row, int column) const override;
     void SetImages(const CImageList* images) override;
     void ScrollTo(int row) override { m_InView = row; }
+    void EditLabel(int row) override { m_Edited = row; }
 
-    void SelectRow(int row, bool selected) override;
+    void SelectRows(int first, int last, bool selected) override;
     [[nodiscard]] bool IsSelected(int row) const override;
     [[nodiscard]] int SelectedCount() const override;
     void SetFocusedRow(int row) override { m_Focused = row; }
@@ -37,31 +36,28 @@ public:
     [[nodiscard]] bool HasRow(int row) const noexcept { return row >= 0 && row < RowCount(); }
     /// The row last scrolled to, -1 for none.
     [[nodiscard]] int RowInView() const noexcept { return m_InView; }
-    /// A pixel of a row's image; CLR_INVALID where there is none, or a transparent one.
-    [[nodiscard]] COLORREF SwatchPixel(int row, int x, int y) const noexcept;
+    /// The row whose text is being typed, -1 for none; it is so no more.
+    [[nodiscard]] int TakeEditedRow() noexcept { return std::exchange(m_Edited, -1); }
+    /// A pixel of an image; CLR_INVALID where there is none, or a transparent one.
+    [[nodiscard]] COLORREF ImagePixel(int image, int x, int y) const noexcept;
     /// Selects these rows and no other, the last of them the focused one, as a user's clicks do.
     void SelectOnly(const std::vector<int>& rows);
+    /// Selects the rows from the mark to this one, as a user's arrow keys with Shift do.
+    void SelectUpTo(int row);
 
 private:
     struct Column {
         CString Heading;
         int Width = 0;
     };
-    struct Row {
-        std::vector<CString> Cells;
-        int Image = -1;
-        bool IsSelected = false;
-    };
-
-    [[nodiscard]] const Row& At(int row) const;
-    [[nodiscard]] Row& At(int row);
 
     std::vector<Column> m_Columns;
-    std::vector<Row> m_Rows;
+    std::vector<bool> m_IsSelected;  ///< Of each row.
     CImageList m_Images;
     int m_Focused = -1;
     int m_Mark = -1;
     int m_InView = -1;
+    int m_Edited = -1;
 };
 
 }  // namespace PLATFORM::detail

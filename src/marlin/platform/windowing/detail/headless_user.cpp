@@ -46,6 +46,13 @@ bool HeadlessUser::Click(int control) {
 }
 
 bool HeadlessUser::Type(int edit, const CString& text) {
+    if (HeadlessControl* const list = Reach(edit, CONTROL::REPORT_LIST)) {
+        const int row = list->List.TakeEditedRow();
+        if (row >= 0) {
+            SendLabel(list->Window, row, text);
+        }
+        return row >= 0;
+    }
     HeadlessControl* const found = Reach(edit, CONTROL::EDIT);
     if (found) {
         m_System.SetFocus(found->Window);
@@ -122,22 +129,37 @@ bool HeadlessUser::PressEnter(const HeadlessControl* focus) {
     return clicksItself ? Push(*focus) : PushDefault();
 }
 
-bool HeadlessUser::PressInList(HeadlessControl& list, int key) {
+bool HeadlessUser::RightClick(int list, int row) {
+    HeadlessControl* const found = Reach(list, CONTROL::REPORT_LIST);
+    if (!found || (row >= 0 && !found->List.HasRow(row))) {
+        return false;
+    }
+    if (row < 0) {
+        SelectOnly(*found, {});
+    } else if (!found->List.IsSelected(row)) {
+        SelectOnly(*found, {row});
+    }
+    SendContextMenu(found->Window, {});
+    return true;
+}
+
+// The arrow keys, and with a key that the list has no use for, the dialog.
+bool HeadlessUser::PressInList(HeadlessControl& list, int key, const HeldKeys& held) {
     const int step = key == VK_UP ? -1 : key == VK_DOWN ? 1 : 0;
-    const int row = list.List.FocusedRow() + step;
     if (step == 0) {
-        static_cast<void>(SendKey(list.Window, key));
+        return !held.Shift && !held.Control && SendKey(list.Window, key);
+    }
+    const int row = list.List.FocusedRow() < 0 ? 0 : list.List.FocusedRow() + step;
+    if (list.List.HasRow(row) && held.Shift) {
+        list.List.SelectUpTo(row);
+        SendNotice(list.Window, LVN_ITEMCHANGED);
     } else if (list.List.HasRow(row)) {
         SelectOnly(list, {row});
     }
     return true;
 }
 
-bool HeadlessUser::Press(int key) {
-    if (!IsOnTop()) {
-        return false;
-    }
-    HeadlessControl* const focus = m_System.FindControl(m_System.Focus(m_Dialog));
+bool HeadlessUser::PressPlain(HeadlessControl* focus, int key) {
     switch (key) {
         case VK_F1:
             SendHelp(m_Dialog);
@@ -147,8 +169,26 @@ bool HeadlessUser::Press(int key) {
         case VK_RETURN:
             return PressEnter(focus);
         default:
-            return focus && focus->Is(CONTROL::REPORT_LIST) && PressInList(*focus, key);
+            return false;
     }
+}
+
+bool HeadlessUser::Press(int key, const HeldKeys& held) {
+    if (!IsOnTop()) {
+        return false;
+    }
+    HeadlessControl* const focus = m_System.FindControl(m_System.Focus(m_Dialog));
+    if (focus && SendKeyDown(focus->Window, key, held)) {
+        return true;
+    }
+    const bool isInList = focus && focus->Is(CONTROL::REPORT_LIST);
+    if (isInList && focus->List.TakeEditedRow() >= 0 && key == VK_ESCAPE) {
+        return true;  // gives up the typing alone
+    }
+    if (isInList && key != VK_RETURN && PressInList(*focus, key, held)) {
+        return true;
+    }
+    return !held.Shift && !held.Control ? PressPlain(focus, key) || isInList : focus != nullptr;
 }
 
 bool HeadlessUser::CloseFrame() {

@@ -19,7 +19,10 @@ public:
     bool Choose(int combo, int item) override;
     bool SelectRows(int list, const std::vector<int>& rows) override;
     bool DoubleClick(int list, int row) override;
-    bool Press(int key) override;
+    bool RightClick(int list, int row) override;
+    using DialogUser::Press;
+    bool Press(int key, const HeldKeys& held) override;
+    void Idle() override { DispatchWaiting(); }
     bool CloseFrame() override;
 
 private:
@@ -29,7 +32,8 @@ private:
     bool Push(const HeadlessControl& button);
     bool PushDefault();
     bool PressEnter(const HeadlessControl* focus);
-    bool PressInList(HeadlessControl& list, int key);
+    bool PressInList(HeadlessControl& list, int key, const HeldKeys& held);
+    bool PressPlain(HeadlessControl* focus, int key);
     void SelectOnly(HeadlessControl& list, const std::vector<int>& rows);
 
     HeadlessWindowSystem& m_System;

@@ -27,6 +27,10 @@ void Call(CWnd& window, BOOL (CWnd::*handler)(HELPINFO*), const Notice& notice) 
     *notice.Result = (window.*handler)(static_cast<HELPINFO*>(notice.Record));
 }
 
+void Call(CWnd& window, void (CWnd::*handler)(CWnd*, CPoint), const Notice& notice) {
+    (window.*handler)(CWnd::FromHandle(static_cast<HWND>(notice.Record)), notice.Place);
+}
+
 }  // namespace
 
 bool CallHandler(CWnd& window, const AFX_MSGMAP* map, const Notice& notice) {

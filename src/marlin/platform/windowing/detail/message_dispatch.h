@@ -12,6 +12,7 @@ struct Notice {
     int Id = 0;
     bool IsReflected = false;  ///< For the control itself rather than for its dialog.
     void* Record = nullptr;
+    CPoint Place;
     LRESULT* Result = nullptr;
 };
 

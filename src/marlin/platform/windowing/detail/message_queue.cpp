@@ -14,11 +14,19 @@ const std::shared_ptr<MessageQueue>& MessageQueue::OfThisThread() {
     return PerThread<Queue>().Shared;
 }
 
+void MessageQueue::WakeBy(std::function<void()> wake) {
+    const std::lock_guard lock(m_Lock);
+    m_Wake = std::move(wake);
+}
+
 void MessageQueue::Post(const MSG& message) {
     const std::lock_guard lock(m_Lock);
     m_Messages.push_back(message);
     // Only the queue's own thread waits.
     m_Posted.notify_one();
+    if (m_Wake) {
+        m_Wake();
+    }
 }
 
 bool MessageQueue::TakeFirst(MSG& message, const MessageFilter& filter, bool remove) {

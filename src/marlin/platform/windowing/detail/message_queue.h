@@ -5,6 +5,7 @@
 
 #include <condition_variable>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <mutex>
 
@@ -30,6 +31,8 @@ public:
     /// The calling thread's queue, made on the first call.
     [[nodiscard]] static const std::shared_ptr<MessageQueue>& OfThisThread();
 
+    /// Calls `wake` after each post, on the thread that posted; an empty one calls nothing.
+    void WakeBy(std::function<void()> wake);
     void Post(const MSG& message);
     /// Copies the oldest message that the filter takes, and removes it when `remove` is set.
     /// False, and `message` unchanged, for none.
@@ -45,6 +48,7 @@ private:
     std::mutex m_Lock;
     std::condition_variable m_Posted;
     std::deque<MSG> m_Messages;
+    std::function<void()> m_Wake;
 };
 
 }  // namespace PLATFORM::detail

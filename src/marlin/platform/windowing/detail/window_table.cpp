@@ -40,9 +40,11 @@ HWND WindowTable::Insert(Record record) {
     return window;
 }
 
-HWND WindowTable::Add(HWND parent, int id) {
+HWND WindowTable::Add(HWND parent, int id, std::string name) {
     const std::scoped_lock lock(m_Lock);
-    return Insert({parent, id});
+    Record record = {parent, id};
+    record.Name = std::move(name);
+    return Insert(std::move(record));
 }
 
 void WindowTable::AddOwned(CWnd* owner) {
@@ -99,6 +101,12 @@ int WindowTable::Id(HWND window) {
     const std::scoped_lock lock(m_Lock);
     const Record* const record = Find(window);
     return record ? record->Id : 0;
+}
+
+std::string WindowTable::Name(HWND window) {
+    const std::scoped_lock lock(m_Lock);
+    const Record* const record = Find(window);
+    return record ? record->Name : std::string();
 }
 
 HWND WindowTable::Child(HWND parent, int id) {

@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <mutex>
+#include <string>
 #include <unordered_map>
 
 namespace PLATFORM::detail {
@@ -32,8 +33,9 @@ public:
 
     [[nodiscard]] static WindowTable& Get() noexcept;
 
-    /// A new window of the calling thread; a control has a parent and its number there.
-    [[nodiscard]] HWND Add(HWND parent, int id);
+    /// A new window of the calling thread; a control has a parent, its number there and its name
+    /// for people.
+    [[nodiscard]] HWND Add(HWND parent, int id, std::string name = {});
     /// A new window that ends with its object.
     void AddOwned(CWnd* owner);
     /// Ends a window and its controls: their objects have none afterwards, and the messages that
@@ -45,6 +47,7 @@ public:
     [[nodiscard]] bool Has(HWND window);
     [[nodiscard]] HWND Parent(HWND window);
     [[nodiscard]] int Id(HWND window);
+    [[nodiscard]] std::string Name(HWND window);
     [[nodiscard]] HWND Child(HWND parent, int id);
     [[nodiscard]] MessageTarget Target(HWND window);
 
@@ -61,6 +64,7 @@ private:
         bool IsOwned = false;  ///< The window ends with the attached object.
         std::unique_ptr<CWnd> MadeUp = nullptr;
         std::shared_ptr<MessageQueue> Queue = MessageQueue::OfThisThread();
+        std::string Name = {};
     };
 
     // These are for callers that hold the lock.

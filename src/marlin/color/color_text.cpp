@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "color_argument.h"
-
+#include <marlin/color/color_text.h>
 #include <marlin/color/dxf_color.h>
 #include <marlin/core/ascii.h>
 
@@ -9,7 +8,7 @@
 #include <charconv>
 #include <utility>
 
-namespace HOST {
+namespace MARLINSUITE {
 
 namespace {
 
@@ -63,12 +62,12 @@ std::optional<RGBColor> ParseColor(std::string_view text) {
     if (text.starts_with('#')) {
         return ParseHex(text.substr(1));
     }
-    if (MARLINSUITE::EqualIgnoringCase(text.substr(0, dxf.size()), dxf)) {
+    if (EqualIgnoringCase(text.substr(0, dxf.size()), dxf)) {
         const std::optional<int> index = ParseNatural(text.substr(dxf.size()), 10, 255);
         return index ? std::optional<RGBColor>(DXFColor(*index)) : std::nullopt;
     }
     const auto* const name = std::ranges::find_if(names, [text](const auto& entry) {
-        return MARLINSUITE::EqualIgnoringCase(entry.first, text);
+        return EqualIgnoringCase(entry.first, text);
     });
     if (name != names.end()) {
         return name->second;
@@ -76,4 +75,14 @@ std::optional<RGBColor> ParseColor(std::string_view text) {
     return ParseTriple(text, text.find('/') == std::string_view::npos ? ',' : '/');
 }
 
-}  // namespace HOST
+std::string ColorText(const RGBColor& color) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string text = "#";
+    for (const int level : {color.Red(), color.Green(), color.Blue()}) {
+        text += digits[static_cast<std::size_t>(level >> 4)];
+        text += digits[static_cast<std::size_t>(level & 0x0F)];
+    }
+    return text;
+}
+
+}  // namespace MARLINSUITE

@@ -7,9 +7,6 @@
 
 namespace HOST {
 
-/// "#rrggbb".
-[[nodiscard]] std::string ColorText(const RGBColor& color);
-
 /// Two cells of the color and a blank, for a terminal that knows 24-bit colors.
 [[nodiscard]] std::string Swatch(const RGBColor& color);
 

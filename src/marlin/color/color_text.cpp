@@ -66,9 +66,8 @@ std::optional<RGBColor> ParseColor(std::string_view text) {
         const std::optional<int> index = ParseNatural(text.substr(dxf.size()), 10, 255);
         return index ? std::optional<RGBColor>(DXFColor(*index)) : std::nullopt;
     }
-    const auto* const name = std::ranges::find_if(names, [text](const auto& entry) {
-        return EqualIgnoringCase(entry.first, text);
-    });
+    const auto* const name = std::ranges::find_if(
+        names, [text](const auto& entry) { return EqualIgnoringCase(entry.first, text); });
     if (name != names.end()) {
         return name->second;
     }

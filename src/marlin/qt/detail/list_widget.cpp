@@ -7,7 +7,6 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
-#include <QScreen>
 #include <QScrollBar>
 #include <algorithm>
 
@@ -64,11 +63,12 @@ int ListWidget::ColumnWidth(int column) const {
 }
 
 void ListWidget::FitColumns() {
-    const int widest = screen()->availableSize().width() / 8;
+    // A level of 1e200 has over 200 digits.
+    const int widest = 24 * fontMetrics().averageCharWidth();
     int total = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
     for (int i = 0; i < ColumnCount(); ++i) {
-        const int content = std::max(header()->sectionSizeHint(i), sizeHintForColumn(i));
-        const int wanted = std::max(ColumnWidth(i), std::min(content, widest));
+        const int content = std::min(sizeHintForColumn(i), widest);
+        const int wanted = std::max({ColumnWidth(i), header()->sectionSizeHint(i), content});
         // A column that the user made wider stays so.
         header()->resizeSection(i, std::max(header()->sectionSize(i), wanted));
         total += wanted;

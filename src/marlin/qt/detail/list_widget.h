@@ -20,7 +20,7 @@ public:
     [[nodiscard]] CString Heading(int column) const override;
     [[nodiscard]] int ColumnWidth(int column) const override;
     /// Makes each column at least as wide as it was given and as its heading and the rows in view
-    /// need, and the list wide enough for all columns, but no wider than half the screen.
+    /// need, which is at most the width of 24 letters, and the list wide enough for all columns.
     void FitColumns();
 
     [[nodiscard]] int RowCount() const override { return m_Rows.rowCount(); }

@@ -32,6 +32,19 @@ QRect RowPainter::DrawCell(QPainter& painter, const QStyleOptionViewItem& cell,
     return cell.rect.adjusted(qRound(text.left / ratio), 0, 0, 0);
 }
 
+QSize RowPainter::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const QSize size = QStyledItemDelegate::sizeHint(option, index);
+    const RECT cell = {0, 0, size.width(), size.height()};
+    int drawn = 0;
+    static_cast<void>(DrawnImage({1, 1}, [&](CDC& dc) {
+        drawn = index.column() == 0
+                    ? 0
+                    : static_cast<int>(
+                          SendDrawCell(m_List, index.row(), index.column(), dc, cell).left);
+    }));
+    return size + QSize(drawn, 0);
+}
+
 void RowPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
                        const QModelIndex& index) const {
     QStyleOptionViewItem cell = option;

@@ -13,6 +13,9 @@ class RowPainter final : public QStyledItemDelegate {
 public:
     explicit RowPainter(HWND list) : m_List(list) {}
 
+    /// With room for what the dialog draws beside the text.
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const override;
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
 

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QPainter>
 #include <QStyle>
+#include <algorithm>
 
 namespace PLATFORM::detail {
 
@@ -34,7 +35,9 @@ QRect RowPainter::DrawCell(QPainter& painter, const QStyleOptionViewItem& cell,
 
 QSize RowPainter::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
     const QSize size = QStyledItemDelegate::sizeHint(option, index);
-    const RECT cell = {0, 0, size.width(), size.height()};
+    // A row is as high as its image needs.
+    const RECT cell = {0, 0, size.width(),
+                       std::max(size.height(), option.decorationSize.height() + 4)};
     int drawn = 0;
     static_cast<void>(DrawnImage({1, 1}, [&](CDC& dc) {
         drawn = index.column() == 0

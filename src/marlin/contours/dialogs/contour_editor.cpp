@@ -89,6 +89,7 @@ BOOL CContourEditor::OnInitDialog() {
     GetWindowText(m_Title);
     if (!m_FileName.IsEmpty()) {
         m_Title += " - " + GetTitleFromPath(m_FileName);
+        SetWindowText(m_Title);
         m_State->Read.Note(m_FileName.GetString());
     }
     ContourDefinitionList read;
@@ -115,7 +116,9 @@ void CContourEditor::SetAddRemoveButtonState() {
     const bool hasSelection = m_State->List.Control.GetSelectedCount() > 0;
     GetDlgItem(CONTROL_EDIT)->EnableWindow(hasSelection);
     GetDlgItem(CONTROL_REMOVE)->EnableWindow(hasSelection);
-    SetWindowText(m_AsksBeforeLoss && IsChanged() ? m_Title + " *" : m_Title);
+    if (m_AsksBeforeLoss) {
+        SetWindowText(IsChanged() ? m_Title + " *" : m_Title);
+    }
 }
 
 void CContourEditor::OnAddContour() {
@@ -151,13 +154,12 @@ void CContourEditor::OnEditContour() {
 }
 
 bool CContourEditor::Modify(const ContourDefInfo& edited, const std::vector<int>& rows) {
-    const bool isPossible = !m_State->List.MovesOntoAnother(edited, rows.front());
-    if (isPossible) {
-        m_State->List.Modify(edited, rows);
-    } else {
+    if (m_State->List.MovesOntoAnother(edited, rows.front())) {
         ShowError(*this, TextOf(MESSAGE::CONTOUR_NOT_MODIFIED));
+        return false;
     }
-    return isPossible;
+    m_State->List.Modify(edited, rows);
+    return true;
 }
 
 void CContourEditor::OnRemoveContour() {

@@ -8,7 +8,6 @@
 #include <system_error>
 #include <utility>
 
-#include <cxxabi.h>
 #include <sys/resource.h>
 
 namespace PLATFORM::detail {
@@ -75,10 +74,12 @@ struct Joiner {
 std::exception_ptr ExceptionOf(const std::function<void()>& call) {
     try {
         call();
-    } catch (const abi::__forced_unwind&) {
-        throw;  // the thread is cancelled, which nobody may hold up
     } catch (...) {
-        return std::current_exception();
+        std::exception_ptr thrown = std::current_exception();
+        if (!thrown) {
+            throw;  // no exception: the thread is cancelled, which nobody may hold up
+        }
+        return thrown;
     }
     return nullptr;
 }
